@@ -1,0 +1,2 @@
+/* Replaced by the bridge's sources. */
+typedef int TouchBridgePlaceholder;

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace tactora {
+
+// The recogniser's built-in scenarios. Prints its pass line on success; a failed expectation
+// stops the program with an assertion naming "Gestures".
+void runTests();
+
+// The dispatch guard's built-in scenarios, with the same reporting as runTests().
+void dispatchTests();
+
+}  // namespace tactora

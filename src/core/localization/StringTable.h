@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tactora {
+
+// The localised texts of one language, by key. Implementations: the main bundle's table on
+// macOS, a parsed .strings file elsewhere, a map in tests.
+class StringTable {
+public:
+    virtual ~StringTable() = default;
+
+    // The text for `key`, or nothing when the table has no entry for it.
+    virtual std::optional<std::string> lookup(std::string_view key) const = 0;
+};
+
+}  // namespace tactora

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tactora {
+
+// Called on the sensor's own thread with the contacts that touch the surface; the arrays hold
+// `count` entries and are valid only during the call. Count 0 means every finger has lifted.
+using FrameCallback = void (*)(std::int32_t count, const std::int32_t* ids, const float* xs,
+                               const float* ys);
+
+// The mouse's touch sensor. All members are called on the main thread.
+class Sensor {
+public:
+    virtual ~Sensor() = default;
+
+    // Stops any earlier connection, then connects and starts delivering frames to `callback`.
+    // True when frames flow.
+    virtual bool start(FrameCallback callback) = 0;
+    virtual void stop() = 0;
+
+    // The status key of the last start ("sensor.connected", "sensor.missing", ...).
+    virtual std::string status() const = 0;
+    // The error code of the last failed device start, 0 otherwise.
+    virtual std::int32_t statusError() const = 0;
+
+    // Whether the input device with this registry entry id is the Magic Mouse.
+    virtual bool isMouseSender(std::uint64_t senderID) = 0;
+};
+
+}  // namespace tactora

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/profiles/WorkProfile.h"
+
+namespace tactora {
+
+// The stored form of a profile list: one compact JSON array of profile objects.
+
+// Nothing when a profile cannot be written (a name or label that is not valid UTF-8).
+std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profiles);
+
+// The whole list, or nothing at all when any element is malformed: a missing key, a value of
+// the wrong type or out of its field's range, or an id that is not a UUID. Unknown keys are
+// ignored and nothing is repaired; run sanitize() on each profile afterwards.
+std::optional<std::vector<WorkProfile>> decodeProfiles(std::string_view json);
+
+}  // namespace tactora

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "core/profiles/Preferences.h"
+
+namespace tactora {
+
+// The store's built-in scenario, run on a fresh private suite of `suites` that is removed
+// afterwards. Prints its pass line; a failed step stops the program with an assertion naming
+// "Profiles".
+void profileTests(PreferenceSuites& suites);
+
+}  // namespace tactora

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/profiles/ModifierFlags.h"
+
+namespace tactora {
+
+// A recorded key combination: a virtual key code, its modifiers and the label shown for it.
+struct SavedShortcut {
+    // Command, Control, Option, Shift and Function; nothing else survives construction.
+    static constexpr std::uint64_t allowedFlags = ModifierFlags::command | ModifierFlags::control |
+                                                  ModifierFlags::option | ModifierFlags::shift |
+                                                  ModifierFlags::function;
+
+    // Keeps only the allowed modifier bits of `flags`.
+    SavedShortcut(std::uint16_t keyCode, std::uint64_t flags, std::string label);
+
+    // A shortcut exactly as it was stored, flags unmasked; only the JSON decoder needs this, so
+    // that sanitising can tell a damaged record from a good one.
+    static SavedShortcut decoded(std::uint16_t keyCode, std::uint64_t flags, std::string label);
+
+    // Key code below 128, a non-empty label and no modifier outside allowedFlags.
+    bool isValid() const;
+
+    std::uint16_t keyCode = 0;
+    std::uint64_t flags = 0;
+    std::string label;
+
+    bool operator==(const SavedShortcut&) const = default;
+
+private:
+    struct Unmasked {};
+    SavedShortcut(Unmasked, std::uint16_t keyCode, std::uint64_t flags, std::string label);
+};
+
+}  // namespace tactora

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/actions/ActionIndex.h"
+#include "core/profiles/GestureSlot.h"
+#include "core/profiles/SavedShortcut.h"
+#include "core/profiles/Uuid.h"
+
+namespace tactora {
+
+// A named set of gesture-to-action assignments, one action and one optional shortcut per
+// gesture slot. The lists are stored as given; sanitize() brings them into shape.
+struct WorkProfile {
+    // A new profile with a fresh random id; by default every slot does the system's default.
+    explicit WorkProfile(std::string name,
+                         std::vector<ActionIndex> actions = std::vector<ActionIndex>(slot::count),
+                         std::vector<std::optional<SavedShortcut>> shortcuts =
+                             std::vector<std::optional<SavedShortcut>>(slot::count));
+
+    // A profile with a known id, as read back from storage.
+    WorkProfile(Uuid id, std::string name, std::vector<ActionIndex> actions,
+                std::vector<std::optional<SavedShortcut>> shortcuts);
+
+    // Exactly eight actions and shortcuts afterwards; invalid shortcuts are dropped and actions
+    // outside the catalogue, or custom actions without a shortcut, fall back to the default.
+    void sanitize();
+
+    Uuid id;
+    std::string name;
+    std::vector<ActionIndex> actions;
+    std::vector<std::optional<SavedShortcut>> shortcuts;
+
+    bool operator==(const WorkProfile&) const = default;
+};
+
+}  // namespace tactora

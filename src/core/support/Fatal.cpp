@@ -1,0 +1,24 @@
+#include "core/support/Fatal.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+namespace tactora {
+
+void fatalError(std::string_view message) {
+    const std::string text(message);
+    std::fflush(stdout);
+    std::fprintf(stderr, "Fatal error: %s\n", text.c_str());
+    std::fflush(stderr);
+    std::abort();
+}
+
+void expect(bool condition, std::string_view source, std::string_view what) {
+    if (condition) {
+        return;
+    }
+    fatalError("Assertion failed: " + std::string(source) + ": " + std::string(what));
+}
+
+}  // namespace tactora
