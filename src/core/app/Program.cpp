@@ -1,0 +1,31 @@
+#include "core/app/Program.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "core/app/Globals.h"
+#include "core/console/ConsoleModes.h"
+
+namespace tactora {
+
+namespace {
+bool contains(std::span<const std::string> arguments, std::string_view flag) {
+    return std::ranges::find(arguments, flag) != arguments.end();
+}
+}  // namespace
+
+int runProgram(std::span<const std::string> arguments, ProgramEnvironment& environment) {
+    initializeGlobals();
+    if (contains(arguments, "--self-test")) {
+        runSelfTest(environment);
+    } else if (contains(arguments, "--check-localization")) {
+        runLocalizationCheck(environment);
+    } else if (contains(arguments, "--probe")) {
+        runProbe(environment);
+    } else {
+        environment.runApplication();
+    }
+    return 0;
+}
+
+}  // namespace tactora
