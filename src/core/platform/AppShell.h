@@ -1,0 +1,40 @@
+#pragma once
+
+#include <vector>
+
+#include "core/platform/MenuEntry.h"
+
+namespace tactora {
+
+// The application's furniture, built once at launch in the order that the controller's
+// applicationDidFinishLaunching() decides. Main thread only.
+class AppShell {
+  public:
+    virtual ~AppShell() = default;
+
+    // A regular application: Dock icon and main menu as well as the status item.
+    virtual void setRegularActivationPolicy() = 0;
+
+    // Makes the bundled icon the application icon; keeps the default when it is missing.
+    virtual void applyApplicationIcon() = 0;
+
+    // Installs the main menu: one item whose submenu holds `items`.
+    virtual void buildMainMenu(const std::vector<MenuEntry>& items) = 0;
+
+    // Builds the settings window around the controls of SettingsView, with eight gesture rows
+    // (see gestureRows()) whose pop-ups hold choices() and reach the controller's changed(slot),
+    // and whose record buttons reach recordShortcut(slot). Leaves the gesture rows' selections
+    // to the controller. Does not show the window.
+    virtual void buildWindow() = 0;
+
+    // Creates the status-bar item, variable length, with no menu yet.
+    virtual void createStatusItem() = 0;
+
+    // Attaches a menu holding `items` to the status item.
+    virtual void buildStatusMenu(const std::vector<MenuEntry>& items) = 0;
+
+    // Brings the settings window to the front and makes it key.
+    virtual void showWindow() = 0;
+};
+
+}  // namespace tactora
