@@ -15,11 +15,6 @@ class RecordingDialog {
 
     // The save button, disabled when the dialog opens.
     virtual void setSaveEnabled(bool enabled) = 0;
-
-  protected:
-    RecordingDialog() = default;
-    RecordingDialog(const RecordingDialog&) = default;
-    RecordingDialog& operator=(const RecordingDialog&) = default;
 };
 
 }  // namespace tactora

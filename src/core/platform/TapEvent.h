@@ -19,11 +19,6 @@ class TapEvent {
 
     // Changes the event's type; everything else about it stays.
     virtual void setType(EventType type) = 0;
-
-  protected:
-    TapEvent() = default;
-    TapEvent(const TapEvent&) = default;
-    TapEvent& operator=(const TapEvent&) = default;
 };
 
 }  // namespace tactora
