@@ -12,7 +12,7 @@ namespace tactora {
 // map and, because clear() keeps the capacity, a recogniser that has seen a sequence's ids
 // once allocates nothing per frame afterwards.
 class FingerOrigins {
-public:
+  public:
     struct Origin {
         double x = 0;
         double y = 0;
@@ -32,7 +32,7 @@ public:
     // Equal when both hold the same ids with the same origins, in any order.
     bool operator==(const FingerOrigins& other) const;
 
-private:
+  private:
     struct Entry {
         std::int64_t id = 0;
         Origin origin;

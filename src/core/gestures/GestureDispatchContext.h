@@ -10,8 +10,8 @@ namespace tactora {
 // What the world looked like when a gesture was recognised. A scheduled action carries it and
 // runs only if it is still current when it comes due.
 struct GestureDispatchContext {
-    std::int64_t generation = 0;           // the controller's action generation at capture
-    Uuid profile;                          // the active work profile at capture
+    std::int64_t generation = 0;            // the controller's action generation at capture
+    Uuid profile;                           // the active work profile at capture
     std::optional<std::int32_t> targetPID;  // the frontmost application's process, if any
 
     // True when gestures are enabled, nothing is being configured, and generation, profile and

@@ -16,14 +16,14 @@ namespace tactora {
 //
 // Not thread-safe; the application feeds it on the main thread only.
 struct GestureState {
-    static constexpr double shortestTap = 0.035;       // seconds; shorter is noise
-    static constexpr double longestTap = 0.3;          // seconds; longer is a press or a rest
+    static constexpr double shortestTap = 0.035;        // seconds; shorter is noise
+    static constexpr double longestTap = 0.3;           // seconds; longer is a press or a rest
     static constexpr double movementTolerance = 0.045;  // normalised surface units
     static constexpr std::int64_t maxFingers = 4;
 
-    std::int64_t count = 0;        // fingers in the most recent frame
+    std::int64_t count = 0;       // fingers in the most recent frame
     std::optional<double> began;  // time of the sequence's first non-empty frame
-    std::int64_t peak = 0;         // largest finger count of the sequence
+    std::int64_t peak = 0;        // largest finger count of the sequence
     FingerOrigins origins;
     bool moved = false;    // some finger went farther than the tolerance from its origin
     bool clicked = false;  // a physical click happened during the sequence

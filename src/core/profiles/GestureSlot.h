@@ -10,9 +10,15 @@ namespace tactora {
 namespace slot {
 inline constexpr std::size_t count = 8;
 
-constexpr std::int64_t forClick(std::int64_t fingers) { return fingers - 1; }
-constexpr std::int64_t forTap(std::int64_t fingers) { return fingers + 3; }
-constexpr bool isValid(std::int64_t index) { return index >= 0 && index < std::int64_t{count}; }
+constexpr std::int64_t forClick(std::int64_t fingers) {
+    return fingers - 1;
+}
+constexpr std::int64_t forTap(std::int64_t fingers) {
+    return fingers + 3;
+}
+constexpr bool isValid(std::int64_t index) {
+    return index >= 0 && index < std::int64_t{count};
+}
 }  // namespace slot
 
 }  // namespace tactora

@@ -14,7 +14,7 @@ using Bytes = std::vector<std::uint8_t>;
 // reads as absent. Writes take effect at once for later reads; persisting them is the
 // implementation's business. Main thread only.
 class Preferences {
-public:
+  public:
     virtual ~Preferences() = default;
 
     virtual std::optional<Bytes> data(const std::string& key) const = 0;
@@ -29,7 +29,7 @@ public:
 
 // The standard domain and named private suites beside it. Main thread only.
 class PreferenceSuites {
-public:
+  public:
     virtual ~PreferenceSuites() = default;
 
     virtual std::shared_ptr<Preferences> standard() = 0;

@@ -16,7 +16,7 @@ namespace tactora {
 // saved at once, in full. Requests that break a precondition are ignored silently and save
 // nothing. Main thread only.
 class ProfileStore {
-public:
+  public:
     static constexpr const char* profilesKey = "workProfiles.v1";
     static constexpr const char* rejectedProfilesKey = "workProfiles.v1.rejected";
     static constexpr const char* activeKey = "activeWorkProfile";
@@ -45,7 +45,10 @@ public:
     void add(const std::string& name, bool duplicate);
     void rename(const std::string& name);
 
-private:
+  private:
+    // The active profile for editing, or null.
+    WorkProfile* active();
+
     std::shared_ptr<Preferences> defaults_;
     std::vector<WorkProfile> profiles_;
     Uuid activeID_;

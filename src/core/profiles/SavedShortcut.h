@@ -30,7 +30,7 @@ struct SavedShortcut {
 
     bool operator==(const SavedShortcut&) const = default;
 
-private:
+  private:
     struct Unmasked {};
     SavedShortcut(Unmasked, std::uint16_t keyCode, std::uint64_t flags, std::string label);
 };

@@ -11,7 +11,7 @@ namespace tactora {
 
 // A 128-bit universally unique identifier.
 class Uuid {
-public:
+  public:
     // The nil identifier (all zero bits); never produced by random().
     constexpr Uuid() = default;
     explicit constexpr Uuid(const std::array<std::uint8_t, 16>& bytes) : bytes_(bytes) {}
@@ -30,7 +30,7 @@ public:
 
     constexpr auto operator<=>(const Uuid&) const = default;
 
-private:
+  private:
     std::array<std::uint8_t, 16> bytes_{};
 };
 

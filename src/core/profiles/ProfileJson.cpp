@@ -1,0 +1,196 @@
+#include "core/profiles/ProfileJson.h"
+
+#include <cstdint>
+#include <exception>
+#include <limits>
+#include <nlohmann/json.hpp>
+#include <utility>
+
+namespace tactora {
+
+namespace {
+
+using Json = nlohmann::json;
+using OrderedJson = nlohmann::ordered_json;
+
+OrderedJson encodeShortcut(const std::optional<SavedShortcut>& shortcut) {
+    if (!shortcut) {
+        return nullptr;
+    }
+    OrderedJson object = OrderedJson::object();
+    object["keyCode"] = shortcut->keyCode;
+    object["flags"] = shortcut->flags;
+    object["label"] = shortcut->label;
+    return object;
+}
+
+OrderedJson encodeProfile(const WorkProfile& profile) {
+    OrderedJson object = OrderedJson::object();
+    object["id"] = profile.id.text();
+    object["name"] = profile.name;
+    object["actions"] = profile.actions;
+    OrderedJson shortcuts = OrderedJson::array();
+    for (const auto& shortcut : profile.shortcuts) {
+        shortcuts.push_back(encodeShortcut(shortcut));
+    }
+    object["shortcuts"] = std::move(shortcuts);
+    return object;
+}
+
+// Integers only: a JSON number with a fraction or an exponent is refused even when its value
+// is whole, because no writer of this format produces one and accepting it would let a damaged
+// value such as 1e300 pass for an index.
+std::optional<std::uint64_t> unsignedValue(const Json& value) {
+    if (value.is_number_unsigned()) {
+        return value.get<std::uint64_t>();
+    }
+    if (value.is_number_integer() && value.get<std::int64_t>() >= 0) {
+        return static_cast<std::uint64_t>(value.get<std::int64_t>());
+    }
+    return std::nullopt;
+}
+
+std::optional<std::int64_t> signedValue(const Json& value) {
+    if (value.is_number_unsigned()) {
+        const auto number = value.get<std::uint64_t>();
+        if (number > static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max())) {
+            return std::nullopt;
+        }
+        return static_cast<std::int64_t>(number);
+    }
+    if (value.is_number_integer()) {
+        return value.get<std::int64_t>();
+    }
+    return std::nullopt;
+}
+
+const Json* member(const Json& object, const char* key) {
+    const auto found = object.find(key);
+    return found == object.end() ? nullptr : &*found;
+}
+
+const std::string* stringMember(const Json& object, const char* key) {
+    const Json* value = member(object, key);
+    return value != nullptr && value->is_string() ? value->get_ptr<const std::string*>() : nullptr;
+}
+
+const Json* arrayMember(const Json& object, const char* key) {
+    const Json* value = member(object, key);
+    return value != nullptr && value->is_array() ? value : nullptr;
+}
+
+std::optional<SavedShortcut> decodeShortcut(const Json& object) {
+    if (!object.is_object()) {
+        return std::nullopt;
+    }
+    const Json* keyCodeValue = member(object, "keyCode");
+    const Json* flagsValue = member(object, "flags");
+    const std::string* label = stringMember(object, "label");
+    if (keyCodeValue == nullptr || flagsValue == nullptr || label == nullptr) {
+        return std::nullopt;
+    }
+    const std::optional<std::uint64_t> keyCode = unsignedValue(*keyCodeValue);
+    const std::optional<std::uint64_t> flags = unsignedValue(*flagsValue);
+    if (!keyCode || *keyCode > std::numeric_limits<std::uint16_t>::max() || !flags) {
+        return std::nullopt;
+    }
+    return SavedShortcut::decoded(static_cast<std::uint16_t>(*keyCode), *flags, *label);
+}
+
+std::optional<std::vector<ActionIndex>> decodeActions(const Json& array) {
+    std::vector<ActionIndex> actions;
+    actions.reserve(array.size());
+    for (const Json& element : array) {
+        const std::optional<std::int64_t> value = signedValue(element);
+        if (!value) {
+            return std::nullopt;
+        }
+        actions.push_back(*value);
+    }
+    return actions;
+}
+
+// The outer optional is the outcome; the inner one is a slot without a shortcut.
+std::optional<std::vector<std::optional<SavedShortcut>>> decodeShortcuts(const Json& array) {
+    std::vector<std::optional<SavedShortcut>> shortcuts;
+    shortcuts.reserve(array.size());
+    for (const Json& element : array) {
+        if (element.is_null()) {
+            shortcuts.emplace_back(std::nullopt);
+            continue;
+        }
+        std::optional<SavedShortcut> shortcut = decodeShortcut(element);
+        if (!shortcut) {
+            return std::nullopt;
+        }
+        shortcuts.emplace_back(std::move(shortcut));
+    }
+    return shortcuts;
+}
+
+std::optional<WorkProfile> decodeProfile(const Json& object) {
+    if (!object.is_object()) {
+        return std::nullopt;
+    }
+    const std::string* idText = stringMember(object, "id");
+    const std::string* name = stringMember(object, "name");
+    const Json* actionsArray = arrayMember(object, "actions");
+    const Json* shortcutsArray = arrayMember(object, "shortcuts");
+    if (idText == nullptr || name == nullptr || actionsArray == nullptr ||
+        shortcutsArray == nullptr) {
+        return std::nullopt;
+    }
+    const std::optional<Uuid> id = Uuid::parse(*idText);
+    auto actions = decodeActions(*actionsArray);
+    auto shortcuts = decodeShortcuts(*shortcutsArray);
+    if (!id || !actions || !shortcuts) {
+        return std::nullopt;
+    }
+    return WorkProfile(*id, *name, std::move(*actions), std::move(*shortcuts));
+}
+
+std::optional<std::vector<WorkProfile>> decodeList(const Json& array) {
+    if (!array.is_array()) {
+        return std::nullopt;
+    }
+    std::vector<WorkProfile> profiles;
+    profiles.reserve(array.size());
+    for (const Json& element : array) {
+        std::optional<WorkProfile> profile = decodeProfile(element);
+        if (!profile) {
+            return std::nullopt;
+        }
+        profiles.push_back(std::move(*profile));
+    }
+    return profiles;
+}
+
+}  // namespace
+
+std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profiles) {
+    try {
+        OrderedJson array = OrderedJson::array();
+        for (const WorkProfile& profile : profiles) {
+            array.push_back(encodeProfile(profile));
+        }
+        return array.dump();
+    } catch (const nlohmann::json::exception&) {
+        // The writer refuses text that is not valid UTF-8.
+        return std::nullopt;
+    }
+}
+
+std::optional<std::vector<WorkProfile>> decodeProfiles(std::string_view json) {
+    try {
+        const Json document = Json::parse(json.begin(), json.end(), nullptr, false);
+        if (document.is_discarded()) {
+            return std::nullopt;
+        }
+        return decodeList(document);
+    } catch (const std::exception&) {
+        // Whatever the input, a failure is an answer, never an exception for the caller.
+        return std::nullopt;
+    }
+}
+
+}  // namespace tactora

@@ -1,0 +1,173 @@
+#include "core/profiles/ProfileStore.h"
+
+#include <algorithm>
+#include <set>
+#include <string_view>
+#include <utility>
+
+#include "core/profiles/GestureSlot.h"
+#include "core/profiles/ProfileJson.h"
+#include "core/support/Fatal.h"
+
+namespace tactora {
+
+namespace {
+
+std::string textOf(const Bytes& bytes) {
+    return {bytes.begin(), bytes.end()};
+}
+
+Bytes bytesOf(std::string_view text) {
+    return {text.begin(), text.end()};
+}
+
+bool hasDistinctIDs(const std::vector<WorkProfile>& profiles) {
+    std::set<Uuid> ids;
+    for (const WorkProfile& profile : profiles) {
+        ids.insert(profile.id);
+    }
+    return ids.size() == profiles.size();
+}
+
+// The stored list's raw bytes: normally a data value, but a text under the key is kept too, so
+// that it can be set aside rather than silently overwritten.
+std::optional<Bytes> storedList(const Preferences& defaults) {
+    if (std::optional<Bytes> data = defaults.data(ProfileStore::profilesKey)) {
+        return data;
+    }
+    if (const std::optional<std::string> text = defaults.string(ProfileStore::profilesKey)) {
+        return bytesOf(*text);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::vector<WorkProfile>> acceptedList(const Bytes& stored) {
+    std::optional<std::vector<WorkProfile>> profiles = decodeProfiles(textOf(stored));
+    if (!profiles || profiles->empty() || !hasDistinctIDs(*profiles)) {
+        return std::nullopt;
+    }
+    for (WorkProfile& profile : *profiles) {
+        profile.sanitize();
+    }
+    return profiles;
+}
+
+WorkProfile migratedProfile(const Preferences& defaults, std::string name) {
+    std::vector<ActionIndex> actions;
+    actions.reserve(slot::count);
+    for (std::size_t i = 0; i < slot::count; ++i) {
+        const auto key = ProfileStore::legacyKeyPrefix + std::to_string(i);
+        actions.push_back(defaults.integer(key).value_or(action::defaultAction));
+    }
+    WorkProfile profile(std::move(name), std::move(actions));
+    profile.sanitize();
+    return profile;
+}
+
+}  // namespace
+
+ProfileStore::ProfileStore(std::shared_ptr<Preferences> defaults, std::string defaultName)
+    : defaults_(std::move(defaults)) {
+    const std::optional<Bytes> stored = storedList(*defaults_);
+    std::optional<std::vector<WorkProfile>> accepted;
+    if (stored) {
+        accepted = acceptedList(*stored);
+        if (!accepted) {
+            defaults_->setData(rejectedProfilesKey, *stored);
+        }
+    }
+    profiles_ = accepted
+                    ? std::move(*accepted)
+                    : std::vector<WorkProfile>{migratedProfile(*defaults_, std::move(defaultName))};
+
+    activeID_ = profiles_.front().id;
+    if (const auto text = defaults_->string(activeKey)) {
+        const std::optional<Uuid> remembered = Uuid::parse(*text);
+        if (remembered && std::any_of(profiles_.begin(), profiles_.end(),
+                                      [&](const WorkProfile& p) { return p.id == *remembered; })) {
+            activeID_ = *remembered;
+        }
+    }
+    save();
+}
+
+const WorkProfile& ProfileStore::current() const {
+    const auto found = std::find_if(profiles_.begin(), profiles_.end(),
+                                    [this](const WorkProfile& p) { return p.id == activeID_; });
+    if (found == profiles_.end()) {
+        fatalError("Unexpectedly found nil while unwrapping an Optional value");
+    }
+    return *found;
+}
+
+WorkProfile* ProfileStore::active() {
+    const auto found = std::find_if(profiles_.begin(), profiles_.end(),
+                                    [this](const WorkProfile& p) { return p.id == activeID_; });
+    return found == profiles_.end() ? nullptr : &*found;
+}
+
+void ProfileStore::save() {
+    if (const std::optional<std::string> json = encodeProfiles(profiles_)) {
+        defaults_->setData(profilesKey, bytesOf(*json));
+    }
+    defaults_->setString(activeKey, activeID_.text());
+}
+
+void ProfileStore::select(const Uuid& id) {
+    const bool known = std::any_of(profiles_.begin(), profiles_.end(),
+                                   [&id](const WorkProfile& p) { return p.id == id; });
+    if (!known) {
+        return;
+    }
+    activeID_ = id;
+    save();
+}
+
+void ProfileStore::setAction(ActionIndex action, std::int64_t index) {
+    if (!slot::isValid(index) || !action::isValid(action)) {
+        return;
+    }
+    WorkProfile* profile = active();
+    if (profile == nullptr) {
+        return;
+    }
+    profile->actions[static_cast<std::size_t>(index)] = action;
+    save();
+}
+
+void ProfileStore::setShortcut(const SavedShortcut& shortcut, std::int64_t index) {
+    if (!slot::isValid(index) || !shortcut.isValid()) {
+        return;
+    }
+    WorkProfile* profile = active();
+    if (profile == nullptr) {
+        return;
+    }
+    const auto position = static_cast<std::size_t>(index);
+    profile->shortcuts[position] = shortcut;
+    profile->actions[position] = action::custom;
+    save();
+}
+
+void ProfileStore::add(const std::string& name, bool duplicate) {
+    WorkProfile profile(name);
+    if (duplicate) {
+        const WorkProfile& source = current();
+        profile.actions = source.actions;
+        profile.shortcuts = source.shortcuts;
+    }
+    activeID_ = profile.id;
+    profiles_.push_back(std::move(profile));
+    save();
+}
+
+void ProfileStore::rename(const std::string& name) {
+    WorkProfile* profile = active();
+    if (profile == nullptr) {
+        return;
+    }
+    profile->name = name;
+    save();
+}
+
+}  // namespace tactora
