@@ -1,2 +1,0 @@
-/* Replaced by the bridge's sources. */
-typedef int TouchBridgePlaceholder;

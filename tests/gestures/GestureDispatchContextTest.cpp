@@ -1,0 +1,61 @@
+#include "core/gestures/GestureDispatchContext.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace tactora {
+namespace {
+
+class GestureDispatchContextTest : public testing::Test {
+  protected:
+    Uuid profile = Uuid::random();
+    GestureDispatchContext context{3, profile, 42};
+};
+
+TEST_F(GestureDispatchContextTest, UnchangedWorldIsCurrent) {
+    EXPECT_TRUE(context.isCurrent(3, profile, 42, true, false));
+}
+
+TEST_F(GestureDispatchContextTest, NewGenerationMakesItStale) {
+    EXPECT_FALSE(context.isCurrent(4, profile, 42, true, false));
+}
+
+TEST_F(GestureDispatchContextTest, OtherProfileMakesItStale) {
+    EXPECT_FALSE(context.isCurrent(3, Uuid::random(), 42, true, false));
+}
+
+TEST_F(GestureDispatchContextTest, OtherFrontmostProcessMakesItStale) {
+    EXPECT_FALSE(context.isCurrent(3, profile, 99, true, false));
+}
+
+TEST_F(GestureDispatchContextTest, DisabledGesturesMakeItStale) {
+    EXPECT_FALSE(context.isCurrent(3, profile, 42, false, false));
+}
+
+TEST_F(GestureDispatchContextTest, ConfiguringMakesItStale) {
+    EXPECT_FALSE(context.isCurrent(3, profile, 42, true, true));
+}
+
+TEST_F(GestureDispatchContextTest, NoFrontmostProcessAtFiringIsNeverCurrent) {
+    EXPECT_FALSE(context.isCurrent(3, profile, std::nullopt, true, false));
+}
+
+TEST(GestureDispatchContext, ContextWithoutTargetIsNeverCurrent) {
+    const Uuid profile = Uuid::random();
+    const GestureDispatchContext context{3, profile, std::nullopt};
+    EXPECT_FALSE(context.isCurrent(3, profile, std::nullopt, true, false));
+    EXPECT_FALSE(context.isCurrent(3, profile, 42, true, false));
+    EXPECT_FALSE(context.isCurrent(3, profile, 0, true, false));
+}
+
+TEST(GestureDispatchContext, EqualityComparesAllFields) {
+    const Uuid profile = Uuid::random();
+    const GestureDispatchContext context{3, profile, 42};
+    EXPECT_EQ(context, (GestureDispatchContext{3, profile, 42}));
+    EXPECT_NE(context, (GestureDispatchContext{3, profile, std::nullopt}));
+    EXPECT_NE(context, (GestureDispatchContext{2, profile, 42}));
+}
+
+}  // namespace
+}  // namespace tactora
