@@ -1,6 +1,6 @@
 #pragma once
 
-#include <initializer_list>
+#include <array>
 #include <memory>
 #include <span>
 #include <string>
@@ -11,22 +11,28 @@
 
 namespace tactora {
 
-// Installs the table that L() reads; null means no table, so every key shows as itself.
-// Called at start-up, before any text is looked up, and by tests.
+// Installs the process-wide table that L() reads; null means no table, so every key shows as
+// itself. Called at start-up, before any text is looked up, and by tests. Main thread only.
 void setStringTable(std::shared_ptr<const StringTable> table);
 
-// Looks `key` up and, when there are arguments, formats the text with them ("%@" takes a
-// string, "%d" and its kin an integer, "%1$@" picks by position, "%%" is a percent sign). A
-// missing key comes back as the key itself. Without arguments the text is returned as it
-// stands, conversions and all. Main thread only.
+// Looks `key` up and, when there are arguments, formats the text with them (see formatText:
+// "%@" takes a string, "%d" and its kin an integer, "%1$@" picks by position, "%%" is a
+// percent sign). A missing key, or no table at all, gives the key itself, formatted in the
+// same way. Without arguments the text is returned as it stands, conversions and all.
+// Main thread only.
 std::string localize(std::string_view key, std::span<const FormatArgument> arguments);
 
-inline std::string L(std::string_view key) { return localize(key, {}); }
+inline std::string L(std::string_view key) {
+    return localize(key, {});
+}
 
+// L("finger.many", 3), L("permissions", L("ok"), L("pending")): integers and strings are
+// passed in the order the key's text expects them.
 template <typename... Arguments>
-    requires(sizeof...(Arguments) > 0)
-std::string L(std::string_view key, const Arguments&... arguments) {
-    const FormatArgument list[] = {FormatArgument(arguments)...};
+requires(sizeof...(Arguments) > 0) std::string
+    L(std::string_view key, const Arguments&... arguments) {
+    const std::array<FormatArgument, sizeof...(Arguments)> list = {
+        makeFormatArgument(arguments)...};
     return localize(key, list);
 }
 

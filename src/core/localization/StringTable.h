@@ -7,9 +7,10 @@
 namespace tactora {
 
 // The localised texts of one language, by key. Implementations: the main bundle's table on
-// macOS, a parsed .strings file elsewhere, a map in tests.
+// macOS, a parsed .strings file elsewhere (StringsTable), a map in tests. Called on the main
+// thread.
 class StringTable {
-public:
+  public:
     virtual ~StringTable() = default;
 
     // The text for `key`, or nothing when the table has no entry for it.

@@ -1,0 +1,127 @@
+#include "core/localization/LocalizationAudit.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <span>
+
+#include "core/localization/FormatConversion.h"
+#include "core/localization/LocalizationKeys.h"
+
+namespace tactora {
+
+namespace {
+
+std::string inQuotes(std::string_view text) {
+    return "\"" + std::string(text) + "\"";
+}
+
+std::string written(std::string_view text, const FormatConversion& conversion) {
+    return inQuotes(text.substr(conversion.offset, conversion.length));
+}
+
+std::optional<std::string> auditUnformatted(std::string_view text) {
+    for (const FormatConversion& conversion : conversionsIn(text)) {
+        if (conversion.type != ConversionType::unsupported) {
+            return "shows " + written(text, conversion) +
+                   " as written: this key takes no arguments, so its text is not formatted";
+        }
+    }
+    return std::nullopt;
+}
+
+bool kindMatches(ConversionType type, ArgumentKind kind) {
+    return kind == ArgumentKind::string ? type == ConversionType::string
+                                        : type == ConversionType::signedInteger;
+}
+
+// Checks one argument conversion that refers to `index` (0-based) and marks it as shown.
+std::optional<std::string> auditReference(std::string_view text, const FormatConversion& conversion,
+                                          std::size_t index, std::span<const KeyArgument> arguments,
+                                          std::vector<bool>& referenced) {
+    const std::string number = std::to_string(index + 1);
+    if (index >= arguments.size()) {
+        return written(text, conversion) + " refers to argument " + number + ", but the key has " +
+               std::to_string(arguments.size());
+    }
+    const KeyArgument& argument = arguments[index];
+    if (!argument.shown) {
+        return written(text, conversion) + " shows argument " + number +
+               ", which this key's text must not show";
+    }
+    if (!kindMatches(conversion.type, argument.kind)) {
+        const std::string_view expected =
+            argument.kind == ArgumentKind::string ? "a string (%@)" : "a signed integer (%lld)";
+        return written(text, conversion) + " does not fit argument " + number + ", " +
+               std::string(expected);
+    }
+    referenced[index] = true;
+    return std::nullopt;
+}
+
+std::optional<std::string> auditFormatted(const LocalizationKey& key, std::string_view text) {
+    const std::span<const KeyArgument> arguments = key.arguments();
+    std::vector<bool> referenced(arguments.size(), false);
+    std::optional<bool> positionalStyle;
+    std::size_t nextSequential = 0;
+    for (const FormatConversion& conversion : conversionsIn(text)) {
+        if (conversion.type == ConversionType::percent) {
+            continue;
+        }
+        if (!conversion.takesArgument()) {
+            return "has the unsupported conversion " + written(text, conversion);
+        }
+        const bool positional = conversion.position.has_value();
+        if (positionalStyle.value_or(positional) != positional) {
+            return "mixes positional and sequential conversions";
+        }
+        positionalStyle = positional;
+        if (positional && *conversion.position == 0) {
+            return written(text, conversion) + " refers to argument 0; positions start at 1";
+        }
+        const std::size_t index = positional ? *conversion.position - 1 : nextSequential++;
+        if (auto problem = auditReference(text, conversion, index, arguments, referenced)) {
+            return problem;
+        }
+    }
+    for (std::size_t index = 0; index < arguments.size(); ++index) {
+        if (arguments[index].shown && !referenced[index]) {
+            return "does not show argument " + std::to_string(index + 1);
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> auditLocalizedText(const LocalizationKey& key, std::string_view text) {
+    if (key.arguments().empty()) {
+        return auditUnformatted(text);
+    }
+    return auditFormatted(key, text);
+}
+
+std::vector<std::string> auditStringsFile(const StringsFile& file) {
+    std::vector<std::string> problems;
+    if (file.error) {
+        problems.push_back("line " + std::to_string(file.error->line) + ": " + file.error->message);
+    }
+    for (const std::string& key : file.duplicateKeys) {
+        problems.push_back(inQuotes(key) + " is given more than once");
+    }
+    for (const LocalizationKey& key : localizationKeys) {
+        const auto entry = file.entries.find(key.key());
+        if (entry == file.entries.end()) {
+            problems.push_back("missing " + inQuotes(key.key()));
+        } else if (auto problem = auditLocalizedText(key, entry->second)) {
+            problems.push_back(inQuotes(key.key()) + " " + *problem);
+        }
+    }
+    for (const auto& [key, text] : file.entries) {
+        if (!findLocalizationKey(key)) {
+            problems.push_back("unknown key " + inQuotes(key));
+        }
+    }
+    return problems;
+}
+
+}  // namespace tactora

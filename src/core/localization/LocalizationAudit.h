@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/localization/LocalizationKey.h"
+#include "core/localization/StringsFile.h"
+
+namespace tactora {
+
+// Checks of the localisation tables against the key list, for the tests and for anyone who
+// edits a table. Each problem is one line of plain English. Pure functions; any thread.
+
+// What is wrong with `text` as the text of `key`, or nothing. A key without arguments is shown
+// unformatted, so its text must hold no conversion ("%%" included). A key with arguments is
+// formatted, so its text must hold only "%%" and conversions that each show one of the key's
+// shown arguments with the matching kind (%@ for a string, a signed %d, %i, %ld, %lld... for an
+// integer), every shown argument at least once and no unshown one; either all sequential,
+// standing in the order of the arguments, or all positional ("%2$@"), in any order.
+std::optional<std::string> auditLocalizedText(const LocalizationKey& key, std::string_view text);
+
+// Everything wrong with a table: its parse error, keys given twice, missing and unknown keys,
+// and the problems of each text. Empty for a good table.
+std::vector<std::string> auditStringsFile(const StringsFile& file);
+
+}  // namespace tactora

@@ -1,0 +1,108 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string_view>
+
+#include "core/localization/KeyArgument.h"
+#include "core/localization/LocalizationKey.h"
+
+namespace tactora {
+
+// Every key the program looks up through L, with the arguments its callers pass, in order.
+// Each table must hold exactly these keys, and each text exactly the conversions its shown
+// arguments need (LocalizationAudit checks it).
+inline constexpr std::array<LocalizationKey, 69> localizationKeys = {
+    // The action catalogue, in index order.
+    LocalizationKey("action.default"),
+    LocalizationKey("action.left"),
+    LocalizationKey("action.right"),
+    LocalizationKey("action.middle"),
+    LocalizationKey("action.double"),
+    LocalizationKey("action.copy"),
+    LocalizationKey("action.paste"),
+    LocalizationKey("action.cut"),
+    LocalizationKey("action.undo"),
+    LocalizationKey("action.redo"),
+    LocalizationKey("action.back"),
+    LocalizationKey("action.forward"),
+    LocalizationKey("action.mission"),
+    LocalizationKey("action.desktop"),
+    LocalizationKey("action.custom"),
+    // Outcomes of performing an action; "action.failed" shows the Dock's status code, and
+    // "error.action" the action's display name and that code.
+    LocalizationKey("action.sent"),
+    LocalizationKey("action.failed", {integerArgument}),
+    LocalizationKey("error.action", {stringArgument, integerArgument}),
+    LocalizationKey("shortcut.missing"),
+    LocalizationKey("error.enable"),
+    LocalizationKey("error.paused"),
+    // Recognised gestures, by finger count.
+    LocalizationKey("gesture.tap", {integerArgument}),
+    LocalizationKey("gesture.click", {integerArgument}),
+    // Status lines: fingers, last gesture, last action; then the two permission states.
+    LocalizationKey("live", {integerArgument, stringArgument, stringArgument}),
+    LocalizationKey("permissions", {stringArgument, stringArgument}),
+    LocalizationKey("ok"),
+    LocalizationKey("pending"),
+    // The master switch and the menus.
+    LocalizationKey("enable"),
+    LocalizationKey("menu.open"),
+    LocalizationKey("menu.pause"),
+    LocalizationKey("menu.exit"),
+    LocalizationKey("menu.quit"),
+    LocalizationKey("menu.active"),
+    // Sensor states: each gets the bridge's error code, which only a failed start shows.
+    LocalizationKey("sensor.not_started", {unshownIntegerArgument}),
+    LocalizationKey("sensor.connected", {unshownIntegerArgument}),
+    LocalizationKey("sensor.blocked", {integerArgument}),
+    LocalizationKey("sensor.missing", {unshownIntegerArgument}),
+    LocalizationKey("sensor.incompatible", {unshownIntegerArgument}),
+    LocalizationKey("sensor.unavailable", {unshownIntegerArgument}),
+    // The settings window.
+    LocalizationKey("hero"),
+    LocalizationKey("intro"),
+    LocalizationKey("permission.access"),
+    LocalizationKey("permission.monitor"),
+    LocalizationKey("reconnect"),
+    LocalizationKey("section.tap"),
+    LocalizationKey("section.click"),
+    LocalizationKey("finger.one"),
+    LocalizationKey("test.desktop"),
+    LocalizationKey("footer"),
+    LocalizationKey("finger.many", {integerArgument}),
+    LocalizationKey("record.button"),
+    LocalizationKey("record.hint"),
+    // The shortcut recording dialog.
+    LocalizationKey("record.title"),
+    LocalizationKey("record.help"),
+    LocalizationKey("record.wait"),
+    // Profiles and the naming dialog.
+    LocalizationKey("profile.default"),
+    LocalizationKey("profile.label"),
+    LocalizationKey("profile.new"),
+    LocalizationKey("profile.rename"),
+    LocalizationKey("profile.duplicate"),
+    LocalizationKey("profile.name"),
+    LocalizationKey("profile.save"),
+    LocalizationKey("cancel"),
+    // Key names in shortcut labels.
+    LocalizationKey("key.space"),
+    LocalizationKey("key.return"),
+    LocalizationKey("key.tab"),
+    LocalizationKey("key.delete"),
+    LocalizationKey("key.escape"),
+    LocalizationKey("key.forwarddelete"),
+};
+
+// The entry for `key`, or nothing when the program never looks it up.
+constexpr std::optional<LocalizationKey> findLocalizationKey(std::string_view key) {
+    const auto found = std::ranges::find(localizationKeys, key, &LocalizationKey::key);
+    if (found == localizationKeys.end()) {
+        return std::nullopt;
+    }
+    return *found;
+}
+
+}  // namespace tactora
