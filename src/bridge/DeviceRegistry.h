@@ -1,0 +1,36 @@
+#ifndef TACTORA_BRIDGE_DEVICEREGISTRY_H
+#define TACTORA_BRIDGE_DEVICEREGISTRY_H
+
+/*
+ * The system side of device discovery: walking the framework's device list and the mouse test.
+ * On Apple systems the list is a CoreFoundation array and the test asks the IOKit registry;
+ * elsewhere the list is a TAPortableDeviceList and the test is whatever TASetPortableMouseTest
+ * installed. Called on the main thread.
+ */
+
+#include <stdbool.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+int64_t TADeviceCount(const void* devices);
+void* TADeviceAt(const void* devices, int64_t index);
+void TAReleaseDevices(const void* devices);
+
+/*
+ * Whether this registry service, or one of its ancestors, describes a mouse: its pointer
+ * acceleration type is "HIDMouseAcceleration", or else its product name contains
+ * "Magic Mouse". False for the null service (0).
+ */
+bool TAIsMouseService(uint32_t service);
+
+/* The mouse test for the service with this registry entry id (non-zero). */
+bool TAIsMouseRegistryEntry(uint64_t entryID);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,48 @@
+#include <stddef.h>
+
+#include "bridge/BridgeTesting.h"
+#include "bridge/LibraryLoader.h"
+#include "bridge/TouchBridge.h"
+
+#ifdef __APPLE__
+#include <CoreFoundation/CoreFoundation.h>
+#endif
+
+typedef int32_t (*TADockSend)(const void* notification, int32_t flags);
+
+static const char systemDockPath[] =
+    "/System/Library/Frameworks/ApplicationServices.framework/Frameworks/HIServices.framework/"
+    "HIServices";
+
+static const char* dockPath = systemDockPath;
+static void* dockLibrary = NULL;
+static TADockSend dockSend = NULL;
+
+/* The Dock takes CoreFoundation strings; a stand-in library off Apple systems gets C strings. */
+static const void* notificationName(int32_t desktop) {
+#ifdef __APPLE__
+    return desktop != 0 ? CFSTR("com.apple.showdesktop.awake") : CFSTR("com.apple.expose.awake");
+#else
+    return desktop != 0 ? "com.apple.showdesktop.awake" : "com.apple.expose.awake";
+#endif
+}
+
+int32_t TADesktopAction(int32_t desktop) {
+    /* Failures are not remembered: a later call looks again. */
+    if (dockLibrary == NULL) {
+        dockLibrary = TAOpenLibrary(dockPath);
+    }
+    if (dockSend == NULL && dockLibrary != NULL) {
+        dockSend = (TADockSend)TALookUpFunction(dockLibrary, "CoreDockSendNotification");
+    }
+    if (dockSend == NULL) {
+        return -1;
+    }
+    return dockSend(notificationName(desktop), 0);
+}
+
+void TASetDockLibraryPath(const char* path) {
+    dockPath = path != NULL ? path : systemDockPath;
+    dockLibrary = NULL;
+    dockSend = NULL;
+}

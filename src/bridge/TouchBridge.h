@@ -1,0 +1,66 @@
+#ifndef TACTORA_BRIDGE_TOUCHBRIDGE_H
+#define TACTORA_BRIDGE_TOUCHBRIDGE_H
+
+/*
+ * The program's only contact with the mouse's touch surface, and the Dock notification call.
+ *
+ * The bridge loads the system's private multitouch framework at run time, listens to the first
+ * multitouch device that is a mouse and hands each frame's touching contacts to one client
+ * callback. Its state is process-wide; there is one connection and one client at a time.
+ *
+ * Threads: TAStart, TAStop, TAStatus, TAStatusError, TAIsMouseSender and TADesktopAction are
+ * called on the main thread. The client callback runs on the framework's own thread.
+ */
+
+#include <stdbool.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/*
+ * Receives the contacts of one frame that touch the surface: `count` (0 to 16) identifiers and
+ * normalised positions. The arrays are valid only during the call. Count 0 means every finger
+ * has lifted. Runs on the framework's thread: copy the data and hand it on.
+ */
+typedef void (*TAFrameCallback)(int32_t count, const int32_t* ids, const float* xs,
+                                const float* ys);
+
+/*
+ * Stops any earlier connection, then connects to the mouse and delivers its frames to
+ * `client`. Returns 1 when frames flow, 0 otherwise; TAStatus tells why.
+ */
+int32_t TAStart(TAFrameCallback client);
+
+/* Ends the connection; safe when nothing runs. The status key is left as it was. */
+void TAStop(void);
+
+/*
+ * The current status key: "sensor.not_started", "sensor.unavailable", "sensor.incompatible",
+ * "sensor.missing", "sensor.blocked" or "sensor.connected". Never null; valid until the next
+ * TAStart.
+ */
+const char* TAStatus(void);
+
+/* The code returned by the device start that failed in the last TAStart, 0 otherwise. */
+int32_t TAStatusError(void);
+
+/*
+ * Whether the input device with this registry entry id is a mouse of the kind the bridge
+ * listens to. False for 0, and always false on systems without the device registry.
+ */
+bool TAIsMouseSender(uint64_t senderID);
+
+/*
+ * Asks the Dock to show the desktop (`desktop` non-zero) or Mission Control (0). Returns 0 on
+ * success, the Dock's status otherwise, or -1 when the Dock call is not available. A missing
+ * library or symbol is looked up again on the next call.
+ */
+int32_t TADesktopAction(int32_t desktop);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
