@@ -24,6 +24,16 @@ inline FormatArgument makeFormatArgument(std::string_view text) {
     return FormatArgument(std::in_place_type<std::string>, text);
 }
 
+// Exact overloads for the usual string types, which would otherwise convert equally well to
+// std::string_view and to FormatArgument.
+inline FormatArgument makeFormatArgument(const std::string& text) {
+    return FormatArgument(std::in_place_type<std::string>, text);
+}
+
+inline FormatArgument makeFormatArgument(const char* text) {
+    return FormatArgument(std::in_place_type<std::string>, text);
+}
+
 inline FormatArgument makeFormatArgument(const FormatArgument& argument) {
     return argument;
 }
