@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+#include "core/platform/MenuEntry.h"
+
+namespace tactora {
+
+// The application menu's items: open the settings, quit (⌘Q). Texts localised; main thread.
+std::vector<MenuEntry> mainMenuItems();
+
+// The status item's menu: open the settings, pause, a separator, exit (⌘Q).
+std::vector<MenuEntry> statusMenuItems();
+
+}  // namespace tactora

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <memory>
+
+namespace tactora {
+
+class Controller;
+
+// The one application-wide controller, through which the C-style callbacks that carry no
+// context (the sensor's frame callback, the event tap's callback) reach it.
+//
+// Set on the main thread before the sensor is first started, and cleared only after the sensor
+// has stopped for good. The sensor's thread merely reads it in between, so it needs no lock.
+void setApplicationController(std::shared_ptr<Controller> controller);
+void clearApplicationController();
+
+// The controller set above (not owned by the caller), or null when none is set.
+Controller* applicationController();
+
+}  // namespace tactora

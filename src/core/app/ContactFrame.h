@@ -1,0 +1,21 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace tactora {
+
+// One contact frame as the sensor delivered it, copied into fixed storage so that handing it
+// from the sensor's thread to the main thread allocates nothing of its own. Contacts beyond
+// `capacity` are dropped: that many fingers spoil a tap anyway.
+struct ContactFrame {
+    static constexpr std::size_t capacity = 16;
+
+    std::size_t count = 0;
+    std::array<std::int32_t, capacity> ids{};
+    std::array<float, capacity> xs{};
+    std::array<float, capacity> ys{};
+};
+
+}  // namespace tactora

@@ -1,0 +1,116 @@
+#include <string>
+
+#include "core/app/AppMenus.h"
+#include "core/app/Controller.h"
+#include "core/localization/Localizer.h"
+
+namespace tactora {
+
+void Controller::applicationDidFinishLaunching() {
+    if (services_.workspace.activateOtherInstance()) {
+        services_.workspace.terminate();
+        return;
+    }
+    services_.shell.setRegularActivationPolicy();
+    services_.shell.applyApplicationIcon();
+    services_.shell.buildMainMenu(mainMenuItems());
+    buildWindow();
+    createStatusItem();
+    updateMenuIcon();
+    services_.shell.buildStatusMenu(statusMenuItems());
+    reconnect();
+    startRefreshTimer();
+    observeWake();
+    show();
+}
+
+void Controller::applicationDidBecomeActive() {
+    dropPendingWork();
+}
+
+void Controller::applicationDidResignActive() {
+    dropPendingWork();
+}
+
+void Controller::applicationWillTerminate() {
+    pause();
+    services_.sensor.stop();
+}
+
+void Controller::show() {
+    services_.shell.showWindow();
+    services_.workspace.activate();
+}
+
+void Controller::quit() {
+    services_.workspace.terminate();
+}
+
+void Controller::pause() {
+    cancelPendingActions();
+    services_.view.setEnabledOn(false);
+    toggle();
+}
+
+void Controller::toggle() {
+    cancelPendingActions();
+    if (!services_.view.isEnabledOn()) {
+        releasePresses();
+        if (services_.tap.exists()) {
+            services_.tap.setEnabled(false);
+        }
+        return;
+    }
+    // Tested in this order so that no tap is attempted without both permissions.
+    if (ready_ && services_.permissions.accessibilityTrusted() &&
+        services_.permissions.inputMonitoringGranted() && installTap()) {
+        return;
+    }
+    services_.view.setEnabledOn(false);
+    services_.view.setStatusText(L("error.enable"));
+}
+
+void Controller::access() {
+    services_.permissions.requestAccessibility();
+    services_.workspace.openURL(std::string(accessibilitySettings));
+}
+
+void Controller::monitor() {
+    services_.permissions.requestInputMonitoring();
+    services_.workspace.openURL(std::string(inputMonitoringSettings));
+}
+
+void Controller::buildWindow() {
+    services_.shell.buildWindow();
+    windowBuilt_ = true;
+    refreshProfileUI();
+}
+
+void Controller::createStatusItem() {
+    services_.shell.createStatusItem();
+    statusItemCreated_ = true;
+}
+
+void Controller::startRefreshTimer() {
+    services_.queue.every(refreshInterval, [weak = weak_from_this()] {
+        if (const auto self = weak.lock()) {
+            self->refresh();
+        }
+    });
+}
+
+void Controller::observeWake() {
+    services_.workspace.observeWake([weak = weak_from_this()] {
+        if (const auto self = weak.lock()) {
+            self->woke();
+        }
+    });
+}
+
+void Controller::dropPendingWork() {
+    cancelPendingActions();
+    releasePresses();
+    gesture_.reset();
+}
+
+}  // namespace tactora

@@ -1,0 +1,125 @@
+#include <algorithm>
+
+#include "core/app/Controller.h"
+#include "core/app/ProfileName.h"
+#include "core/localization/Localizer.h"
+#include "core/profiles/GestureSlot.h"
+
+namespace tactora {
+
+namespace {
+
+std::vector<ProfileMenuItem> profileItems(const std::vector<WorkProfile>& profiles) {
+    std::vector<ProfileMenuItem> items;
+    items.reserve(profiles.size());
+    for (const WorkProfile& profile : profiles) {
+        items.push_back({profile.name, profile.id.text()});
+    }
+    return items;
+}
+
+const char* namingTitle(NamingMode mode) {
+    switch (mode) {
+        case NamingMode::create:
+            break;
+        case NamingMode::rename:
+            return "profile.rename";
+        case NamingMode::duplicate:
+            return "profile.duplicate";
+    }
+    return "profile.new";
+}
+
+}  // namespace
+
+void Controller::refreshProfileUI() {
+    const ProfileStore& store = profiles();
+    services_.view.setProfileItems(profileItems(store.profiles()));
+    const auto active = std::find_if(
+        store.profiles().begin(), store.profiles().end(),
+        [&store](const WorkProfile& profile) { return profile.id == store.activeID(); });
+    if (active != store.profiles().end()) {
+        services_.view.selectProfileItem(
+            static_cast<std::size_t>(active - store.profiles().begin()));
+    }
+    if (!windowBuilt_) {
+        return;
+    }
+    for (std::int64_t slot = 0; slot < std::int64_t{slot::count}; ++slot) {
+        const ActionIndex action = actionAt(slot);
+        const std::optional<SavedShortcut>& shortcut = shortcutAt(slot);
+        const auto index = static_cast<std::size_t>(slot);
+        services_.view.selectAction(index, std::clamp(action, ActionIndex{0}, action::count - 1));
+        services_.view.setRecordButton(index,
+                                       {
+                                           .enabled = action == action::custom,
+                                           .title = shortcut ? shortcut->label : L("record.button"),
+                                           .toolTip = L("record.button"),
+                                       });
+    }
+}
+
+void Controller::changed(std::int64_t slot) {
+    cancelPendingActions();
+    const ActionIndex action = services_.view.selectedAction(static_cast<std::size_t>(slot));
+    if (action == action::custom && !shortcutAt(slot)) {
+        // The recording stores the shortcut and the custom action together when it is saved.
+        beginRecording(slot);
+    } else {
+        profiles().setAction(action, slot);
+    }
+    refreshProfileUI();
+}
+
+void Controller::selectProfile() {
+    const std::optional<std::string> text = services_.view.selectedProfileID();
+    const std::optional<Uuid> id = text ? Uuid::parse(*text) : std::nullopt;
+    if (!id) {
+        return;
+    }
+    dropPendingWork();
+    profiles().select(*id);
+    lastGesture_ = "—";
+    lastAction_.clear();
+    refreshProfileUI();
+    refresh();
+}
+
+void Controller::newProfile() {
+    nameProfile(NamingMode::create);
+}
+
+void Controller::renameProfile() {
+    nameProfile(NamingMode::rename);
+}
+
+void Controller::duplicateProfile() {
+    nameProfile(NamingMode::duplicate);
+}
+
+void Controller::nameProfile(NamingMode mode) {
+    cancelPendingActions();
+    releasePresses();
+    const NamingDialogTexts texts{
+        .message = L(namingTitle(mode)),
+        .informative = L("profile.name"),
+        .saveButton = L("profile.save"),
+        .cancelButton = L("cancel"),
+        .initialText = mode == NamingMode::create ? std::string() : profiles().current().name,
+    };
+    const std::optional<std::string> entered = services_.dialogs.runNamingDialog(texts);
+    const std::optional<std::string> name = entered ? profileName(*entered) : std::nullopt;
+    if (!name) {
+        return;
+    }
+    releasePresses();
+    gesture_.reset();
+    if (mode == NamingMode::rename) {
+        profiles().rename(*name);
+    } else {
+        profiles().add(*name, mode == NamingMode::duplicate);
+    }
+    refreshProfileUI();
+}
+
+}  // namespace tactora

@@ -1,0 +1,40 @@
+#include "core/app/Controller.h"
+#include "core/localization/Localizer.h"
+#include "core/shortcuts/ShortcutRecorder.h"
+
+namespace tactora {
+
+void Controller::recordShortcut(std::int64_t slot) {
+    beginRecording(slot);
+}
+
+void Controller::beginRecording(std::int64_t slot) {
+    cancelPendingActions();
+    releasePresses();
+    recording_ = true;
+    const RecordingDialogTexts texts{
+        .message = L("record.title"),
+        .informative = L("record.help"),
+        .saveButton = L("profile.save"),
+        .cancelButton = L("cancel"),
+        .waiting = L("record.wait"),
+    };
+    ShortcutRecorder recorder;
+    const bool saved = services_.dialogs.runRecordingDialog(
+        texts,
+        [weak = weak_from_this(), &recorder](const KeyPress& press, RecordingDialog& dialog) {
+            if (weak.expired()) {
+                return EventDisposition::pass;
+            }
+            return recorder.handle(press, dialog);
+        });
+    if (saved && recorder.captured()) {
+        profiles().setShortcut(*recorder.captured(), slot);
+    }
+    // Touches made while the dialog was open must not complete as a tap.
+    recording_ = false;
+    gesture_.reset();
+    refreshProfileUI();
+}
+
+}  // namespace tactora

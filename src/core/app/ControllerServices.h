@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+
+#include "core/platform/AppShell.h"
+#include "core/platform/Clock.h"
+#include "core/platform/Dialogs.h"
+#include "core/platform/EventPoster.h"
+#include "core/platform/EventTap.h"
+#include "core/platform/MainQueue.h"
+#include "core/platform/Permissions.h"
+#include "core/platform/Sensor.h"
+#include "core/platform/SettingsView.h"
+#include "core/platform/Workspace.h"
+#include "core/profiles/Preferences.h"
+
+namespace tactora {
+
+// Everything the controller reaches the system and the interface through. The referenced
+// objects must outlive the controller.
+struct ControllerServices {
+    Clock& clock;
+    MainQueue& queue;
+    Workspace& workspace;
+    Permissions& permissions;
+    EventPoster& poster;
+    EventTap& tap;
+    Sensor& sensor;
+    AppShell& shell;
+    SettingsView& view;
+    Dialogs& dialogs;
+    // The domain the work profiles are kept in (the standard user defaults).
+    std::shared_ptr<Preferences> defaults;
+};
+
+}  // namespace tactora

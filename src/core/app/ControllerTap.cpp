@@ -1,0 +1,144 @@
+#include "core/actions/ActionCatalogue.h"
+#include "core/actions/MouseEventType.h"
+#include "core/app/Controller.h"
+#include "core/app/Globals.h"
+#include "core/localization/Localizer.h"
+#include "core/profiles/GestureSlot.h"
+
+namespace tactora {
+
+namespace {
+
+bool isDown(EventType type) {
+    return type == event::leftMouseDown || type == event::rightMouseDown;
+}
+bool isUp(EventType type) {
+    return type == event::leftMouseUp || type == event::rightMouseUp;
+}
+bool isDrag(EventType type) {
+    return type == event::leftMouseDragged || type == event::rightMouseDragged;
+}
+
+}  // namespace
+
+bool Controller::installTap() {
+    EventTap& tap = services_.tap;
+    if (!tap.exists() && !tap.create(event::tapMask)) {
+        return false;
+    }
+    tap.setEnabled(true);
+    return true;
+}
+
+EventDisposition Controller::handle(EventType type, TapEvent& event) {
+    if (type == event::tapDisabledByTimeout || type == event::tapDisabledByUserInput) {
+        tapDisabled();
+        return EventDisposition::pass;
+    }
+    if (!canRunGestures() || event.integerField(event::sourceUserData) == marker ||
+        !isFromMouse(event)) {
+        return EventDisposition::pass;
+    }
+    const double now = services_.clock.uptime();
+    if (type == event::scrollWheel) {
+        gesture_.moved = true;
+        return EventDisposition::pass;
+    }
+    const std::int64_t button = event.integerField(event::buttonNumber);
+    if (isDown(type)) {
+        return pressDown(event, button, now);
+    }
+    return pressContinues(type, event, button);
+}
+
+void Controller::rewrite(TapEvent& event, MouseButton button, bool down, bool drag) {
+    const MouseMotion motion = drag   ? MouseMotion::drag
+                               : down ? MouseMotion::down
+                                      : MouseMotion::up;
+    event.setType(mouseEventType(button, motion));
+    event.setIntegerField(event::buttonNumber, static_cast<std::int64_t>(button));
+}
+
+void Controller::releasePresses() {
+    for (const auto& [physical, press] : presses_) {
+        if (press.button) {
+            post(*press.button, false, 1);
+        }
+    }
+    presses_.clear();
+}
+
+void Controller::tapDisabled() {
+    // Not re-enabled here: a tap the system switched off pauses the program.
+    releasePresses();
+    services_.view.setEnabledOn(false);
+    services_.view.setStatusText(L("error.paused"));
+}
+
+bool Controller::isFromMouse(const TapEvent& event) {
+    const auto sender = static_cast<std::uint64_t>(event.integerField(event::senderID));
+    if (sender != lastSender_) {
+        lastSender_ = sender;
+        senderIsMouse_ = services_.sensor.isMouseSender(sender);
+    }
+    return senderIsMouse_;
+}
+
+EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, double now) {
+    lastClick_ = now;
+    gesture_.physicalClick();
+    const std::int64_t fingers = gesture_.count;
+    if (now - lastFrame_ >= freshContact || fingers < 1 || fingers > GestureState::maxFingers) {
+        return EventDisposition::pass;
+    }
+    lastGesture_ = L("gesture.click", fingers);
+    const std::int64_t slot = slot::forClick(fingers);
+    const ActionIndex action = actionAt(slot);
+    if (action == action::defaultAction) {
+        return EventDisposition::pass;
+    }
+    const Press press{action, shortcutAt(slot), catalogue::pressTarget(action), dispatchContext()};
+    presses_.insert_or_assign(button, press);
+    if (!press.button) {
+        return EventDisposition::swallow;
+    }
+    rewrite(event, *press.button, true, false);
+    return EventDisposition::pass;
+}
+
+EventDisposition Controller::pressContinues(EventType type, TapEvent& event, std::int64_t button) {
+    if (!isDrag(type) && !isUp(type)) {
+        return EventDisposition::pass;
+    }
+    const auto held = presses_.find(button);
+    if (held == presses_.end()) {
+        return EventDisposition::pass;
+    }
+    if (isDrag(type)) {
+        if (!held->second.button) {
+            return EventDisposition::swallow;
+        }
+        rewrite(event, *held->second.button, false, true);
+        return EventDisposition::pass;
+    }
+    const Press press = held->second;
+    presses_.erase(held);
+    if (press.button) {
+        rewrite(event, *press.button, false, false);
+        return EventDisposition::pass;
+    }
+    performOnRelease(press);
+    return EventDisposition::swallow;
+}
+
+void Controller::performOnRelease(const Press& press) {
+    // Queued, so that the action runs after the tap callback has returned.
+    services_.queue.async([weak = weak_from_this(), press] {
+        const auto self = weak.lock();
+        if (self && self->mayDispatch(press.context)) {
+            self->perform(press.action, press.shortcut);
+        }
+    });
+}
+
+}  // namespace tactora

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tactora {
+
+// Code points in and out of UTF-8.
+namespace utf8 {
+
+inline constexpr char32_t replacement = 0xFFFD;
+
+// Decodes the code point that starts at `offset` and moves `offset` past it. A malformed or
+// truncated sequence, an overlong form or a surrogate reads as one replacement character that
+// covers a single byte, so decoding always advances.
+char32_t decode(std::string_view text, std::size_t& offset);
+
+// Appends the UTF-8 form of `codePoint` (a value above U+10FFFF or a surrogate appends the
+// replacement character).
+void append(std::string& text, char32_t codePoint);
+
+}  // namespace utf8
+
+}  // namespace tactora
