@@ -1,0 +1,44 @@
+#include "linux/LinuxProgramEnvironment.h"
+
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <utility>
+
+#include "core/console/IcnsReader.h"
+
+namespace tactora {
+
+namespace {
+std::filesystem::path preferencesDirectory() {
+    if (auto directory = FilePreferenceSuites::defaultDirectory()) {
+        return *directory;
+    }
+    // No home directory at all (a bare service account): keep the profiles somewhere
+    // writable rather than nowhere.
+    return std::filesystem::temp_directory_path() / "Tactora";
+}
+}  // namespace
+
+LinuxProgramEnvironment::LinuxProgramEnvironment(std::filesystem::path resources,
+                                                 std::optional<std::string> localization)
+    : resources_(std::move(resources)),
+      localization_(std::move(localization)),
+      preferences_(preferencesDirectory()) {}
+
+std::optional<std::vector<std::int64_t>> LinuxProgramEnvironment::appIconPixelWidths() {
+    std::ifstream file(resources_ / "Tactora.icns", std::ios::binary);
+    if (!file) {
+        return std::nullopt;
+    }
+    const std::vector<std::uint8_t> bytes{std::istreambuf_iterator<char>(file),
+                                          std::istreambuf_iterator<char>()};
+    return icnsPixelWidths(bytes);
+}
+
+void LinuxProgramEnvironment::runApplication() {
+    std::cerr << "Tactora's interactive application needs macOS; here it runs as "
+                 "tactora --self-test, tactora --check-localization or tactora --probe.\n";
+}
+
+}  // namespace tactora
