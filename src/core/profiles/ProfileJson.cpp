@@ -181,6 +181,11 @@ std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profil
 }
 
 std::optional<std::vector<WorkProfile>> decodeProfiles(std::string_view json) {
+    // The parser takes a NUL byte for the end of the input and would ignore whatever follows;
+    // JSON has no place for a raw NUL, so such input is malformed.
+    if (json.find('\0') != std::string_view::npos) {
+        return std::nullopt;
+    }
     try {
         const Json document = Json::parse(json.begin(), json.end(), nullptr, false);
         if (document.is_discarded()) {
