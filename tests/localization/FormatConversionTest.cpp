@@ -1,0 +1,54 @@
+#include "core/localization/FormatConversion.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace tactora {
+namespace {
+
+std::vector<ConversionType> typesIn(std::string_view text) {
+    std::vector<ConversionType> types;
+    for (const FormatConversion& conversion : conversionsIn(text)) {
+        types.push_back(conversion.type);
+    }
+    return types;
+}
+
+TEST(FormatConversionTest, ClassifiesTheSupportedConversions) {
+    using enum ConversionType;
+    EXPECT_EQ(typesIn("%@ %d %i %ld %lld %u %lu %llu %%"),
+              (std::vector{string, signedInteger, signedInteger, signedInteger, signedInteger,
+                           unsignedInteger, unsignedInteger, unsignedInteger, percent}));
+}
+
+TEST(FormatConversionTest, EverythingElseIsUnsupported) {
+    using enum ConversionType;
+    EXPECT_EQ(typesIn("%s %5d %hd %l@ %"),
+              (std::vector{unsupported, unsupported, unsupported, unsupported, unsupported}));
+}
+
+TEST(FormatConversionTest, ReportsOffsetLengthAndPosition) {
+    const std::vector<FormatConversion> conversions = conversionsIn("ab %2$lld c");
+    ASSERT_EQ(conversions.size(), 1U);
+    EXPECT_EQ(conversions[0].offset, 3U);
+    EXPECT_EQ(conversions[0].length, 6U);
+    EXPECT_EQ(conversions[0].position, 2U);
+    EXPECT_TRUE(conversions[0].takesArgument());
+}
+
+TEST(FormatConversionTest, HugePositionSaturates) {
+    const FormatConversion conversion = readConversion("%123456789012345678901234$@", 0);
+    EXPECT_EQ(conversion.position, FormatConversion::maxPosition);
+    EXPECT_EQ(conversion.type, ConversionType::string);
+}
+
+TEST(FormatConversionTest, TrailingPercentHasLengthOne) {
+    const FormatConversion conversion = readConversion("50%", 2);
+    EXPECT_EQ(conversion.length, 1U);
+    EXPECT_EQ(conversion.type, ConversionType::unsupported);
+    EXPECT_FALSE(conversion.takesArgument());
+}
+
+}  // namespace
+}  // namespace tactora
