@@ -1,0 +1,223 @@
+#include <gtest/gtest.h>
+
+#include "app/ControllerHarness.h"
+#include "core/app/AppMenus.h"
+
+namespace tactora::testing {
+namespace {
+
+class ControllerLifecycleTest : public ::testing::Test {
+  protected:
+    ControllerHarness h;
+};
+
+TEST_F(ControllerLifecycleTest, LaunchingBuildsConnectsAndShowsInOrder) {
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{
+                               "workspace.activateOtherInstance",
+                               "shell.setRegularActivationPolicy",
+                               "shell.applyApplicationIcon",
+                               "shell.buildMainMenu",
+                               "shell.buildWindow",
+                               "shell.createStatusItem",
+                               "view.setStatusItem",
+                               "shell.buildStatusMenu",
+                               "sensor.start",
+                               "view.setStatusItem",
+                               "workspace.observeWake",
+                               "shell.showWindow",
+                               "workspace.activate",
+                           }));
+    EXPECT_EQ(h.queue.intervals, (std::vector<double>{0.2}));
+    EXPECT_FALSE(h.view.enabled);
+    EXPECT_FALSE(h.eventTap.created);
+    EXPECT_TRUE(h.c().ready());
+    EXPECT_EQ(h.view.status, "sensor.connected");
+}
+
+TEST_F(ControllerLifecycleTest, LaunchingFillsTheGestureRowsAfterBuildingTheWindow) {
+    h.c().profiles().setAction(action::copy, 6);
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_EQ(h.view.shownActions.at(6), action::copy);
+    EXPECT_EQ(h.view.shownActions.at(0), action::defaultAction);
+    ASSERT_TRUE(h.view.recordButtons.at(0).has_value());
+    EXPECT_EQ(h.view.recordButtons.at(0)->title, "record.button");
+}
+
+TEST_F(ControllerLifecycleTest, SecondCopyActivatesTheFirstAndEndsBeforeBuildingAnything) {
+    h.workspace.otherInstance = true;
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_EQ(h.log.calls,
+              (std::vector<std::string>{"workspace.activateOtherInstance", "workspace.terminate"}));
+    EXPECT_TRUE(h.queue.intervals.empty());
+}
+
+TEST_F(ControllerLifecycleTest, MenusOpenPauseAndQuit) {
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_EQ(h.shell.mainMenu, (std::vector<MenuEntry>{{"menu.open", MenuCommand::show, ""},
+                                                        {"menu.quit", MenuCommand::quit, "q"}}));
+    EXPECT_EQ(h.shell.statusMenu, (std::vector<MenuEntry>{{"menu.open", MenuCommand::show, ""},
+                                                          {"menu.pause", MenuCommand::pause, ""},
+                                                          {"", MenuCommand::separator, ""},
+                                                          {"menu.exit", MenuCommand::quit, "q"}}));
+}
+
+TEST_F(ControllerLifecycleTest, RefreshTimerRunsEveryFifthOfASecondWhileTheControllerLives) {
+    h.c().applicationDidFinishLaunching();
+    h.view.live.clear();
+    h.queue.advance(0.21);
+    EXPECT_EQ(h.view.live, "0 | — | —");
+
+    h.view.live.clear();
+    clearApplicationController();
+    h.controller.reset();
+    h.queue.advance(1);
+    EXPECT_TRUE(h.view.live.empty());
+}
+
+TEST_F(ControllerLifecycleTest, SwitchingOnWithoutPermissionsSaysSoAndUnticks) {
+    h.c().applicationDidFinishLaunching();
+    h.permissions.inputMonitoring = false;
+    h.view.enabled = true;
+    h.c().toggle();
+
+    EXPECT_FALSE(h.view.enabled);
+    EXPECT_EQ(h.view.status, "error.enable");
+    EXPECT_EQ(h.eventTap.creations, 0);
+
+    h.permissions.inputMonitoring = true;
+    h.view.enabled = true;
+    h.c().toggle();
+    EXPECT_TRUE(h.view.enabled);
+    EXPECT_TRUE(h.eventTap.enabled);
+}
+
+TEST_F(ControllerLifecycleTest, SwitchingOnWithoutAccessibilityNeverTriesTheTap) {
+    h.c().applicationDidFinishLaunching();
+    h.permissions.accessibility = false;
+    h.view.enabled = true;
+    h.c().toggle();
+
+    EXPECT_FALSE(h.view.enabled);
+    EXPECT_EQ(h.eventTap.creations, 0);
+}
+
+TEST_F(ControllerLifecycleTest, SwitchingOnWithTheSensorNotReadyFails) {
+    h.sensor.startSucceeds = false;
+    h.c().applicationDidFinishLaunching();
+    h.view.enabled = true;
+    h.c().toggle();
+
+    EXPECT_FALSE(h.view.enabled);
+    EXPECT_EQ(h.view.status, "error.enable");
+    EXPECT_EQ(h.eventTap.creations, 0);
+}
+
+TEST_F(ControllerLifecycleTest, FailedTapCreationUnticksTheSwitch) {
+    h.c().applicationDidFinishLaunching();
+    h.eventTap.createSucceeds = false;
+    h.view.enabled = true;
+    h.c().toggle();
+
+    EXPECT_FALSE(h.view.enabled);
+    EXPECT_EQ(h.view.status, "error.enable");
+}
+
+TEST_F(ControllerLifecycleTest, PausingWhenAlreadyOffStillReleasesPressesAndDisablesTheTap) {
+    h.launchAndSwitchOn();
+    h.assign(1, action::right);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+    h.view.enabled = false;  // switched off without toggle, as the tap's own notice would leave it
+    h.log.clear();
+    h.c().pause();
+
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"tap.disable"}));
+    EXPECT_EQ(h.poster.mouseEvents().size(), 1U);
+    EXPECT_TRUE(h.c().presses().empty());
+}
+
+TEST_F(ControllerLifecycleTest, SwitchingToAnotherApplicationCancelsAndReleases) {
+    h.launchAndSwitchOn();
+    h.assign(1, action::right);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+    const std::int64_t before = h.c().actionGeneration();
+    h.c().applicationDidResignActive();
+
+    EXPECT_EQ(h.c().actionGeneration(), before + 1);
+    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_EQ(h.poster.mouseEvents().size(), 1U);
+    EXPECT_EQ(h.c().gesture(), GestureState());
+}
+
+TEST_F(ControllerLifecycleTest, ComingBackCancelsAndReleasesToo) {
+    h.launchAndSwitchOn();
+    h.assign(1, action::right);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+    h.c().applicationDidBecomeActive();
+
+    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_EQ(h.poster.mouseEvents().size(), 1U);
+}
+
+TEST_F(ControllerLifecycleTest, TerminatingPausesThenStopsTheSensor) {
+    h.launchAndSwitchOn();
+    h.c().applicationWillTerminate();
+
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"tap.disable", "sensor.stop"}));
+    EXPECT_FALSE(h.view.enabled);
+}
+
+TEST_F(ControllerLifecycleTest, WakingPausesThenReconnects) {
+    h.launchAndSwitchOn();
+    h.c().woke();
+
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"tap.disable", "tap.disable", "sensor.start",
+                                                     "view.setStatusItem"}));
+    EXPECT_FALSE(h.view.enabled);
+}
+
+TEST_F(ControllerLifecycleTest, WakeAfterTheControllerIsGoneDoesNothing) {
+    h.c().applicationDidFinishLaunching();
+    clearApplicationController();
+    h.controller.reset();
+    h.log.clear();
+    h.workspace.wake();
+
+    EXPECT_TRUE(h.log.calls.empty());
+}
+
+TEST_F(ControllerLifecycleTest, PermissionButtonsPromptThenOpenTheirPanes) {
+    h.c().access();
+    h.c().monitor();
+
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{
+                               "permissions.requestAccessibility", "workspace.openURL",
+                               "permissions.requestInputMonitoring", "workspace.openURL"}));
+    EXPECT_EQ(h.workspace.openedURLs,
+              (std::vector<std::string>{
+                  "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility",
+                  "x-apple.systempreferences:com.apple.preference.security?Privacy_ListenEvent"}));
+}
+
+TEST_F(ControllerLifecycleTest, ShowBringsTheWindowForwardThenActivates) {
+    h.c().show();
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"shell.showWindow", "workspace.activate"}));
+}
+
+TEST_F(ControllerLifecycleTest, QuitAsksToTerminate) {
+    h.c().quit();
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"workspace.terminate"}));
+}
+
+}  // namespace
+}  // namespace tactora::testing

@@ -1,0 +1,69 @@
+#include <gtest/gtest.h>
+
+#include "app/ControllerHarness.h"
+
+namespace tactora::testing {
+namespace {
+
+class ControllerStatusTest : public ::testing::Test {
+  protected:
+    ControllerHarness h;
+};
+
+TEST_F(ControllerStatusTest, LiveLineStartsWithNoFingersAndDashes) {
+    EXPECT_EQ(h.view.live, "0 | — | —");
+}
+
+TEST_F(ControllerStatusTest, LiveLineShowsZeroFingersOnceHalfASecondPassesWithoutAFrame) {
+    h.launchAndSwitchOn();
+    h.assign(5, action::copy);
+    h.tap(2);
+    h.queue.advance(0.1);
+    h.rest(3);
+    const double frameTime = h.c().lastFrame();
+
+    h.clock.now = frameTime + 0.4999;
+    h.c().refresh();
+    EXPECT_EQ(h.view.live, "3 | tap 2 | —");
+
+    h.clock.now = frameTime + 0.5;
+    h.c().refresh();
+    EXPECT_EQ(h.view.live, "0 | tap 2 | —");
+}
+
+TEST_F(ControllerStatusTest, PermissionLineShowsEachState) {
+    h.permissions.inputMonitoring = false;
+    h.c().refresh();
+    EXPECT_EQ(h.view.permission, "AX ok IM pending");
+
+    h.permissions.accessibility = false;
+    h.permissions.inputMonitoring = true;
+    h.c().refresh();
+    EXPECT_EQ(h.view.permission, "AX pending IM ok");
+}
+
+TEST_F(ControllerStatusTest, SwitchedOffStatusItemShowsTheOutlineAndThePauseWord) {
+    h.c().applicationDidFinishLaunching();
+    h.c().updateMenuIcon();
+
+    ASSERT_TRUE(h.view.statusItem.has_value());
+    EXPECT_EQ(*h.view.statusItem,
+              (StatusItemAppearance{"computermouse", "Tactora", "Tactora · menu.pause · Default"}));
+}
+
+TEST_F(ControllerStatusTest, SwitchedOnStatusItemShowsTheFilledSymbolAndActiveProfile) {
+    h.launchAndSwitchOn();
+    h.c().profiles().rename("Work");
+    h.c().refresh();
+
+    EXPECT_EQ(*h.view.statusItem, (StatusItemAppearance{"computermouse.fill", "Tactora",
+                                                        "Tactora · menu.active · Work"}));
+}
+
+TEST_F(ControllerStatusTest, StatusItemIsNotDrawnBeforeItExists) {
+    h.c().refresh();
+    EXPECT_FALSE(h.view.statusItem.has_value());
+}
+
+}  // namespace
+}  // namespace tactora::testing

@@ -1,0 +1,337 @@
+#include <gtest/gtest.h>
+
+#include "app/ControllerHarness.h"
+
+namespace tactora::testing {
+namespace {
+
+class ControllerTapTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        h.launchAndSwitchOn();
+        h.assign(1, action::right);
+    }
+
+    ControllerHarness h;
+};
+
+TEST_F(ControllerTapTest, InstallingCreatesTheTapOnceForButtonsDragsAndScroll) {
+    EXPECT_EQ(h.eventTap.creations, 1);
+    EXPECT_EQ(h.eventTap.createdMask, 0x4000DEU);
+    EXPECT_TRUE(h.eventTap.enabled);
+
+    h.c().pause();
+    EXPECT_FALSE(h.eventTap.enabled);
+    EXPECT_TRUE(h.c().installTap());
+    EXPECT_EQ(h.eventTap.creations, 1);
+    EXPECT_TRUE(h.eventTap.enabled);
+}
+
+TEST(ControllerTapInstallTest, FailedCreationReturnsFalseAndIsTriedAgainNextTime) {
+    ControllerHarness h;
+    h.eventTap.createSucceeds = false;
+    EXPECT_FALSE(h.c().installTap());
+    EXPECT_FALSE(h.eventTap.enabled);
+
+    h.eventTap.createSucceeds = true;
+    EXPECT_TRUE(h.c().installTap());
+    EXPECT_EQ(h.eventTap.creations, 2);
+    EXPECT_TRUE(h.eventTap.enabled);
+}
+
+TEST_F(ControllerTapTest, MarkedEventsPassUntouchedEvenFromTheMouse) {
+    h.rest(2);
+    FakeTapEvent down(event::leftMouseDown, 0, mouseSender, marker);
+
+    EXPECT_EQ(h.send(down), EventDisposition::pass);
+    EXPECT_EQ(down.changes, 0);
+    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_EQ(h.c().lastClick(), 0);
+}
+
+TEST_F(ControllerTapTest, EveryEventPassesWithGesturesSwitchedOff) {
+    h.c().pause();
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+
+    EXPECT_EQ(h.send(down), EventDisposition::pass);
+    EXPECT_EQ(down.changes, 0);
+    EXPECT_EQ(h.c().lastClick(), 0);
+}
+
+TEST_F(ControllerTapTest, EveryEventPassesWhileAShortcutIsRecorded) {
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    EventDisposition during = EventDisposition::swallow;
+    h.dialogs.save = false;
+    h.dialogs.whileOpen = [&] { during = h.send(down); };
+    h.c().beginRecording(0);
+
+    EXPECT_EQ(during, EventDisposition::pass);
+    EXPECT_EQ(down.changes, 0);
+    EXPECT_EQ(h.c().lastClick(), 0);
+}
+
+TEST_F(ControllerTapTest, EveryEventPassesWhileTheProgramIsActive) {
+    h.rest(2);
+    h.workspace.active = true;
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+
+    EXPECT_EQ(h.send(down), EventDisposition::pass);
+    EXPECT_EQ(down.changes, 0);
+    EXPECT_EQ(h.c().lastClick(), 0);
+}
+
+TEST_F(ControllerTapTest, TwoFingerPressBecomesARightPressThroughDragsAndUp) {
+    h.rest(2);
+    h.queue.advance(0.1);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    ASSERT_EQ(h.send(down), EventDisposition::pass);
+    EXPECT_EQ(down.type, event::rightMouseDown);
+    EXPECT_EQ(down.button(), 1);
+    EXPECT_EQ(h.c().lastGesture(), "click 2");
+    EXPECT_TRUE(h.c().gesture().clicked);
+
+    for (int i = 0; i < 3; ++i) {
+        FakeTapEvent drag = h.mouseEvent(event::leftMouseDragged);
+        ASSERT_EQ(h.send(drag), EventDisposition::pass);
+        EXPECT_EQ(drag.type, event::rightMouseDragged);
+        EXPECT_EQ(drag.button(), 1);
+    }
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    ASSERT_EQ(h.send(up), EventDisposition::pass);
+    EXPECT_EQ(up.type, event::rightMouseUp);
+    EXPECT_EQ(up.button(), 1);
+    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_TRUE(h.poster.posted.empty());
+}
+
+TEST_F(ControllerTapTest, RewritingKeepsEverythingElseAndAddsNoMarker) {
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    down.fields.at(event::clickState) = 2;
+    h.send(down);
+
+    EXPECT_EQ(down.changes, 2);
+    EXPECT_EQ(down.fields.at(event::clickState), 2);
+    EXPECT_EQ(down.fields.at(event::sourceUserData), 0);
+    EXPECT_EQ(down.fields.at(event::senderID), static_cast<std::int64_t>(mouseSender));
+}
+
+TEST_F(ControllerTapTest, PressWithContactAQuarterSecondOldPassesAsALeftClick) {
+    h.rest(2);
+    h.clock.now = h.c().lastFrame() + 0.25;
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+
+    EXPECT_EQ(h.send(down), EventDisposition::pass);
+    EXPECT_EQ(down.type, event::leftMouseDown);
+    EXPECT_EQ(down.changes, 0);
+    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_EQ(h.c().lastClick(), h.clock.now);
+    EXPECT_TRUE(h.c().gesture().clicked);
+}
+
+TEST_F(ControllerTapTest, PressWithContactJustUnderAQuarterSecondOldIsRewritten) {
+    h.rest(2);
+    h.clock.now = h.c().lastFrame() + 0.2499;
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+
+    EXPECT_EQ(h.send(down), EventDisposition::pass);
+    EXPECT_EQ(down.type, event::rightMouseDown);
+}
+
+TEST_F(ControllerTapTest, ClickSlotMappedToDefaultPasses) {
+    h.rest(3);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+
+    EXPECT_EQ(h.send(down), EventDisposition::pass);
+    EXPECT_EQ(down.changes, 0);
+    EXPECT_EQ(h.c().lastGesture(), "click 3");
+    EXPECT_TRUE(h.c().presses().empty());
+}
+
+TEST_F(ControllerTapTest, PressWithNoFingersPasses) {
+    h.assign(0, action::right);
+    h.rest(1);
+    h.frame(0);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+
+    EXPECT_EQ(h.send(down), EventDisposition::pass);
+    EXPECT_EQ(down.changes, 0);
+}
+
+TEST_F(ControllerTapTest, PressWithFiveFingersPasses) {
+    for (std::int64_t slot = 0; slot < 4; ++slot) {
+        h.assign(slot, action::right);
+    }
+    h.rest(5);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+
+    EXPECT_EQ(h.send(down), EventDisposition::pass);
+    EXPECT_EQ(down.changes, 0);
+    EXPECT_TRUE(h.c().presses().empty());
+}
+
+TEST_F(ControllerTapTest, CopyOnAClickSlotSwallowsThePressAndCopiesOnceAfterTheUp) {
+    h.assign(1, action::copy);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    EXPECT_EQ(h.send(down), EventDisposition::swallow);
+    FakeTapEvent drag = h.mouseEvent(event::leftMouseDragged);
+    EXPECT_EQ(h.send(drag), EventDisposition::swallow);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    EXPECT_EQ(h.send(up), EventDisposition::swallow);
+
+    EXPECT_TRUE(h.poster.posted.empty());
+    h.queue.runReady();
+    ASSERT_EQ(h.poster.keyEvents().size(), 2U);
+    EXPECT_EQ(h.poster.keyEvents().front().keyCode, 8);
+    h.queue.advance(1);
+    EXPECT_EQ(h.poster.keyEvents().size(), 2U);
+}
+
+TEST_F(ControllerTapTest, SwallowedPressIsNotPerformedWhenItsContextWentStale) {
+    h.assign(1, action::copy);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+    h.workspace.frontmost = 7;
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    EXPECT_EQ(h.send(up), EventDisposition::swallow);
+    h.queue.runReady();
+
+    EXPECT_TRUE(h.poster.posted.empty());
+}
+
+TEST_F(ControllerTapTest, DoubleClickOnAClickSlotIsPerformedOnRelease) {
+    h.assign(1, action::doubleClick);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    EXPECT_EQ(h.send(down), EventDisposition::swallow);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    EXPECT_EQ(h.send(up), EventDisposition::swallow);
+    h.queue.runReady();
+
+    EXPECT_EQ(h.poster.mouseEvents().size(), 4U);
+}
+
+TEST_F(ControllerTapTest, ScrollFromTheMouseSetsMovedAndPasses) {
+    h.rest(1);
+    FakeTapEvent scroll = h.mouseEvent(event::scrollWheel);
+
+    EXPECT_EQ(h.send(scroll), EventDisposition::pass);
+    EXPECT_EQ(scroll.changes, 0);
+    EXPECT_TRUE(h.c().gesture().moved);
+    h.queue.advance(0.1);
+    h.frame(0);
+    EXPECT_EQ(h.c().lastGesture(), "—");
+}
+
+TEST_F(ControllerTapTest, ReleasingPressesPostsOneUpForTheTargetWithClickStateOne) {
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    down.fields.at(event::clickState) = 3;
+    h.send(down);
+    h.c().releasePresses();
+
+    EXPECT_EQ(h.poster.mouseEvents(), (std::vector<MouseButtonEvent>{{.type = event::rightMouseUp,
+                                                                      .button = MouseButton::right,
+                                                                      .clickState = 1,
+                                                                      .userData = marker}}));
+    EXPECT_TRUE(h.c().presses().empty());
+}
+
+TEST_F(ControllerTapTest, ReleasingDropsSwallowedPressesWithoutPerformingThem) {
+    h.assign(1, action::copy);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+    h.c().releasePresses();
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+
+    EXPECT_EQ(h.send(up), EventDisposition::pass);
+    h.queue.runReady();
+    EXPECT_TRUE(h.poster.posted.empty());
+}
+
+TEST_F(ControllerTapTest, TapDisabledByTimeoutSwitchesOffAndSaysPaused) {
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+    FakeTapEvent notice(event::tapDisabledByTimeout, 0, 0);
+
+    EXPECT_EQ(h.send(notice), EventDisposition::pass);
+    EXPECT_FALSE(h.view.enabled);
+    EXPECT_EQ(h.view.status, "error.paused");
+    EXPECT_EQ(h.poster.mouseEvents().size(), 1U);
+    EXPECT_FALSE(h.log.contains("tap.enable"));
+}
+
+TEST_F(ControllerTapTest, TapDisabledByUserInputSwitchesOffAndSaysPaused) {
+    FakeTapEvent notice(event::tapDisabledByUserInput, 0, 0);
+
+    EXPECT_EQ(h.send(notice), EventDisposition::pass);
+    EXPECT_FALSE(h.view.enabled);
+    EXPECT_EQ(h.view.status, "error.paused");
+}
+
+TEST_F(ControllerTapTest, EventsOfOtherDevicesPassAndTheSenderIsLookedUpOnlyWhenItChanges) {
+    h.rest(2);
+    for (int i = 0; i < 3; ++i) {
+        FakeTapEvent down(event::leftMouseDown, 0, otherSender);
+        EXPECT_EQ(h.send(down), EventDisposition::pass);
+        EXPECT_EQ(down.changes, 0);
+    }
+    EXPECT_EQ(h.sensor.lookups, 1);
+    EXPECT_EQ(h.c().lastSender(), otherSender);
+    EXPECT_FALSE(h.c().senderIsMouse());
+
+    FakeTapEvent fromMouse = h.mouseEvent(event::leftMouseDown);
+    h.send(fromMouse);
+    FakeTapEvent again = h.mouseEvent(event::leftMouseUp);
+    h.send(again);
+    EXPECT_EQ(h.sensor.lookups, 2);
+    EXPECT_TRUE(h.c().senderIsMouse());
+}
+
+TEST_F(ControllerTapTest, UpWithoutItsDownPassesUnchanged) {
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    EXPECT_EQ(h.send(up), EventDisposition::pass);
+    EXPECT_EQ(up.changes, 0);
+}
+
+TEST_F(ControllerTapTest, APressReplacesTheOneHeldUnderTheSameButton) {
+    h.rest(2);
+    FakeTapEvent first = h.mouseEvent(event::leftMouseDown);
+    h.send(first);
+    h.assign(1, action::middle);
+    FakeTapEvent second = h.mouseEvent(event::leftMouseDown);
+    h.send(second);
+
+    ASSERT_EQ(h.c().presses().size(), 1U);
+    EXPECT_EQ(h.c().presses().at(0).button, MouseButton::centre);
+    EXPECT_EQ(second.type, event::otherMouseDown);
+    EXPECT_EQ(second.button(), 2);
+}
+
+TEST_F(ControllerTapTest, RightButtonPressesAreKeptUnderTheirOwnButton) {
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::rightMouseDown, 1);
+    h.send(down);
+
+    ASSERT_EQ(h.c().presses().count(1), 1U);
+    EXPECT_EQ(h.c().presses().at(1).action, action::right);
+    EXPECT_EQ(h.c().presses().at(1).context.generation, h.c().actionGeneration());
+}
+
+TEST_F(ControllerTapTest, RewriteChoosesDragOverDown) {
+    FakeTapEvent event = h.mouseEvent(event::leftMouseDown);
+    Controller::rewrite(event, MouseButton::centre, true, true);
+    EXPECT_EQ(event.type, event::otherMouseDragged);
+    Controller::rewrite(event, MouseButton::right, false, false);
+    EXPECT_EQ(event.type, event::rightMouseUp);
+    EXPECT_EQ(event.button(), 1);
+}
+
+}  // namespace
+}  // namespace tactora::testing

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <vector>
+
+#include "app/fakes/CallLog.h"
+#include "core/platform/AppShell.h"
+
+namespace tactora::testing {
+
+class FakeAppShell final : public AppShell {
+  public:
+    explicit FakeAppShell(CallLog& log) : log_(log) {}
+
+    void setRegularActivationPolicy() override { log_.add("shell.setRegularActivationPolicy"); }
+    void applyApplicationIcon() override { log_.add("shell.applyApplicationIcon"); }
+    void buildMainMenu(const std::vector<MenuEntry>& items) override {
+        log_.add("shell.buildMainMenu");
+        mainMenu = items;
+    }
+    void buildWindow() override { log_.add("shell.buildWindow"); }
+    void createStatusItem() override { log_.add("shell.createStatusItem"); }
+    void buildStatusMenu(const std::vector<MenuEntry>& items) override {
+        log_.add("shell.buildStatusMenu");
+        statusMenu = items;
+    }
+    void showWindow() override { log_.add("shell.showWindow"); }
+
+    std::vector<MenuEntry> mainMenu;
+    std::vector<MenuEntry> statusMenu;
+
+  private:
+    CallLog& log_;
+};
+
+}  // namespace tactora::testing

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/fakes/CallLog.h"
+#include "core/platform/Workspace.h"
+
+namespace tactora::testing {
+
+class FakeWorkspace final : public Workspace {
+  public:
+    explicit FakeWorkspace(CallLog& log) : log_(log) {}
+
+    std::optional<std::int32_t> frontmostProcessID() const override { return frontmost; }
+    bool isActive() const override { return active; }
+
+    bool activateOtherInstance() override {
+        log_.add("workspace.activateOtherInstance");
+        return otherInstance;
+    }
+    void activate() override { log_.add("workspace.activate"); }
+    void openURL(const std::string& url) override {
+        log_.add("workspace.openURL");
+        openedURLs.push_back(url);
+    }
+    void terminate() override { log_.add("workspace.terminate"); }
+    void observeWake(std::function<void()> handler) override {
+        log_.add("workspace.observeWake");
+        wake = std::move(handler);
+    }
+
+    std::optional<std::int32_t> frontmost = 42;
+    bool active = false;
+    bool otherInstance = false;
+    std::vector<std::string> openedURLs;
+    std::function<void()> wake;
+
+  private:
+    CallLog& log_;
+};
+
+}  // namespace tactora::testing
