@@ -1,8 +1,6 @@
 #include "linux/LinuxProgramEnvironment.h"
 
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <utility>
 
 #include "core/console/IcnsReader.h"
@@ -27,13 +25,7 @@ LinuxProgramEnvironment::LinuxProgramEnvironment(std::filesystem::path resources
       preferences_(preferencesDirectory()) {}
 
 std::optional<std::vector<std::int64_t>> LinuxProgramEnvironment::appIconPixelWidths() {
-    std::ifstream file(resources_ / "Tactora.icns", std::ios::binary);
-    if (!file) {
-        return std::nullopt;
-    }
-    const std::vector<std::uint8_t> bytes{std::istreambuf_iterator<char>(file),
-                                          std::istreambuf_iterator<char>()};
-    return icnsPixelWidths(bytes);
+    return icnsFilePixelWidths(resources_ / "Tactora.icns");
 }
 
 void LinuxProgramEnvironment::runApplication() {
