@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <optional>
 #include <string_view>
@@ -98,11 +97,12 @@ inline constexpr std::array<LocalizationKey, 69> localizationKeys = {
 
 // The entry for `key`, or nothing when the program never looks it up.
 constexpr std::optional<LocalizationKey> findLocalizationKey(std::string_view key) {
-    const auto found = std::ranges::find(localizationKeys, key, &LocalizationKey::key);
-    if (found == localizationKeys.end()) {
-        return std::nullopt;
+    for (const LocalizationKey& entry : localizationKeys) {
+        if (entry.key() == key) {
+            return entry;
+        }
     }
-    return *found;
+    return std::nullopt;
 }
 
 }  // namespace tactora
