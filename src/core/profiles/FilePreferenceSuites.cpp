@@ -26,7 +26,7 @@ bool isPlainFileCharacter(char c) {
 }
 
 std::string escapedFileName(const std::string& domain) {
-    static constexpr char digits[] = "0123456789ABCDEF";
+    constexpr std::string_view digits = "0123456789ABCDEF";
     std::string name;
     for (const char c : domain) {
         // A leading dot would hide the file, and "." or ".." would name a directory.

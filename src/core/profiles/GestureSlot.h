@@ -3,11 +3,9 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace tactora {
-
 // A profile has one action per gesture slot: physical clicks with 1...4 fingers resting take
 // slots 0...3, taps with 1...4 fingers take slots 4...7.
-namespace slot {
+namespace tactora::slot {
 inline constexpr std::size_t count = 8;
 
 constexpr std::int64_t forClick(std::int64_t fingers) {
@@ -19,6 +17,4 @@ constexpr std::int64_t forTap(std::int64_t fingers) {
 constexpr bool isValid(std::int64_t index) {
     return index >= 0 && index < std::int64_t{count};
 }
-}  // namespace slot
-
-}  // namespace tactora
+}  // namespace tactora::slot

@@ -25,6 +25,14 @@ class Preferences {
     virtual void setString(const std::string& key, const std::string& value) = 0;
     virtual void setInteger(const std::string& key, std::int64_t value) = 0;
     virtual void remove(const std::string& key) = 0;
+
+  protected:
+    // Only implementations copy or move, never through the interface.
+    Preferences() = default;
+    Preferences(const Preferences&) = default;
+    Preferences(Preferences&&) = default;
+    Preferences& operator=(const Preferences&) = default;
+    Preferences& operator=(Preferences&&) = default;
 };
 
 // The standard domain and named private suites beside it. Main thread only.
@@ -36,6 +44,13 @@ class PreferenceSuites {
     virtual std::shared_ptr<Preferences> suite(const std::string& name) = 0;
     // Deletes everything a suite holds, in memory and on disk.
     virtual void removeSuite(const std::string& name) = 0;
+
+  protected:
+    PreferenceSuites() = default;
+    PreferenceSuites(const PreferenceSuites&) = default;
+    PreferenceSuites(PreferenceSuites&&) = default;
+    PreferenceSuites& operator=(const PreferenceSuites&) = default;
+    PreferenceSuites& operator=(PreferenceSuites&&) = default;
 };
 
 }  // namespace tactora

@@ -25,6 +25,8 @@ class SuiteRemoval {
         : suites_(suites), name_(std::move(name)) {}
     SuiteRemoval(const SuiteRemoval&) = delete;
     SuiteRemoval& operator=(const SuiteRemoval&) = delete;
+    SuiteRemoval(SuiteRemoval&&) = delete;
+    SuiteRemoval& operator=(SuiteRemoval&&) = delete;
     ~SuiteRemoval() { suites_.removeSuite(name_); }
 
   private:

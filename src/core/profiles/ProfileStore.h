@@ -27,8 +27,11 @@ class ProfileStore {
     // rejected is kept under rejectedProfilesKey first, so it can still be recovered by hand.
     ProfileStore(std::shared_ptr<Preferences> defaults, std::string defaultName);
 
+    ~ProfileStore() = default;
     ProfileStore(const ProfileStore&) = delete;
     ProfileStore& operator=(const ProfileStore&) = delete;
+    ProfileStore(ProfileStore&&) = delete;
+    ProfileStore& operator=(ProfileStore&&) = delete;
 
     const std::vector<WorkProfile>& profiles() const { return profiles_; }
     const Uuid& activeID() const { return activeID_; }

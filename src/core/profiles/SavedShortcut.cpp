@@ -7,7 +7,7 @@ namespace tactora {
 SavedShortcut::SavedShortcut(std::uint16_t key, std::uint64_t modifiers, std::string text)
     : SavedShortcut(Unmasked{}, key, modifiers & allowedFlags, std::move(text)) {}
 
-SavedShortcut::SavedShortcut(Unmasked /*unused*/, std::uint16_t key, std::uint64_t modifiers,
+SavedShortcut::SavedShortcut(Unmasked /*tag*/, std::uint16_t key, std::uint64_t modifiers,
                              std::string text)
     : keyCode(key), flags(modifiers), label(std::move(text)) {}
 

@@ -14,12 +14,12 @@ struct SavedShortcut {
                                                   ModifierFlags::option | ModifierFlags::shift |
                                                   ModifierFlags::function;
 
-    // Keeps only the allowed modifier bits of `flags`.
-    SavedShortcut(std::uint16_t keyCode, std::uint64_t flags, std::string label);
+    // Stores `key` and `text` as given and keeps only the allowed bits of `modifiers`.
+    SavedShortcut(std::uint16_t key, std::uint64_t modifiers, std::string text);
 
     // A shortcut exactly as it was stored, flags unmasked; only the JSON decoder needs this, so
     // that sanitising can tell a damaged record from a good one.
-    static SavedShortcut decoded(std::uint16_t keyCode, std::uint64_t flags, std::string label);
+    static SavedShortcut decoded(std::uint16_t key, std::uint64_t modifiers, std::string text);
 
     // Key code below 128, a non-empty label and no modifier outside allowedFlags.
     bool isValid() const;
@@ -32,7 +32,7 @@ struct SavedShortcut {
 
   private:
     struct Unmasked {};
-    SavedShortcut(Unmasked, std::uint16_t keyCode, std::uint64_t flags, std::string label);
+    SavedShortcut(Unmasked /*tag*/, std::uint16_t key, std::uint64_t modifiers, std::string text);
 };
 
 }  // namespace tactora

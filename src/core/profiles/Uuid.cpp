@@ -65,7 +65,7 @@ std::optional<Uuid> Uuid::parse(std::string_view text) {
 }
 
 std::string Uuid::text() const {
-    static constexpr char digits[] = "0123456789ABCDEF";
+    constexpr std::string_view digits = "0123456789ABCDEF";
     std::string result;
     result.reserve(textLength);
     for (std::size_t i = 0; i < bytes_.size(); ++i) {

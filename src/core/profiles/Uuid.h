@@ -28,6 +28,7 @@ class Uuid {
 
     const std::array<std::uint8_t, 16>& bytes() const { return bytes_; }
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): the check misreads the defaulted comparison
     constexpr auto operator<=>(const Uuid&) const = default;
 
   private:
