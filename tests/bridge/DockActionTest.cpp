@@ -1,5 +1,3 @@
-#include <unistd.h>
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -8,6 +6,7 @@
 #include "FakeLibraryPaths.h"
 #include "bridge/BridgeTesting.h"
 #include "bridge/LoadedLibrary.h"
+#include "bridge/ScratchDirectory.h"
 #include "bridge/TouchBridge.h"
 #include "bridge/fakes/FakeDockControls.h"
 
@@ -18,22 +17,7 @@ class DockAction : public ::testing::Test {
   protected:
     void TearDown() override { TASetDockLibraryPath(nullptr); }
 
-    // Points the Dock call at a copy of the stand-in Dock that exists once `install` is called.
-    std::string pendingDockPath() {
-        directory_ =
-            std::filesystem::temp_directory_path() / ("tactora-dock-" + std::to_string(::getpid()));
-        std::filesystem::remove_all(directory_);
-        std::filesystem::create_directories(directory_);
-        return (directory_ / "HIServices").string();
-    }
-
-    ~DockAction() override {
-        if (!directory_.empty()) {
-            std::filesystem::remove_all(directory_);
-        }
-    }
-
-    std::filesystem::path directory_;
+    ScratchDirectory directory_;
 };
 
 FakeDockState& dockState(const LoadedLibrary& dock) {
@@ -52,7 +36,7 @@ TEST_F(DockAction, ReturnsMinusOneWhenTheLibraryLacksTheDockCall) {
 }
 
 TEST_F(DockAction, OpensTheLibraryAgainAfterAFailedOpen) {
-    const std::string path = pendingDockPath();
+    const std::string path = directory_.file("HIServices");
     TASetDockLibraryPath(path.c_str());
     ASSERT_EQ(TADesktopAction(0), -1);
 

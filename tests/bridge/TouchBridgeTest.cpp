@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <filesystem>
 #include <ostream>
 #include <string>
@@ -14,6 +12,7 @@
 #include "bridge/FakeFramework.h"
 #include "bridge/FrameRecorder.h"
 #include "bridge/RawFrame.h"
+#include "bridge/ScratchDirectory.h"
 
 // Names the variant in test output instead of its bytes.
 void PrintTo(const FakeMultitouchVariant& variant, std::ostream* stream) {
@@ -52,11 +51,8 @@ TEST_F(TouchBridge, SystemFrameworkIsUnavailableOffApple) {
 }
 
 TEST_F(TouchBridge, RetriesAFailedLoadOnTheNextStart) {
-    const std::filesystem::path directory =
-        std::filesystem::temp_directory_path() / ("tactora-bridge-" + std::to_string(::getpid()));
-    std::filesystem::create_directories(directory);
-    const std::string copy = (directory / "MultitouchSupport").string();
-    std::filesystem::remove(copy);
+    ScratchDirectory directory;
+    const std::string copy = directory.file("MultitouchSupport");
     TASetFrameworkPath(copy.c_str());
     ASSERT_EQ(start(), 0);
     ASSERT_STREQ(TAStatus(), "sensor.unavailable");
@@ -73,7 +69,6 @@ TEST_F(TouchBridge, RetriesAFailedLoadOnTheNextStart) {
     EXPECT_STREQ(TAStatus(), "sensor.connected");
     EXPECT_EQ(controls->log->starts, 1);
     TAStop();
-    std::filesystem::remove_all(directory);
 }
 
 class TouchBridgeWithoutAFunction : public ::testing::TestWithParam<FakeMultitouchVariant> {};
