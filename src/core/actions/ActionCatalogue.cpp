@@ -10,7 +10,7 @@ namespace tactora::catalogue {
 namespace {
 
 struct KeyAction {
-    ActionIndex action;
+    ActionIndex action = action::defaultAction;
     KeyStroke stroke;
 };
 

@@ -7,10 +7,8 @@
 #include "core/actions/KeyStroke.h"
 #include "core/platform/MouseButton.h"
 
-namespace tactora {
-
 // How the entries of the action catalogue are carried out. Pure lookups.
-namespace catalogue {
+namespace tactora::catalogue {
 
 // The clicks of the left, right, middle and double click actions; nothing for the others.
 std::optional<ButtonClicks> buttonClicks(ActionIndex action);
@@ -27,6 +25,4 @@ std::optional<MouseButton> pressTarget(ActionIndex action);
 // nothing for the others.
 std::optional<bool> dockShowsDesktop(ActionIndex action);
 
-}  // namespace catalogue
-
-}  // namespace tactora
+}  // namespace tactora::catalogue

@@ -59,7 +59,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // of `services.view` must exist already; nothing else is touched until launching finishes.
     static std::shared_ptr<Controller> create(ControllerServices services);
 
-    Controller(Passkey, ControllerServices services);
+    Controller(Passkey /*unused*/, ControllerServices services);
     Controller(const Controller&) = delete;
     Controller& operator=(const Controller&) = delete;
     Controller(Controller&&) = delete;

@@ -3,8 +3,6 @@
 #include <cstddef>
 #include <string_view>
 
-namespace tactora {
-
 // User-perceived characters (extended grapheme clusters) of UTF-8 text, so that cutting a text
 // never splits a letter from its accents, an emoji from its modifiers or a flag in two.
 //
@@ -15,7 +13,7 @@ namespace tactora {
 // pictographic characters joins them; regional indicators pair into flags; Hangul jamo join
 // into syllables. Prepended concatenation marks and the rarer scripts' marks are not
 // modelled: there a cluster may end one code point early.
-namespace graphemes {
+namespace tactora::graphemes {
 
 // The byte offset at which the cluster that starts at `offset` ends (`offset` < size).
 std::size_t clusterEnd(std::string_view text, std::size_t offset);
@@ -26,6 +24,4 @@ std::size_t count(std::string_view text);
 // The first `limit` clusters of `text` (all of it when it has no more).
 std::string_view prefix(std::string_view text, std::size_t limit);
 
-}  // namespace graphemes
-
-}  // namespace tactora
+}  // namespace tactora::graphemes

@@ -4,10 +4,8 @@
 #include <string>
 #include <string_view>
 
-namespace tactora {
-
 // Code points in and out of UTF-8.
-namespace utf8 {
+namespace tactora::utf8 {
 
 inline constexpr char32_t replacement = 0xFFFD;
 
@@ -20,6 +18,4 @@ char32_t decode(std::string_view text, std::size_t& offset);
 // replacement character).
 void append(std::string& text, char32_t codePoint);
 
-}  // namespace utf8
-
-}  // namespace tactora
+}  // namespace tactora::utf8
