@@ -1,7 +1,10 @@
 #ifndef TACTORA_BRIDGE_MULTITOUCHFUNCTIONS_H
 #define TACTORA_BRIDGE_MULTITOUCHFUNCTIONS_H
 
-/* The six functions of the private multitouch framework that the bridge uses. */
+/*
+ * The six functions of the private multitouch framework that the bridge uses. Looked up and
+ * called on the main thread; only the frame handler runs on the framework's thread.
+ */
 
 #include <stdbool.h>
 #include <stdint.h>
