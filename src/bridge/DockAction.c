@@ -1,8 +1,9 @@
+#include "bridge/TouchBridge.h"
+
 #include <stddef.h>
 
 #include "bridge/BridgeTesting.h"
 #include "bridge/LibraryLoader.h"
-#include "bridge/TouchBridge.h"
 
 #ifdef __APPLE__
 #include <CoreFoundation/CoreFoundation.h>
