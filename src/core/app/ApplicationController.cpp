@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/app/Controller.h"
+#include "core/support/Fatal.h"
 
 namespace tactora {
 
@@ -25,6 +26,14 @@ void clearApplicationController() {
 
 Controller* applicationController() {
     return instance().get();
+}
+
+EventDisposition handleTapEvent(EventType type, TapEvent& event) {
+    Controller* controller = applicationController();
+    if (controller == nullptr) {
+        fatalError("Event tap without a controller");
+    }
+    return controller->handle(type, event);
 }
 
 }  // namespace tactora

@@ -2,6 +2,10 @@
 
 #include <memory>
 
+#include "core/platform/EventDisposition.h"
+#include "core/platform/EventTypes.h"
+#include "core/platform/TapEvent.h"
+
 namespace tactora {
 
 class Controller;
@@ -16,5 +20,9 @@ void clearApplicationController();
 
 // The controller set above (not owned by the caller), or null when none is set.
 Controller* applicationController();
+
+// The event tap's callback: hands the event to the application controller's handle(). Without
+// a controller the program stops; the tap never exists before the controller does. Main thread.
+EventDisposition handleTapEvent(EventType type, TapEvent& event);
 
 }  // namespace tactora

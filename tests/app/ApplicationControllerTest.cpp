@@ -1,0 +1,40 @@
+#include "core/app/ApplicationController.h"
+
+#include <gtest/gtest.h>
+
+#include "app/ControllerHarness.h"
+
+namespace tactora::testing {
+namespace {
+
+TEST(ApplicationControllerTest, TheHarnessControllerIsTheApplicationControllerUntilCleared) {
+    {
+        ControllerHarness h;
+        EXPECT_EQ(applicationController(), h.controller.get());
+    }
+    EXPECT_EQ(applicationController(), nullptr);
+}
+
+TEST(ApplicationControllerTest, TapEventsGoToTheApplicationController) {
+    ControllerHarness h;
+    h.launchAndSwitchOn();
+    FakeTapEvent notice(event::tapDisabledByTimeout, 0, 0);
+
+    EXPECT_EQ(handleTapEvent(notice.type, notice), EventDisposition::pass);
+    EXPECT_FALSE(h.view.enabled);
+}
+
+TEST(ApplicationControllerDeathTest, TapEventWithoutAControllerStopsTheProgram) {
+    FakeTapEvent event(event::leftMouseDown, 0, mouseSender);
+    EXPECT_DEATH(handleTapEvent(event.type, event), "Event tap without a controller");
+}
+
+TEST(ApplicationControllerTest, FramesWithoutAControllerAreDropped) {
+    const std::int32_t ids[] = {1};
+    const float xs[] = {0.5F};
+    Controller::frameCallback(1, ids, xs, xs);
+    SUCCEED();
+}
+
+}  // namespace
+}  // namespace tactora::testing
