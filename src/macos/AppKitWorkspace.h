@@ -1,0 +1,29 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "core/platform/Workspace.h"
+
+namespace tactora::macos {
+
+// NSWorkspace, NSRunningApplication and the shared application.
+class AppKitWorkspace final : public Workspace {
+  public:
+    std::optional<std::int32_t> frontmostProcessID() const override;
+    bool isActive() const override;
+    bool activateOtherInstance() override;
+    void activate() override;
+    void openURL(const std::string& url) override;
+    void terminate() override;
+    void observeWake(std::function<void()> handler) override;
+
+  private:
+    id __strong wakeObserver_;
+};
+
+}  // namespace tactora::macos
