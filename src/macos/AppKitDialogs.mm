@@ -1,0 +1,71 @@
+#include "macos/AppKitDialogs.h"
+
+#import <AppKit/AppKit.h>
+
+#include "macos/AlertRecordingDialog.h"
+#include "macos/KeyPressConversion.h"
+#include "macos/ScopedEventMonitor.h"
+#include "macos/StringConversion.h"
+
+namespace tactora::macos {
+
+namespace {
+
+NSAlert* makeAlert(const std::string& message, const std::string& informative) {
+    NSAlert* alert = [[NSAlert alloc] init];
+    alert.messageText = toNSString(message);
+    alert.informativeText = toNSString(informative);
+    return alert;
+}
+
+// Neither button answers Return or Escape, so that those keys reach the monitor and can be
+// recorded like any other.
+NSButton* addPlainButton(NSAlert* alert, const std::string& title) {
+    NSButton* button = [alert addButtonWithTitle:toNSString(title)];
+    button.keyEquivalent = @"";
+    return button;
+}
+
+NSTextField* makeRecordingLabel(const std::string& text) {
+    NSTextField* label = [NSTextField labelWithString:toNSString(text)];
+    label.font = [NSFont monospacedSystemFontOfSize:22 weight:NSFontWeightMedium];
+    label.frame = NSMakeRect(0, 0, 380, 36);
+    return label;
+}
+
+}  // namespace
+
+bool AppKitDialogs::runRecordingDialog(const RecordingDialogTexts& texts,
+                                       const RecordingKeyHandler& onKey) {
+    NSAlert* alert = makeAlert(texts.message, texts.informative);
+    NSButton* save = addPlainButton(alert, texts.saveButton);
+    save.enabled = NO;
+    addPlainButton(alert, texts.cancelButton);
+    NSTextField* label = makeRecordingLabel(texts.waiting);
+    alert.accessoryView = label;
+
+    AlertRecordingDialog dialog(label, save);
+    AlertRecordingDialog* open = &dialog;  // outlives the monitor, which goes first
+    const RecordingKeyHandler* handler = &onKey;
+    const ScopedEventMonitor monitor(NSEventMaskKeyDown, ^NSEvent*(NSEvent* event) {
+        const EventDisposition disposition = (*handler)(keyPressFrom(event, alert.window), *open);
+        return disposition == EventDisposition::swallow ? nil : event;
+    });
+    return [alert runModal] == NSAlertFirstButtonReturn;
+}
+
+std::optional<std::string> AppKitDialogs::runNamingDialog(const NamingDialogTexts& texts) {
+    NSAlert* alert = makeAlert(texts.message, texts.informative);
+    [alert addButtonWithTitle:toNSString(texts.saveButton)];
+    [alert addButtonWithTitle:toNSString(texts.cancelButton)];
+    NSTextField* field = [[NSTextField alloc] initWithFrame:NSMakeRect(0, 0, 320, 24)];
+    field.stringValue = toNSString(texts.initialText);
+    alert.accessoryView = field;
+    alert.window.initialFirstResponder = field;
+    if ([alert runModal] != NSAlertFirstButtonReturn) {
+        return std::nullopt;
+    }
+    return toStdString(field.stringValue);
+}
+
+}  // namespace tactora::macos
