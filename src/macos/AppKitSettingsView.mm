@@ -1,0 +1,90 @@
+#include "macos/AppKitSettingsView.h"
+
+#include "macos/StringConversion.h"
+
+namespace tactora::macos {
+
+void AppKitSettingsView::setStatusText(const std::string& text) {
+    controls_.status.stringValue = toNSString(text);
+}
+
+void AppKitSettingsView::setPermissionText(const std::string& text) {
+    controls_.permission.stringValue = toNSString(text);
+}
+
+void AppKitSettingsView::setLiveText(const std::string& text) {
+    controls_.live.stringValue = toNSString(text);
+}
+
+bool AppKitSettingsView::isEnabledOn() const {
+    return controls_.enabled.state == NSControlStateValueOn;
+}
+
+void AppKitSettingsView::setEnabledOn(bool on) {
+    controls_.enabled.state = on ? NSControlStateValueOn : NSControlStateValueOff;
+}
+
+void AppKitSettingsView::setProfileItems(const std::vector<ProfileMenuItem>& items) {
+    NSPopUpButton* menu = controls_.profileMenu;
+    [menu removeAllItems];
+    // Items go straight into the menu: the pop-up's own adding drops an earlier item of the same
+    // title, and profile names need not be unique.
+    for (const ProfileMenuItem& item : items) {
+        NSMenuItem* entry = [[NSMenuItem alloc] initWithTitle:toNSString(item.title)
+                                                       action:nil
+                                                keyEquivalent:@""];
+        entry.representedObject = toNSString(item.representedID);
+        [menu.menu addItem:entry];
+    }
+}
+
+void AppKitSettingsView::selectProfileItem(std::size_t index) {
+    [controls_.profileMenu selectItemAtIndex:static_cast<NSInteger>(index)];
+}
+
+std::optional<std::string> AppKitSettingsView::selectedProfileID() const {
+    id represented = controls_.profileMenu.selectedItem.representedObject;
+    if (![represented isKindOfClass:NSString.class]) {
+        return std::nullopt;
+    }
+    return toStdString(represented);
+}
+
+void AppKitSettingsView::selectAction(std::size_t slot, std::int64_t action) {
+    if (slot < controls_.actionMenus.count) {
+        [controls_.actionMenus[slot] selectItemAtIndex:static_cast<NSInteger>(action)];
+    }
+}
+
+std::int64_t AppKitSettingsView::selectedAction(std::size_t slot) const {
+    if (slot >= controls_.actionMenus.count) {
+        return -1;
+    }
+    return controls_.actionMenus[slot].indexOfSelectedItem;
+}
+
+void AppKitSettingsView::setRecordButton(std::size_t slot, const RecordButtonState& state) {
+    if (slot >= controls_.recordButtons.count) {
+        return;
+    }
+    NSButton* button = controls_.recordButtons[slot];
+    button.enabled = state.enabled;
+    button.title = toNSString(state.title);
+    button.toolTip = toNSString(state.toolTip);
+}
+
+void AppKitSettingsView::setStatusItem(const StatusItemAppearance& appearance) {
+    NSStatusBarButton* button = controls_.statusItem.button;
+    if (button == nil) {
+        return;
+    }
+    NSImage* image =
+        [NSImage imageWithSystemSymbolName:toNSString(appearance.symbolName)
+                  accessibilityDescription:toNSString(appearance.accessibilityDescription)];
+    [image setTemplate:YES];
+    button.image = image;
+    button.title = @"";
+    button.toolTip = toNSString(appearance.toolTip);
+}
+
+}  // namespace tactora::macos

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <vector>
+
+#include "core/platform/AppShell.h"
+#import "macos/TAApplicationDelegate.h"
+#import "macos/TASettingsControls.h"
+
+namespace tactora::macos {
+
+// The application's menus, settings window and status item, built with AppKit.
+class AppKitShell final : public AppShell {
+  public:
+    AppKitShell(TASettingsControls* controls, TAApplicationDelegate* target)
+        : controls_(controls), target_(target) {}
+
+    void setRegularActivationPolicy() override;
+    void applyApplicationIcon() override;
+    void buildMainMenu(const std::vector<MenuEntry>& items) override;
+    void buildWindow() override;
+    void createStatusItem() override;
+    void buildStatusMenu(const std::vector<MenuEntry>& items) override;
+    void showWindow() override;
+
+  private:
+    TASettingsControls* __strong controls_;
+    TAApplicationDelegate* __strong target_;
+};
+
+}  // namespace tactora::macos

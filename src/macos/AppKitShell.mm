@@ -1,0 +1,43 @@
+#include "macos/AppKitShell.h"
+
+#include "macos/BundledIcon.h"
+#include "macos/MenuBuilder.h"
+#include "macos/SettingsWindowBuilder.h"
+
+namespace tactora::macos {
+
+void AppKitShell::setRegularActivationPolicy() {
+    [NSApp setActivationPolicy:NSApplicationActivationPolicyRegular];
+}
+
+void AppKitShell::applyApplicationIcon() {
+    NSImage* icon = loadBundledIcon();
+    if (icon != nil) {
+        NSApp.applicationIconImage = icon;
+    }
+}
+
+void AppKitShell::buildMainMenu(const std::vector<MenuEntry>& items) {
+    NSMenuItem* application = [[NSMenuItem alloc] init];
+    application.submenu = MenuBuilder(target_).menu(items);
+    NSMenu* bar = [[NSMenu alloc] init];
+    [bar addItem:application];
+    NSApp.mainMenu = bar;
+}
+
+void AppKitShell::buildWindow() {
+    controls_.window = SettingsWindowBuilder(controls_, target_).build();
+}
+
+void AppKitShell::createStatusItem() {
+    controls_.statusItem =
+        [NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength];
+}
+
+void AppKitShell::buildStatusMenu(const std::vector<MenuEntry>& items) {
+    controls_.statusItem.menu = MenuBuilder(target_).menu(items);
+}
+
+void AppKitShell::showWindow() { [controls_.window makeKeyAndOrderFront:nil]; }
+
+}  // namespace tactora::macos

@@ -1,0 +1,87 @@
+#import "macos/TAApplicationDelegate.h"
+
+#include <utility>
+
+#include "core/app/Controller.h"
+
+@implementation TAApplicationDelegate {
+    std::shared_ptr<tactora::Controller> _controller;
+}
+
+- (void)attachController:(std::shared_ptr<tactora::Controller>)controller {
+    _controller = std::move(controller);
+}
+
+- (void)applicationDidFinishLaunching:(NSNotification*)notification {
+    _controller->applicationDidFinishLaunching();
+}
+
+- (void)applicationDidBecomeActive:(NSNotification*)notification {
+    _controller->applicationDidBecomeActive();
+}
+
+- (void)applicationDidResignActive:(NSNotification*)notification {
+    _controller->applicationDidResignActive();
+}
+
+- (void)applicationWillTerminate:(NSNotification*)notification {
+    _controller->applicationWillTerminate();
+}
+
+- (void)show {
+    _controller->show();
+}
+
+- (void)quit {
+    _controller->quit();
+}
+
+- (void)pause {
+    _controller->pause();
+}
+
+- (void)toggle {
+    _controller->toggle();
+}
+
+- (void)access {
+    _controller->access();
+}
+
+- (void)monitor {
+    _controller->monitor();
+}
+
+- (void)reconnect {
+    _controller->reconnect();
+}
+
+- (void)selectProfile {
+    _controller->selectProfile();
+}
+
+- (void)newProfile {
+    _controller->newProfile();
+}
+
+- (void)renameProfile {
+    _controller->renameProfile();
+}
+
+- (void)duplicateProfile {
+    _controller->duplicateProfile();
+}
+
+- (void)changed:(NSControl*)sender {
+    _controller->changed(sender.tag);
+}
+
+- (void)recordShortcut:(NSControl*)sender {
+    _controller->recordShortcut(sender.tag);
+}
+
+- (void)testDesktop {
+    _controller->testDesktop();
+}
+
+@end

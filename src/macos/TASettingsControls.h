@@ -1,0 +1,28 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+// The controls that the controller keeps up to date. The lines, the master switch and the
+// profile pop-up exist from the start, before the window that shows them; the gesture rows,
+// the window and the status item are added as they are built.
+@interface TASettingsControls : NSObject
+
+@property(nonatomic, readonly) NSTextField* status;
+@property(nonatomic, readonly) NSTextField* permission;
+@property(nonatomic, readonly) NSTextField* live;
+@property(nonatomic, readonly) NSButton* enabled;
+@property(nonatomic, readonly) NSPopUpButton* profileMenu;
+// One per gesture slot, in slot order.
+@property(nonatomic, readonly) NSMutableArray<NSPopUpButton*>* actionMenus;
+@property(nonatomic, readonly) NSMutableArray<NSButton*>* recordButtons;
+@property(nonatomic, nullable) NSWindow* window;
+@property(nonatomic, nullable) NSStatusItem* statusItem;
+
+- (instancetype)initWithEnableTitle:(NSString*)enableTitle NS_DESIGNATED_INITIALIZER;
+- (instancetype)init NS_UNAVAILABLE;
+
+@end
+
+NS_ASSUME_NONNULL_END

@@ -1,0 +1,20 @@
+#import "macos/TASettingsControls.h"
+
+@implementation TASettingsControls
+
+- (instancetype)initWithEnableTitle:(NSString*)enableTitle {
+    self = [super init];
+    if (self != nil) {
+        _status = [NSTextField labelWithString:@""];
+        _permission = [NSTextField labelWithString:@""];
+        _live = [NSTextField labelWithString:@""];
+        _enabled = [NSButton checkboxWithTitle:enableTitle target:nil action:nil];
+        _enabled.state = NSControlStateValueOff;
+        _profileMenu = [[NSPopUpButton alloc] initWithFrame:NSZeroRect pullsDown:NO];
+        _actionMenus = [NSMutableArray array];
+        _recordButtons = [NSMutableArray array];
+    }
+    return self;
+}
+
+@end
