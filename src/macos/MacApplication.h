@@ -1,0 +1,51 @@
+#pragma once
+
+#include <memory>
+
+#include "core/app/Controller.h"
+#include "core/platform/Sensor.h"
+#include "core/profiles/Preferences.h"
+#include "macos/AppKitDialogs.h"
+#include "macos/AppKitSettingsView.h"
+#include "macos/AppKitShell.h"
+#include "macos/AppKitWorkspace.h"
+#include "macos/CGEventPoster.h"
+#include "macos/DispatchMainQueue.h"
+#include "macos/MachPortEventTap.h"
+#include "macos/SystemPermissions.h"
+#import "macos/TAApplicationDelegate.h"
+#import "macos/TASettingsControls.h"
+#include "macos/UptimeClock.h"
+
+namespace tactora::macos {
+
+// The interactive application: the AppKit implementations of the controller's services, the
+// controller itself and the delegate that forwards to it. Made after the shared application.
+class MacApplication {
+  public:
+    MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defaults);
+    ~MacApplication();
+
+    MacApplication(const MacApplication&) = delete;
+    MacApplication& operator=(const MacApplication&) = delete;
+
+    // Runs the event loop until the application ends.
+    void run();
+
+  private:
+    Sensor& sensor_;
+    UptimeClock clock_;
+    DispatchMainQueue queue_;
+    AppKitWorkspace workspace_;
+    SystemPermissions permissions_;
+    CGEventPoster poster_;
+    MachPortEventTap tap_;
+    AppKitDialogs dialogs_;
+    TASettingsControls* __strong controls_;
+    TAApplicationDelegate* __strong delegate_;
+    AppKitSettingsView view_;
+    AppKitShell shell_;
+    std::shared_ptr<Controller> controller_;
+};
+
+}  // namespace tactora::macos

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "bridge/BridgeSensor.h"
+#include "core/app/ProgramEnvironment.h"
+#include "macos/UserDefaultsSuites.h"
+
+namespace tactora::macos {
+
+// The program's surroundings on macOS: the user defaults, the multitouch bridge, the main
+// bundle and AppKit.
+class MacProgramEnvironment final : public ProgramEnvironment {
+  public:
+    PreferenceSuites& preferences() override { return preferences_; }
+    Sensor& sensor() override { return sensor_; }
+    std::optional<std::string> preferredLocalization() override;
+    std::optional<std::vector<std::int64_t>> appIconPixelWidths() override;
+    void runApplication() override;
+
+  private:
+    UserDefaultsSuites preferences_;
+    BridgeSensor sensor_;
+};
+
+}  // namespace tactora::macos

@@ -1,0 +1,38 @@
+#include "macos/MacProgramEnvironment.h"
+
+#import <AppKit/AppKit.h>
+
+#include "macos/BundledIcon.h"
+#include "macos/MacApplication.h"
+#include "macos/StringConversion.h"
+
+namespace tactora::macos {
+
+std::optional<std::string> MacProgramEnvironment::preferredLocalization() {
+    NSString* language = NSBundle.mainBundle.preferredLocalizations.firstObject;
+    if (language == nil) {
+        return std::nullopt;
+    }
+    return toStdString(language);
+}
+
+std::optional<std::vector<std::int64_t>> MacProgramEnvironment::appIconPixelWidths() {
+    NSImage* icon = loadBundledIcon();
+    if (icon == nil) {
+        return std::nullopt;
+    }
+    std::vector<std::int64_t> widths;
+    for (NSImageRep* representation in icon.representations) {
+        widths.push_back(representation.pixelsWide);
+    }
+    return widths;
+}
+
+void MacProgramEnvironment::runApplication() {
+    // AppKit's controls need the shared application to exist before they are made.
+    [NSApplication sharedApplication];
+    MacApplication application(sensor_, preferences_.standard());
+    application.run();
+}
+
+}  // namespace tactora::macos

@@ -1,0 +1,19 @@
+#import <Foundation/Foundation.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/app/Program.h"
+#include "core/localization/Localizer.h"
+#include "macos/BundleStringTable.h"
+#include "macos/MacProgramEnvironment.h"
+
+int main(int argc, const char* argv[]) {
+    @autoreleasepool {
+        tactora::setStringTable(std::make_shared<tactora::macos::BundleStringTable>());
+        const std::vector<std::string> arguments(argv, argv + argc);
+        tactora::macos::MacProgramEnvironment environment;
+        return tactora::runProgram(arguments, environment);
+    }
+}
