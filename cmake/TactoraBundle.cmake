@@ -6,6 +6,10 @@
 set(TACTORA_LOCALIZATIONS en pt-BR)
 set(TACTORA_BUNDLE_DIR "${CMAKE_BINARY_DIR}/Tactora.app")
 set(TACTORA_BUNDLE_IDENTIFIER "app.tactora.Tactora")
+if(APPLE)
+    set(TACTORA_SIGNING_IDENTITY "Tactora Local Signing" CACHE STRING
+        "Keychain identity that signs Tactora.app (scripts/create-signing-identity); ad hoc when absent")
+endif()
 
 function(tactora_bundle target)
     set(contents "${TACTORA_BUNDLE_DIR}/Contents")
@@ -34,4 +38,19 @@ function(tactora_bundle target)
     endforeach()
     add_custom_target(${target}_resources DEPENDS ${outputs})
     add_dependencies(${target} ${target}_resources)
+
+    if(APPLE)
+        tactora_sign_bundle(${target} "${contents}/Info.plist" ${outputs})
+    endif()
+endfunction()
+
+# Signs the bundle after every link. A change to any of its resources or to its Info.plist
+# relinks the executable, so the seal always covers the current contents.
+function(tactora_sign_bundle target)
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${ARGN})
+    add_custom_command(TARGET ${target} POST_BUILD
+                       COMMAND ${CMAKE_COMMAND} "-DBUNDLE=${TACTORA_BUNDLE_DIR}"
+                               "-DIDENTITY=${TACTORA_SIGNING_IDENTITY}"
+                               -P "${PROJECT_SOURCE_DIR}/cmake/TactoraSign.cmake"
+                       VERBATIM)
 endfunction()
