@@ -11,6 +11,8 @@ namespace tactora {
 // A flat list searched linearly: a sequence holds a handful of ids, so this beats a node-based
 // map and, because clear() keeps the capacity, a recogniser that has seen a sequence's ids
 // once allocates nothing per frame afterwards.
+//
+// A plain value; used on one thread with the recogniser that owns it.
 class FingerOrigins {
   public:
     struct Origin {

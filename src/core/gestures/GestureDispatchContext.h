@@ -8,7 +8,8 @@
 namespace tactora {
 
 // What the world looked like when a gesture was recognised. A scheduled action carries it and
-// runs only if it is still current when it comes due.
+// runs only if it is still current when it comes due. A plain value, captured and checked on
+// the main thread and carried by the scheduled work in between.
 struct GestureDispatchContext {
     std::int64_t generation = 0;            // the controller's action generation at capture
     Uuid profile;                           // the active work profile at capture

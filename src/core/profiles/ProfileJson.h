@@ -9,7 +9,8 @@
 
 namespace tactora {
 
-// The stored form of a profile list: one compact JSON array of profile objects.
+// The stored form of a profile list: one compact JSON array of profile objects. Both functions
+// are pure and may be called from any thread.
 
 // Nothing when a profile cannot be written (a name or label that is not valid UTF-8).
 std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profiles);
@@ -17,6 +18,10 @@ std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profil
 // The whole list, or nothing at all when any element is malformed: a missing key, a value of
 // the wrong type or out of its field's range, or an id that is not a UUID. Unknown keys are
 // ignored and nothing is repaired; run sanitize() on each profile afterwards.
+//
+// Strict about the text: it must be one JSON array in valid UTF-8 (a leading byte order mark
+// is skipped), without comments or trailing data. Integer fields take integers only: a number
+// written with a fraction or an exponent, such as 1.0 or 1e2, is the wrong type. Never throws.
 std::optional<std::vector<WorkProfile>> decodeProfiles(std::string_view json);
 
 }  // namespace tactora

@@ -8,6 +8,7 @@
 namespace tactora {
 
 // A recorded key combination: a virtual key code, its modifiers and the label shown for it.
+// A plain value; every member may be called from any thread.
 struct SavedShortcut {
     // Command, Control, Option, Shift and Function; nothing else survives construction.
     static constexpr std::uint64_t allowedFlags = ModifierFlags::command | ModifierFlags::control |

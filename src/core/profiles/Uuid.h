@@ -9,7 +9,8 @@
 
 namespace tactora {
 
-// A 128-bit universally unique identifier.
+// A 128-bit universally unique identifier. A plain value; every member may be called from any
+// thread.
 class Uuid {
   public:
     // The nil identifier (all zero bits); never produced by random().

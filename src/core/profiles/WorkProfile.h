@@ -12,7 +12,8 @@
 namespace tactora {
 
 // A named set of gesture-to-action assignments, one action and one optional shortcut per
-// gesture slot. The lists are stored as given; sanitize() brings them into shape.
+// gesture slot. The lists are stored as given; sanitize() brings them into shape. A plain value,
+// with no shared state: any thread may use its own copy.
 struct WorkProfile {
     // A new profile with a fresh random id; by default every slot does the system's default.
     explicit WorkProfile(std::string name,
