@@ -28,6 +28,11 @@
     _controller->applicationWillTerminate();
 }
 
+// Nothing is restored between launches; saying so keeps AppKit from warning about it.
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)application {
+    return YES;
+}
+
 - (void)show {
     _controller->show();
 }
