@@ -2,6 +2,7 @@
 
 #include <array>
 #include <compare>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -29,8 +30,18 @@ class Uuid {
 
     const std::array<std::uint8_t, 16>& bytes() const { return bytes_; }
 
-    // NOLINTNEXTLINE(modernize-use-nullptr): the check misreads the defaulted comparison
-    constexpr auto operator<=>(const Uuid&) const = default;
+    constexpr bool operator==(const Uuid&) const = default;
+
+    // Byte order, written out because not every standard library gives std::array a <=>.
+    constexpr std::strong_ordering operator<=>(const Uuid& other) const {
+        for (std::size_t i = 0; i < bytes_.size(); ++i) {
+            if (bytes_[i] != other.bytes_[i]) {
+                return bytes_[i] < other.bytes_[i] ? std::strong_ordering::less
+                                                   : std::strong_ordering::greater;
+            }
+        }
+        return std::strong_ordering::equal;
+    }
 
   private:
     std::array<std::uint8_t, 16> bytes_{};
