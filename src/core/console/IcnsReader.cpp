@@ -24,7 +24,7 @@ struct ImageType {
     bool rawAllowed;
 };
 
-constexpr ImageType kImageTypes[] = {
+constexpr auto kImageTypes = std::to_array<ImageType>({
     {"ics#", 16, true},   {"ics4", 16, true},   {"ics8", 16, true},    {"icm#", 16, true},
     {"icm4", 16, true},   {"icm8", 16, true},   {"ICN#", 32, true},    {"icl4", 32, true},
     {"icl8", 32, true},   {"ich#", 48, true},   {"ich4", 48, true},    {"ich8", 48, true},
@@ -34,7 +34,7 @@ constexpr ImageType kImageTypes[] = {
     {"ic12", 64, false},  {"ic13", 256, false}, {"ic14", 512, false},  {"ic04", 16, true},
     {"ic05", 32, true},   {"icsb", 18, true},   {"icsB", 36, false},   {"sb24", 24, false},
     {"SB24", 48, false},
-};
+});
 
 constexpr std::array<std::uint8_t, 8> kPngSignature{0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A};
 constexpr std::array<std::uint8_t, 12> kJp2Signature{0,   0,   0,    12,   'j',  'P',

@@ -7,9 +7,9 @@
 namespace tactora {
 
 void fatalError(std::string_view message) {
-    const std::string text(message);
+    const std::string line = "Fatal error: " + std::string(message) + "\n";
     std::fflush(stdout);
-    std::fprintf(stderr, "Fatal error: %s\n", text.c_str());
+    std::fputs(line.c_str(), stderr);
     std::fflush(stderr);
     std::abort();
 }
