@@ -38,6 +38,8 @@ void AppKitShell::buildStatusMenu(const std::vector<MenuEntry>& items) {
     controls_.statusItem.menu = MenuBuilder(target_).menu(items);
 }
 
-void AppKitShell::showWindow() { [controls_.window makeKeyAndOrderFront:nil]; }
+void AppKitShell::showWindow() {
+    [controls_.window makeKeyAndOrderFront:nil];
+}
 
 }  // namespace tactora::macos

@@ -14,7 +14,9 @@ std::optional<std::int32_t> AppKitWorkspace::frontmostProcessID() const {
     return frontmost.processIdentifier;
 }
 
-bool AppKitWorkspace::isActive() const { return NSApp.isActive; }
+bool AppKitWorkspace::isActive() const {
+    return NSApp.isActive;
+}
 
 bool AppKitWorkspace::activateOtherInstance() {
     NSString* identifier = NSBundle.mainBundle.bundleIdentifier;
@@ -32,7 +34,9 @@ bool AppKitWorkspace::activateOtherInstance() {
     return false;
 }
 
-void AppKitWorkspace::activate() { [NSApp activateIgnoringOtherApps:YES]; }
+void AppKitWorkspace::activate() {
+    [NSApp activateIgnoringOtherApps:YES];
+}
 
 void AppKitWorkspace::openURL(const std::string& url) {
     NSURL* address = [NSURL URLWithString:toNSString(url)];
@@ -41,7 +45,9 @@ void AppKitWorkspace::openURL(const std::string& url) {
     }
 }
 
-void AppKitWorkspace::terminate() { [NSApp terminate:nil]; }
+void AppKitWorkspace::terminate() {
+    [NSApp terminate:nil];
+}
 
 void AppKitWorkspace::observeWake(std::function<void()> handler) {
     wakeObserver_ = [NSWorkspace.sharedWorkspace.notificationCenter

@@ -10,6 +10,8 @@ void CGTapEvent::setIntegerField(EventField field, std::int64_t value) {
     CGEventSetIntegerValueField(event_, static_cast<CGEventField>(field), value);
 }
 
-void CGTapEvent::setType(EventType type) { CGEventSetType(event_, static_cast<CGEventType>(type)); }
+void CGTapEvent::setType(EventType type) {
+    CGEventSetType(event_, static_cast<CGEventType>(type));
+}
 
 }  // namespace tactora::macos

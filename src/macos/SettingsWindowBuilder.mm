@@ -86,7 +86,9 @@ void SettingsWindowBuilder::makeColumn(NSWindow* window) {
     ]];
 }
 
-void SettingsWindowBuilder::add(NSView* view) { [column_ addArrangedSubview:view]; }
+void SettingsWindowBuilder::add(NSView* view) {
+    [column_ addArrangedSubview:view];
+}
 
 void SettingsWindowBuilder::addNote(std::string_view key, CGFloat fontSize) {
     NSTextField* note = makeWrappingLabel(L(key), [NSFont systemFontOfSize:fontSize]);
