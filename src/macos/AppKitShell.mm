@@ -25,8 +25,8 @@ void AppKitShell::buildMainMenu(const std::vector<MenuEntry>& items) {
     NSApp.mainMenu = bar;
 }
 
-void AppKitShell::buildWindow() {
-    controls_.window = SettingsWindowBuilder(controls_, target_).build();
+void AppKitShell::buildWindow(const SettingsWindowTexts& texts) {
+    controls_.window = SettingsWindowBuilder(controls_, target_).build(texts);
 }
 
 void AppKitShell::createStatusItem() {

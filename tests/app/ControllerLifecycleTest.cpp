@@ -2,6 +2,7 @@
 
 #include "app/ControllerHarness.h"
 #include "core/app/AppMenus.h"
+#include "core/app/SettingsWindowTexts.h"
 
 namespace tactora::testing {
 namespace {
@@ -44,6 +45,14 @@ TEST_F(ControllerLifecycleTest, LaunchingFillsTheGestureRowsAfterBuildingTheWind
     EXPECT_EQ(h.view.shownActions.at(0), action::defaultAction);
     ASSERT_TRUE(h.view.recordButtons.at(0).has_value());
     EXPECT_EQ(h.view.recordButtons.at(0)->title, "record.button");
+}
+
+TEST_F(ControllerLifecycleTest, TheWindowIsBuiltWithItsFixedTexts) {
+    h.c().applicationDidFinishLaunching();
+
+    ASSERT_TRUE(h.shell.window.has_value());
+    EXPECT_EQ(*h.shell.window, settingsWindowTexts());
+    EXPECT_EQ(h.shell.window->actionNames, choices());
 }
 
 TEST_F(ControllerLifecycleTest, SecondCopyActivatesTheFirstAndEndsBeforeBuildingAnything) {

@@ -2,6 +2,7 @@
 
 #include "core/app/AppMenus.h"
 #include "core/app/Controller.h"
+#include "core/app/SettingsWindowTexts.h"
 #include "core/localization/Localizer.h"
 
 namespace tactora {
@@ -81,7 +82,7 @@ void Controller::monitor() {
 }
 
 void Controller::buildWindow() {
-    services_.shell.buildWindow();
+    services_.shell.buildWindow(settingsWindowTexts());
     windowBuilt_ = true;
     refreshProfileUI();
 }
