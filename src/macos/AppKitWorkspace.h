@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/platform/Workspace.h"
 
@@ -16,7 +17,9 @@ class AppKitWorkspace final : public Workspace {
   public:
     std::optional<std::int32_t> frontmostProcessID() const override;
     bool isActive() const override;
-    bool activateOtherInstance() override;
+    std::vector<std::int32_t> instanceProcessIDs() const override;
+    std::int32_t ownProcessID() const override;
+    void activateApplication(std::int32_t processID) override;
     void activate() override;
     void openURL(const std::string& url) override;
     void terminate() override;

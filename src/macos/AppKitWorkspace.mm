@@ -18,20 +18,27 @@ bool AppKitWorkspace::isActive() const {
     return NSApp.isActive;
 }
 
-bool AppKitWorkspace::activateOtherInstance() {
+std::vector<std::int32_t> AppKitWorkspace::instanceProcessIDs() const {
     NSString* identifier = NSBundle.mainBundle.bundleIdentifier;
     if (identifier == nil) {
-        return false;
+        return {};
     }
-    const pid_t own = NSProcessInfo.processInfo.processIdentifier;
+    std::vector<std::int32_t> processIDs;
     for (NSRunningApplication* running in
          [NSRunningApplication runningApplicationsWithBundleIdentifier:identifier]) {
-        if (running.processIdentifier != own) {
-            [running activateWithOptions:NSApplicationActivateIgnoringOtherApps];
-            return true;
-        }
+        processIDs.push_back(running.processIdentifier);
     }
-    return false;
+    return processIDs;
+}
+
+std::int32_t AppKitWorkspace::ownProcessID() const {
+    return NSProcessInfo.processInfo.processIdentifier;
+}
+
+void AppKitWorkspace::activateApplication(std::int32_t processID) {
+    // Nil, and so nothing, when that application has quit in the meantime.
+    [[NSRunningApplication runningApplicationWithProcessIdentifier:processID]
+        activateWithOptions:NSApplicationActivateIgnoringOtherApps];
 }
 
 void AppKitWorkspace::activate() {

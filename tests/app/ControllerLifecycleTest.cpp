@@ -16,7 +16,7 @@ TEST_F(ControllerLifecycleTest, LaunchingBuildsConnectsAndShowsInOrder) {
     h.c().applicationDidFinishLaunching();
 
     EXPECT_EQ(h.log.calls, (std::vector<std::string>{
-                               "workspace.activateOtherInstance",
+                               "workspace.instanceProcessIDs",
                                "shell.setRegularActivationPolicy",
                                "shell.applyApplicationIcon",
                                "shell.buildMainMenu",
@@ -56,12 +56,38 @@ TEST_F(ControllerLifecycleTest, TheWindowIsBuiltWithItsFixedTexts) {
 }
 
 TEST_F(ControllerLifecycleTest, SecondCopyActivatesTheFirstAndEndsBeforeBuildingAnything) {
-    h.workspace.otherInstance = true;
+    h.workspace.instances = {7, 31};
     h.c().applicationDidFinishLaunching();
 
     EXPECT_EQ(h.log.calls,
-              (std::vector<std::string>{"workspace.activateOtherInstance", "workspace.terminate"}));
+              (std::vector<std::string>{"workspace.instanceProcessIDs",
+                                        "workspace.activateApplication", "workspace.terminate"}));
+    EXPECT_EQ(h.workspace.activated, (std::vector<std::int32_t>{31}));
     EXPECT_TRUE(h.queue.intervals.empty());
+}
+
+TEST_F(ControllerLifecycleTest, OfSeveralOtherCopiesTheFirstListedIsActivated) {
+    h.workspace.instances = {40, 7, 12};
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_EQ(h.workspace.activated, (std::vector<std::int32_t>{40}));
+    EXPECT_TRUE(h.log.contains("workspace.terminate"));
+}
+
+TEST_F(ControllerLifecycleTest, TheOnlyCopyLaunches) {
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_TRUE(h.workspace.activated.empty());
+    EXPECT_FALSE(h.log.contains("workspace.terminate"));
+    EXPECT_TRUE(h.log.contains("shell.showWindow"));
+}
+
+TEST_F(ControllerLifecycleTest, WithoutABundleIdentifierTheLaunchGoesOn) {
+    h.workspace.instances.clear();
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_TRUE(h.workspace.activated.empty());
+    EXPECT_TRUE(h.log.contains("shell.showWindow"));
 }
 
 TEST_F(ControllerLifecycleTest, MenusOpenPauseAndQuit) {

@@ -1,4 +1,7 @@
+#include <algorithm>
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "core/app/AppMenus.h"
 #include "core/app/Controller.h"
@@ -8,7 +11,7 @@
 namespace tactora {
 
 void Controller::applicationDidFinishLaunching() {
-    if (services_.workspace.activateOtherInstance()) {
+    if (activateOtherInstance()) {
         services_.workspace.terminate();
         return;
     }
@@ -79,6 +82,19 @@ void Controller::access() {
 void Controller::monitor() {
     services_.permissions.requestInputMonitoring();
     services_.workspace.openURL(std::string(inputMonitoringSettings));
+}
+
+// When another copy of the application runs, brings the first one the system lists forward.
+bool Controller::activateOtherInstance() {
+    const std::int32_t own = services_.workspace.ownProcessID();
+    const std::vector<std::int32_t> instances = services_.workspace.instanceProcessIDs();
+    const auto other =
+        std::ranges::find_if(instances, [own](std::int32_t processID) { return processID != own; });
+    if (other == instances.end()) {
+        return false;
+    }
+    services_.workspace.activateApplication(*other);
+    return true;
 }
 
 void Controller::buildWindow() {
