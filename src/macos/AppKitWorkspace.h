@@ -15,6 +15,12 @@ namespace tactora::macos {
 // NSWorkspace, NSRunningApplication and the shared application.
 class AppKitWorkspace final : public Workspace {
   public:
+    AppKitWorkspace() = default;
+    ~AppKitWorkspace() override;
+
+    AppKitWorkspace(const AppKitWorkspace&) = delete;
+    AppKitWorkspace& operator=(const AppKitWorkspace&) = delete;
+
     std::optional<std::int32_t> frontmostProcessID() const override;
     bool isActive() const override;
     std::vector<std::int32_t> instanceProcessIDs() const override;
@@ -26,6 +32,7 @@ class AppKitWorkspace final : public Workspace {
     void observeWake(std::function<void()> handler) override;
 
   private:
+    // The wake registration; the notification centre keeps it until it is removed.
     id __strong wakeObserver_;
 };
 

@@ -6,6 +6,12 @@
 
 namespace tactora::macos {
 
+AppKitWorkspace::~AppKitWorkspace() {
+    if (wakeObserver_ != nil) {
+        [NSWorkspace.sharedWorkspace.notificationCenter removeObserver:wakeObserver_];
+    }
+}
+
 std::optional<std::int32_t> AppKitWorkspace::frontmostProcessID() const {
     NSRunningApplication* frontmost = NSWorkspace.sharedWorkspace.frontmostApplication;
     if (frontmost == nil) {
