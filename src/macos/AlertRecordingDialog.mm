@@ -8,6 +8,8 @@ void AlertRecordingDialog::setLabelText(const std::string& text) {
     label_.stringValue = toNSString(text);
 }
 
-void AlertRecordingDialog::setSaveEnabled(bool enabled) { saveButton_.enabled = enabled; }
+void AlertRecordingDialog::setSaveEnabled(bool enabled) {
+    saveButton_.enabled = enabled;
+}
 
 }  // namespace tactora::macos

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "core/app/SettingsWindowTexts.h"
 #include "core/platform/AppShell.h"
 #import "macos/TAApplicationDelegate.h"
 #import "macos/TASettingsControls.h"
@@ -17,7 +18,7 @@ class AppKitShell final : public AppShell {
     void setRegularActivationPolicy() override;
     void applyApplicationIcon() override;
     void buildMainMenu(const std::vector<MenuEntry>& items) override;
-    void buildWindow() override;
+    void buildWindow(const SettingsWindowTexts& texts) override;
     void createStatusItem() override;
     void buildStatusMenu(const std::vector<MenuEntry>& items) override;
     void showWindow() override;

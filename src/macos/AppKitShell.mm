@@ -25,8 +25,8 @@ void AppKitShell::buildMainMenu(const std::vector<MenuEntry>& items) {
     NSApp.mainMenu = bar;
 }
 
-void AppKitShell::buildWindow() {
-    controls_.window = SettingsWindowBuilder(controls_, target_).build();
+void AppKitShell::buildWindow(const SettingsWindowTexts& texts) {
+    controls_.window = SettingsWindowBuilder(controls_, target_).build(texts);
 }
 
 void AppKitShell::createStatusItem() {
@@ -38,6 +38,8 @@ void AppKitShell::buildStatusMenu(const std::vector<MenuEntry>& items) {
     controls_.statusItem.menu = MenuBuilder(target_).menu(items);
 }
 
-void AppKitShell::showWindow() { [controls_.window makeKeyAndOrderFront:nil]; }
+void AppKitShell::showWindow() {
+    [controls_.window makeKeyAndOrderFront:nil];
+}
 
 }  // namespace tactora::macos

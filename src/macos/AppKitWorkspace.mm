@@ -6,6 +6,12 @@
 
 namespace tactora::macos {
 
+AppKitWorkspace::~AppKitWorkspace() {
+    if (wakeObserver_ != nil) {
+        [NSWorkspace.sharedWorkspace.notificationCenter removeObserver:wakeObserver_];
+    }
+}
+
 std::optional<std::int32_t> AppKitWorkspace::frontmostProcessID() const {
     NSRunningApplication* frontmost = NSWorkspace.sharedWorkspace.frontmostApplication;
     if (frontmost == nil) {
@@ -14,25 +20,36 @@ std::optional<std::int32_t> AppKitWorkspace::frontmostProcessID() const {
     return frontmost.processIdentifier;
 }
 
-bool AppKitWorkspace::isActive() const { return NSApp.isActive; }
-
-bool AppKitWorkspace::activateOtherInstance() {
-    NSString* identifier = NSBundle.mainBundle.bundleIdentifier;
-    if (identifier == nil) {
-        return false;
-    }
-    const pid_t own = NSProcessInfo.processInfo.processIdentifier;
-    for (NSRunningApplication* running in
-         [NSRunningApplication runningApplicationsWithBundleIdentifier:identifier]) {
-        if (running.processIdentifier != own) {
-            [running activateWithOptions:NSApplicationActivateIgnoringOtherApps];
-            return true;
-        }
-    }
-    return false;
+bool AppKitWorkspace::isActive() const {
+    return NSApp.isActive;
 }
 
-void AppKitWorkspace::activate() { [NSApp activateIgnoringOtherApps:YES]; }
+std::vector<std::int32_t> AppKitWorkspace::instanceProcessIDs() const {
+    NSString* identifier = NSBundle.mainBundle.bundleIdentifier;
+    if (identifier == nil) {
+        return {};
+    }
+    std::vector<std::int32_t> processIDs;
+    for (NSRunningApplication* running in
+         [NSRunningApplication runningApplicationsWithBundleIdentifier:identifier]) {
+        processIDs.push_back(running.processIdentifier);
+    }
+    return processIDs;
+}
+
+std::int32_t AppKitWorkspace::ownProcessID() const {
+    return NSProcessInfo.processInfo.processIdentifier;
+}
+
+void AppKitWorkspace::activateApplication(std::int32_t processID) {
+    // Nil, and so nothing, when that application has quit in the meantime.
+    [[NSRunningApplication runningApplicationWithProcessIdentifier:processID]
+        activateWithOptions:NSApplicationActivateIgnoringOtherApps];
+}
+
+void AppKitWorkspace::activate() {
+    [NSApp activateIgnoringOtherApps:YES];
+}
 
 void AppKitWorkspace::openURL(const std::string& url) {
     NSURL* address = [NSURL URLWithString:toNSString(url)];
@@ -41,7 +58,9 @@ void AppKitWorkspace::openURL(const std::string& url) {
     }
 }
 
-void AppKitWorkspace::terminate() { [NSApp terminate:nil]; }
+void AppKitWorkspace::terminate() {
+    [NSApp terminate:nil];
+}
 
 void AppKitWorkspace::observeWake(std::function<void()> handler) {
     wakeObserver_ = [NSWorkspace.sharedWorkspace.notificationCenter

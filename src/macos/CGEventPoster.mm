@@ -3,9 +3,30 @@
 #import <CoreGraphics/CoreGraphics.h>
 
 #include "bridge/TouchBridge.h"
+#include "core/platform/EventTypes.h"
+#include "core/platform/MouseButton.h"
+#include "core/profiles/ModifierFlags.h"
 #include "macos/CFHandle.h"
 
 namespace tactora::macos {
+
+// The core names events, buttons, fields and flags by CoreGraphics' own numbers.
+static_assert(event::leftMouseDown == kCGEventLeftMouseDown);
+static_assert(event::leftMouseUp == kCGEventLeftMouseUp);
+static_assert(event::rightMouseDown == kCGEventRightMouseDown);
+static_assert(event::rightMouseUp == kCGEventRightMouseUp);
+static_assert(event::otherMouseDown == kCGEventOtherMouseDown);
+static_assert(event::otherMouseUp == kCGEventOtherMouseUp);
+static_assert(static_cast<CGMouseButton>(MouseButton::left) == kCGMouseButtonLeft);
+static_assert(static_cast<CGMouseButton>(MouseButton::right) == kCGMouseButtonRight);
+static_assert(static_cast<CGMouseButton>(MouseButton::centre) == kCGMouseButtonCenter);
+static_assert(event::clickState == kCGMouseEventClickState);
+static_assert(event::sourceUserData == kCGEventSourceUserData);
+static_assert(ModifierFlags::command == kCGEventFlagMaskCommand);
+static_assert(ModifierFlags::shift == kCGEventFlagMaskShift);
+static_assert(ModifierFlags::control == kCGEventFlagMaskControl);
+static_assert(ModifierFlags::option == kCGEventFlagMaskAlternate);
+static_assert(ModifierFlags::function == kCGEventFlagMaskSecondaryFn);
 
 void CGEventPoster::post(const MouseButtonEvent& event) {
     // A blank event carries the pointer's current position.

@@ -10,12 +10,12 @@ NSTextField* makeLabel(std::string_view text, NSFont* font) {
     return label;
 }
 
-NSTextField* makeWrappingLabel(std::string_view text, NSFont* font) {
+NSTextField* makeWrappingLabel(std::string_view text, NSFont* font, CGFloat width) {
     NSTextField* label = [NSTextField wrappingLabelWithString:toNSString(text)];
     label.font = font;
     // Wrapping labels come selectable; these are plain text like the others.
     label.selectable = NO;
-    label.preferredMaxLayoutWidth = columnWidth;
+    label.preferredMaxLayoutWidth = width;
     return label;
 }
 

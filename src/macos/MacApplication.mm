@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "core/app/ApplicationController.h"
-#include "core/localization/Localizer.h"
+#include "core/app/SettingsWindowTexts.h"
 #include "macos/EventTapCallback.h"
 #include "macos/StringConversion.h"
 
@@ -14,7 +14,8 @@ namespace tactora::macos {
 MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defaults)
     : sensor_(sensor),
       tap_(&forwardTapEvent),
-      controls_([[TASettingsControls alloc] initWithEnableTitle:toNSString(L("enable"))]),
+      controls_([[TASettingsControls alloc]
+          initWithEnableTitle:toNSString(settingsWindowTexts().enableSwitch)]),
       delegate_([[TAApplicationDelegate alloc] init]),
       view_(controls_),
       shell_(controls_, delegate_),

@@ -33,7 +33,9 @@ bool MachPortEventTap::create(std::uint64_t mask) {
     return true;
 }
 
-bool MachPortEventTap::exists() const { return static_cast<bool>(port_); }
+bool MachPortEventTap::exists() const {
+    return static_cast<bool>(port_);
+}
 
 void MachPortEventTap::setEnabled(bool enabled) {
     if (port_) {

@@ -3,9 +3,12 @@
 #import <AppKit/AppKit.h>
 
 #include <initializer_list>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/app/GestureRow.h"
+#include "core/app/SettingsWindowTexts.h"
 #import "macos/TAApplicationDelegate.h"
 #import "macos/TASettingsControls.h"
 
@@ -17,27 +20,27 @@ class SettingsWindowBuilder {
   public:
     SettingsWindowBuilder(TASettingsControls* controls, TAApplicationDelegate* target);
 
-    NSWindow* build();
+    NSWindow* build(const SettingsWindowTexts& texts);
 
   private:
     struct ButtonSpec {
-        std::string_view key;
+        std::string_view title;
         SEL action;
     };
 
-    NSWindow* makeWindow();
+    static NSWindow* makeWindow(const std::string& title);
     void makeColumn(NSWindow* window);
     void add(NSView* view);
     // A wrapping label in the secondary colour.
-    void addNote(std::string_view key, CGFloat fontSize);
-    void addHeader();
+    void addNote(const std::string& text, CGFloat fontSize);
+    void addHeader(const std::string& hero);
     void addButtonRow(std::initializer_list<ButtonSpec> buttons);
-    void addProfileRow();
+    void addProfileRow(const SettingsWindowTexts& texts);
     void addEnableSwitch();
-    void addGestureRow(const GestureRow& row);
-    NSPopUpButton* makeActionMenu(NSInteger slot);
-    NSButton* makeRecordButton(NSInteger slot);
-    NSButton* makeButton(std::string_view key, SEL action);
+    void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);
+    NSPopUpButton* makeActionMenu(NSInteger slot, const std::vector<std::string>& names);
+    NSButton* makeRecordButton(NSInteger slot, const std::string& title);
+    NSButton* makeButton(std::string_view title, SEL action);
 
     TASettingsControls* __strong controls_;
     TAApplicationDelegate* __strong target_;

@@ -1,7 +1,5 @@
 #include "macos/SettingsWindowBuilder.h"
 
-#include "core/app/Globals.h"
-#include "core/localization/Localizer.h"
 #include "macos/Labels.h"
 #include "macos/StringConversion.h"
 
@@ -13,6 +11,8 @@ constexpr CGFloat windowWidth = 790;
 constexpr CGFloat windowHeight = 820;
 constexpr CGFloat margin = 28;
 constexpr CGFloat top = 24;
+// Wrapping labels wrap to the column: the content less its margins.
+constexpr CGFloat columnWidth = windowWidth - 2 * margin;
 constexpr CGFloat iconSide = 44;
 
 void fixWidth(NSView* view, CGFloat width) {
@@ -32,39 +32,39 @@ SettingsWindowBuilder::SettingsWindowBuilder(TASettingsControls* controls,
                                              TAApplicationDelegate* target)
     : controls_(controls), target_(target) {}
 
-NSWindow* SettingsWindowBuilder::build() {
-    NSWindow* window = makeWindow();
+NSWindow* SettingsWindowBuilder::build(const SettingsWindowTexts& texts) {
+    NSWindow* window = makeWindow(texts.title);
     makeColumn(window);
-    addHeader();
-    addNote("intro", NSFont.systemFontSize);
+    addHeader(texts.hero);
+    addNote(texts.intro, NSFont.systemFontSize);
     controls_.status.font = [NSFont systemFontOfSize:13 weight:NSFontWeightSemibold];
     add(controls_.status);
     controls_.permission.font = [NSFont systemFontOfSize:12];
     add(controls_.permission);
-    addButtonRow({{"permission.access", @selector(access)},
-                  {"permission.monitor", @selector(monitor)},
-                  {"reconnect", @selector(reconnect)}});
-    addProfileRow();
+    addButtonRow({{texts.allowAccessibility, @selector(access)},
+                  {texts.allowInputMonitoring, @selector(monitor)},
+                  {texts.reconnect, @selector(reconnect)}});
+    addProfileRow(texts);
     addEnableSwitch();
-    for (const GestureRow& row : gestureRows()) {
-        addGestureRow(row);
+    for (const GestureRow& row : texts.gestureRows) {
+        addGestureRow(row, texts);
     }
-    addNote("record.hint", 11);
+    addNote(texts.recordHint, 11);
     controls_.live.font = [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightRegular];
     add(controls_.live);
-    add(makeButton("test.desktop", @selector(testDesktop)));
-    addNote("footer", 11);
+    add(makeButton(texts.testDesktop, @selector(testDesktop)));
+    addNote(texts.footer, 11);
     return window;
 }
 
-NSWindow* SettingsWindowBuilder::makeWindow() {
+NSWindow* SettingsWindowBuilder::makeWindow(const std::string& title) {
     NSWindow* window =
         [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, windowWidth, windowHeight)
                                     styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable |
                                               NSWindowStyleMaskMiniaturizable
                                       backing:NSBackingStoreBuffered
                                         defer:NO];
-    window.title = @"Tactora 0.2.1 · Magic Mouse";
+    window.title = toNSString(title);
     // Closing only hides the window, so that the menus can bring the same one back.
     window.releasedWhenClosed = NO;
     [window center];
@@ -86,21 +86,23 @@ void SettingsWindowBuilder::makeColumn(NSWindow* window) {
     ]];
 }
 
-void SettingsWindowBuilder::add(NSView* view) { [column_ addArrangedSubview:view]; }
+void SettingsWindowBuilder::add(NSView* view) {
+    [column_ addArrangedSubview:view];
+}
 
-void SettingsWindowBuilder::addNote(std::string_view key, CGFloat fontSize) {
-    NSTextField* note = makeWrappingLabel(L(key), [NSFont systemFontOfSize:fontSize]);
+void SettingsWindowBuilder::addNote(const std::string& text, CGFloat fontSize) {
+    NSTextField* note = makeWrappingLabel(text, [NSFont systemFontOfSize:fontSize], columnWidth);
     note.textColor = NSColor.secondaryLabelColor;
     add(note);
 }
 
-void SettingsWindowBuilder::addHeader() {
+void SettingsWindowBuilder::addHeader(const std::string& hero) {
     NSImageView* icon = [NSImageView imageViewWithImage:NSApp.applicationIconImage];
     icon.imageScaling = NSImageScaleProportionallyUpOrDown;
     fixWidth(icon, iconSide);
     [icon.heightAnchor constraintEqualToConstant:iconSide].active = YES;
-    NSTextField* hero = makeLabel(L("hero"), [NSFont boldSystemFontOfSize:26]);
-    NSStackView* header = makeRow(@[ icon, hero ], 12);
+    NSTextField* title = makeLabel(hero, [NSFont boldSystemFontOfSize:26]);
+    NSStackView* header = makeRow(@[ icon, title ], 12);
     header.alignment = NSLayoutAttributeCenterY;
     add(header);
 }
@@ -108,22 +110,22 @@ void SettingsWindowBuilder::addHeader() {
 void SettingsWindowBuilder::addButtonRow(std::initializer_list<ButtonSpec> buttons) {
     NSMutableArray<NSView*>* views = [NSMutableArray array];
     for (const ButtonSpec& spec : buttons) {
-        [views addObject:makeButton(spec.key, spec.action)];
+        [views addObject:makeButton(spec.title, spec.action)];
     }
     add(makeRow(views, 8));
 }
 
-void SettingsWindowBuilder::addProfileRow() {
+void SettingsWindowBuilder::addProfileRow(const SettingsWindowTexts& texts) {
     NSPopUpButton* menu = controls_.profileMenu;
     menu.target = target_;
     menu.action = @selector(selectProfile);
     fixWidth(menu, 220);
     add(makeRow(
         @[
-            makeLabel(L("profile.label"), [NSFont systemFontOfSize:NSFont.systemFontSize]), menu,
-            makeButton("profile.new", @selector(newProfile)),
-            makeButton("profile.rename", @selector(renameProfile)),
-            makeButton("profile.duplicate", @selector(duplicateProfile))
+            makeLabel(texts.profileLabel, [NSFont systemFontOfSize:NSFont.systemFontSize]), menu,
+            makeButton(texts.newProfile, @selector(newProfile)),
+            makeButton(texts.renameProfile, @selector(renameProfile)),
+            makeButton(texts.duplicateProfile, @selector(duplicateProfile))
         ],
         8));
 }
@@ -134,7 +136,7 @@ void SettingsWindowBuilder::addEnableSwitch() {
     add(controls_.enabled);
 }
 
-void SettingsWindowBuilder::addGestureRow(const GestureRow& row) {
+void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts) {
     if (row.heading) {
         NSTextField* heading = makeLabel(*row.heading, [NSFont boldSystemFontOfSize:12]);
         heading.textColor = NSColor.secondaryLabelColor;
@@ -144,14 +146,20 @@ void SettingsWindowBuilder::addGestureRow(const GestureRow& row) {
         makeLabel(row.fingerLabel, [NSFont systemFontOfSize:NSFont.systemFontSize]);
     fixWidth(fingers, 100);
     const auto slot = static_cast<NSInteger>(row.slot);
-    add(makeRow(@[ fingers, makeActionMenu(slot), makeRecordButton(slot) ], 18));
+    add(makeRow(
+        @[
+            fingers, makeActionMenu(slot, texts.actionNames),
+            makeRecordButton(slot, texts.recordButton)
+        ],
+        18));
 }
 
-NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot) {
+NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,
+                                                     const std::vector<std::string>& names) {
     NSPopUpButton* menu = [[NSPopUpButton alloc] initWithFrame:NSZeroRect pullsDown:NO];
     // Items go straight into the menu so that an item's index is always its action's index.
-    for (const std::string& choice : choices()) {
-        [menu.menu addItem:[[NSMenuItem alloc] initWithTitle:toNSString(choice)
+    for (const std::string& name : names) {
+        [menu.menu addItem:[[NSMenuItem alloc] initWithTitle:toNSString(name)
                                                       action:nil
                                                keyEquivalent:@""]];
     }
@@ -163,16 +171,16 @@ NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot) {
     return menu;
 }
 
-NSButton* SettingsWindowBuilder::makeRecordButton(NSInteger slot) {
-    NSButton* button = makeButton("record.button", @selector(recordShortcut:));
+NSButton* SettingsWindowBuilder::makeRecordButton(NSInteger slot, const std::string& title) {
+    NSButton* button = makeButton(title, @selector(recordShortcut:));
     button.tag = slot;
     fixWidth(button, 215);
     [controls_.recordButtons addObject:button];
     return button;
 }
 
-NSButton* SettingsWindowBuilder::makeButton(std::string_view key, SEL action) {
-    NSButton* button = [NSButton buttonWithTitle:toNSString(L(key)) target:target_ action:action];
+NSButton* SettingsWindowBuilder::makeButton(std::string_view title, SEL action) {
+    NSButton* button = [NSButton buttonWithTitle:toNSString(title) target:target_ action:action];
     button.bezelStyle = NSBezelStylePush;
     return button;
 }

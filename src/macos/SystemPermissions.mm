@@ -5,15 +5,21 @@
 
 namespace tactora::macos {
 
-bool SystemPermissions::accessibilityTrusted() const { return AXIsProcessTrusted() != 0; }
+bool SystemPermissions::accessibilityTrusted() const {
+    return AXIsProcessTrusted() != 0;
+}
 
-bool SystemPermissions::inputMonitoringGranted() const { return CGPreflightListenEventAccess(); }
+bool SystemPermissions::inputMonitoringGranted() const {
+    return CGPreflightListenEventAccess();
+}
 
 void SystemPermissions::requestAccessibility() {
     NSDictionary* options = @{(__bridge NSString*)kAXTrustedCheckOptionPrompt : @YES};
     AXIsProcessTrustedWithOptions((__bridge CFDictionaryRef)options);
 }
 
-void SystemPermissions::requestInputMonitoring() { CGRequestListenEventAccess(); }
+void SystemPermissions::requestInputMonitoring() {
+    CGRequestListenEventAccess();
+}
 
 }  // namespace tactora::macos

@@ -4,6 +4,8 @@
 
 namespace tactora::macos {
 
-double UptimeClock::uptime() const { return NSProcessInfo.processInfo.systemUptime; }
+double UptimeClock::uptime() const {
+    return NSProcessInfo.processInfo.systemUptime;
+}
 
 }  // namespace tactora::macos

@@ -2,6 +2,7 @@
 
 #include "app/ControllerHarness.h"
 #include "core/app/AppMenus.h"
+#include "core/app/SettingsWindowTexts.h"
 
 namespace tactora::testing {
 namespace {
@@ -15,7 +16,7 @@ TEST_F(ControllerLifecycleTest, LaunchingBuildsConnectsAndShowsInOrder) {
     h.c().applicationDidFinishLaunching();
 
     EXPECT_EQ(h.log.calls, (std::vector<std::string>{
-                               "workspace.activateOtherInstance",
+                               "workspace.instanceProcessIDs",
                                "shell.setRegularActivationPolicy",
                                "shell.applyApplicationIcon",
                                "shell.buildMainMenu",
@@ -46,13 +47,47 @@ TEST_F(ControllerLifecycleTest, LaunchingFillsTheGestureRowsAfterBuildingTheWind
     EXPECT_EQ(h.view.recordButtons.at(0)->title, "record.button");
 }
 
+TEST_F(ControllerLifecycleTest, TheWindowIsBuiltWithItsFixedTexts) {
+    h.c().applicationDidFinishLaunching();
+
+    ASSERT_TRUE(h.shell.window.has_value());
+    EXPECT_EQ(*h.shell.window, settingsWindowTexts());
+    EXPECT_EQ(h.shell.window->actionNames, choices());
+}
+
 TEST_F(ControllerLifecycleTest, SecondCopyActivatesTheFirstAndEndsBeforeBuildingAnything) {
-    h.workspace.otherInstance = true;
+    h.workspace.instances = {7, 31};
     h.c().applicationDidFinishLaunching();
 
     EXPECT_EQ(h.log.calls,
-              (std::vector<std::string>{"workspace.activateOtherInstance", "workspace.terminate"}));
+              (std::vector<std::string>{"workspace.instanceProcessIDs",
+                                        "workspace.activateApplication", "workspace.terminate"}));
+    EXPECT_EQ(h.workspace.activated, (std::vector<std::int32_t>{31}));
     EXPECT_TRUE(h.queue.intervals.empty());
+}
+
+TEST_F(ControllerLifecycleTest, OfSeveralOtherCopiesTheFirstListedIsActivated) {
+    h.workspace.instances = {40, 7, 12};
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_EQ(h.workspace.activated, (std::vector<std::int32_t>{40}));
+    EXPECT_TRUE(h.log.contains("workspace.terminate"));
+}
+
+TEST_F(ControllerLifecycleTest, TheOnlyCopyLaunches) {
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_TRUE(h.workspace.activated.empty());
+    EXPECT_FALSE(h.log.contains("workspace.terminate"));
+    EXPECT_TRUE(h.log.contains("shell.showWindow"));
+}
+
+TEST_F(ControllerLifecycleTest, WithoutABundleIdentifierTheLaunchGoesOn) {
+    h.workspace.instances.clear();
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_TRUE(h.workspace.activated.empty());
+    EXPECT_TRUE(h.log.contains("shell.showWindow"));
 }
 
 TEST_F(ControllerLifecycleTest, MenusOpenPauseAndQuit) {

@@ -199,6 +199,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     EventDisposition pressContinues(EventType type, TapEvent& event, std::int64_t button);
     void performOnRelease(const Press& press);
 
+    bool activateOtherInstance();
     void buildWindow();
     void createStatusItem();
     void startRefreshTimer();

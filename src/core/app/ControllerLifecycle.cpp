@@ -1,13 +1,17 @@
+#include <algorithm>
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "core/app/AppMenus.h"
 #include "core/app/Controller.h"
+#include "core/app/SettingsWindowTexts.h"
 #include "core/localization/Localizer.h"
 
 namespace tactora {
 
 void Controller::applicationDidFinishLaunching() {
-    if (services_.workspace.activateOtherInstance()) {
+    if (activateOtherInstance()) {
         services_.workspace.terminate();
         return;
     }
@@ -80,8 +84,21 @@ void Controller::monitor() {
     services_.workspace.openURL(std::string(inputMonitoringSettings));
 }
 
+// When another copy of the application runs, brings the first one the system lists forward.
+bool Controller::activateOtherInstance() {
+    const std::int32_t own = services_.workspace.ownProcessID();
+    const std::vector<std::int32_t> instances = services_.workspace.instanceProcessIDs();
+    const auto other =
+        std::ranges::find_if(instances, [own](std::int32_t processID) { return processID != own; });
+    if (other == instances.end()) {
+        return false;
+    }
+    services_.workspace.activateApplication(*other);
+    return true;
+}
+
 void Controller::buildWindow() {
-    services_.shell.buildWindow();
+    services_.shell.buildWindow(settingsWindowTexts());
     windowBuilt_ = true;
     refreshProfileUI();
 }

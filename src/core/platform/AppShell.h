@@ -6,6 +6,8 @@
 
 namespace tactora {
 
+struct SettingsWindowTexts;
+
 // The application's furniture, built once at launch in the order that the controller's
 // applicationDidFinishLaunching() decides. Main thread only.
 class AppShell {
@@ -21,11 +23,12 @@ class AppShell {
     // Installs the main menu: one item whose submenu holds `items`.
     virtual void buildMainMenu(const std::vector<MenuEntry>& items) = 0;
 
-    // Builds the settings window around the controls of SettingsView, with eight gesture rows
-    // (see gestureRows()) whose pop-ups hold choices() and reach the controller's changed(slot),
-    // and whose record buttons reach recordShortcut(slot). Leaves the gesture rows' selections
-    // to the controller. Does not show the window.
-    virtual void buildWindow() = 0;
+    // Builds the settings window around the controls of SettingsView, showing `texts` and
+    // nothing else of its own: one gesture row per texts.gestureRows entry, whose pop-up holds
+    // texts.actionNames and reaches the controller's changed(slot), and whose record button
+    // reaches recordShortcut(slot). Leaves the gesture rows' selections and the record buttons'
+    // final titles to the controller. Does not show the window.
+    virtual void buildWindow(const SettingsWindowTexts& texts) = 0;
 
     // Creates the status-bar item, variable length, with no menu yet.
     virtual void createStatusItem() = 0;

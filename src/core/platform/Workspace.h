@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tactora {
 
@@ -18,10 +19,16 @@ class Workspace {
     // Whether this application is the active one.
     virtual bool isActive() const = 0;
 
-    // Looks for another running instance with this application's bundle identifier (none when
-    // the bundle has no identifier); if there is one, activates the first such instance whose
-    // process id differs from ours, ignoring other applications, and returns true.
-    virtual bool activateOtherInstance() = 0;
+    // The process ids of the running applications with this application's bundle identifier,
+    // this process included, in the order the system lists them; empty when the bundle has no
+    // identifier.
+    virtual std::vector<std::int32_t> instanceProcessIDs() const = 0;
+
+    // This process's id.
+    virtual std::int32_t ownProcessID() const = 0;
+
+    // Activates the running application with this process id, ignoring other applications.
+    virtual void activateApplication(std::int32_t processID) = 0;
 
     // Activates this application, ignoring other applications.
     virtual void activate() = 0;

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "app/fakes/CallLog.h"
+#include "core/app/SettingsWindowTexts.h"
 #include "core/platform/AppShell.h"
 
 namespace tactora::testing {
@@ -17,7 +19,10 @@ class FakeAppShell final : public AppShell {
         log_.add("shell.buildMainMenu");
         mainMenu = items;
     }
-    void buildWindow() override { log_.add("shell.buildWindow"); }
+    void buildWindow(const SettingsWindowTexts& texts) override {
+        log_.add("shell.buildWindow");
+        window = texts;
+    }
     void createStatusItem() override { log_.add("shell.createStatusItem"); }
     void buildStatusMenu(const std::vector<MenuEntry>& items) override {
         log_.add("shell.buildStatusMenu");
@@ -27,6 +32,7 @@ class FakeAppShell final : public AppShell {
 
     std::vector<MenuEntry> mainMenu;
     std::vector<MenuEntry> statusMenu;
+    std::optional<SettingsWindowTexts> window;
 
   private:
     CallLog& log_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -17,9 +18,14 @@ class FakeWorkspace final : public Workspace {
     std::optional<std::int32_t> frontmostProcessID() const override { return frontmost; }
     bool isActive() const override { return active; }
 
-    bool activateOtherInstance() override {
-        log_.add("workspace.activateOtherInstance");
-        return otherInstance;
+    std::vector<std::int32_t> instanceProcessIDs() const override {
+        log_.add("workspace.instanceProcessIDs");
+        return instances;
+    }
+    std::int32_t ownProcessID() const override { return own; }
+    void activateApplication(std::int32_t processID) override {
+        log_.add("workspace.activateApplication");
+        activated.push_back(processID);
     }
     void activate() override { log_.add("workspace.activate"); }
     void openURL(const std::string& url) override {
@@ -34,7 +40,9 @@ class FakeWorkspace final : public Workspace {
 
     std::optional<std::int32_t> frontmost = 42;
     bool active = false;
-    bool otherInstance = false;
+    std::int32_t own = 7;
+    std::vector<std::int32_t> instances{7};  // this process alone
+    std::vector<std::int32_t> activated;
     std::vector<std::string> openedURLs;
     std::function<void()> wake;
 

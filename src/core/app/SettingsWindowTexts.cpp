@@ -1,0 +1,31 @@
+#include "core/app/SettingsWindowTexts.h"
+
+#include "core/app/Globals.h"
+#include "core/localization/Localizer.h"
+
+namespace tactora {
+
+SettingsWindowTexts settingsWindowTexts() {
+    return {
+        // Not localised: the product's name and version.
+        .title = "Tactora 0.2.1 · Magic Mouse",
+        .hero = L("hero"),
+        .intro = L("intro"),
+        .allowAccessibility = L("permission.access"),
+        .allowInputMonitoring = L("permission.monitor"),
+        .reconnect = L("reconnect"),
+        .profileLabel = L("profile.label"),
+        .newProfile = L("profile.new"),
+        .renameProfile = L("profile.rename"),
+        .duplicateProfile = L("profile.duplicate"),
+        .enableSwitch = L("enable"),
+        .gestureRows = gestureRows(),
+        .actionNames = choices(),
+        .recordButton = L("record.button"),
+        .recordHint = L("record.hint"),
+        .testDesktop = L("test.desktop"),
+        .footer = L("footer"),
+    };
+}
+
+}  // namespace tactora

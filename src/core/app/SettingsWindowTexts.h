@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/app/GestureRow.h"
+
+namespace tactora {
+
+// Every text of the settings window that stays as built: its title, the fixed lines, the
+// labels and button titles, the gesture table's headings and finger labels, and the names in
+// the action pop-ups. The lines that follow the program's state (status, permissions, live
+// line) and the record buttons' titles are set later by the controller.
+struct SettingsWindowTexts {
+    std::string title;
+    std::string hero;
+    std::string intro;
+    std::string allowAccessibility;
+    std::string allowInputMonitoring;
+    std::string reconnect;
+    std::string profileLabel;
+    std::string newProfile;
+    std::string renameProfile;
+    std::string duplicateProfile;
+    std::string enableSwitch;
+    std::vector<GestureRow> gestureRows;
+    std::vector<std::string> actionNames;  // catalogue order: an item's index is its action
+    std::string recordButton;
+    std::string recordHint;
+    std::string testDesktop;
+    std::string footer;
+
+    bool operator==(const SettingsWindowTexts&) const = default;
+};
+
+// The texts in the current string table's language; the action names are choices(), so
+// initializeGlobals() must have run. Main thread only.
+SettingsWindowTexts settingsWindowTexts();
+
+}  // namespace tactora
