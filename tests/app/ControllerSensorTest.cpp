@@ -57,6 +57,23 @@ TEST_F(ControllerSensorTest, TapVetoedByClickArrivingAfterTheRelease) {
     EXPECT_TRUE(h.poster.posted.empty());
 }
 
+TEST_F(ControllerSensorTest, TouchThatClickedNeverAlsoYieldsATap) {
+    h.assign(1, action::right);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    ASSERT_EQ(h.send(down), EventDisposition::pass);
+    ASSERT_EQ(down.type, event::rightMouseDown);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    h.send(up);
+    h.queue.advance(0.1);
+    h.frame(0);
+    h.queue.advance(0.2);
+
+    EXPECT_EQ(h.c().lastGesture(), "click 2");
+    EXPECT_TRUE(h.queue.delays.empty());
+    EXPECT_TRUE(h.poster.posted.empty());
+}
+
 TEST_F(ControllerSensorTest, TapVetoedByClickJustBeforeTheTouchBegan) {
     FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
     h.send(down);
@@ -78,7 +95,7 @@ TEST_F(ControllerSensorTest, ClickLongerThanTheDelayBeforeReleaseDoesNotVeto) {
     EXPECT_EQ(h.poster.keyEvents(), copyPress);
 }
 
-TEST_F(ControllerSensorTest, TapWithSwitchOffPerformsNothing) {
+TEST_F(ControllerSensorTest, TapRecognisedWithTheSwitchOffPerformsNothing) {
     h.c().pause();
     h.tap(2);
     h.queue.advance(0.2);
@@ -88,21 +105,23 @@ TEST_F(ControllerSensorTest, TapWithSwitchOffPerformsNothing) {
     EXPECT_TRUE(h.poster.posted.empty());
 }
 
-TEST_F(ControllerSensorTest, TapWhileRecordingPerformsNothing) {
+TEST_F(ControllerSensorTest, TapRecognisedWhileAShortcutIsRecordedPerformsNothing) {
     h.dialogs.save = false;
     h.dialogs.whileOpen = [this] { h.tap(2); };
     h.c().beginRecording(0);
     h.queue.advance(0.2);
 
+    EXPECT_EQ(h.c().lastGesture(), "tap 2");
     EXPECT_TRUE(h.queue.delays.empty());
     EXPECT_TRUE(h.poster.posted.empty());
 }
 
-TEST_F(ControllerSensorTest, TapWhileApplicationIsActivePerformsNothing) {
+TEST_F(ControllerSensorTest, TapRecognisedWhileTheProgramItselfIsInFrontPerformsNothing) {
     h.workspace.active = true;
     h.tap(2);
     h.queue.advance(0.2);
 
+    EXPECT_EQ(h.c().lastGesture(), "tap 2");
     EXPECT_TRUE(h.queue.delays.empty());
     EXPECT_TRUE(h.poster.posted.empty());
 }
