@@ -35,16 +35,33 @@ TEST_F(ControllerSensorTest, TwoFingerTapPerformsSlotFiveActionAfterTheDelay) {
 
 TEST_F(ControllerSensorTest, TapOfNFingersUsesSlotNPlusThree) {
     h.assign(4, action::paste);
+    h.assign(6, action::undo);
     h.assign(7, action::cut);
-    h.tap(1);
-    h.queue.advance(0.1);
-    h.tap(4);
-    h.queue.advance(0.1);
+    for (std::int32_t fingers = 1; fingers <= 4; ++fingers) {
+        h.tap(fingers);
+        h.queue.advance(0.1);
+    }
 
     const auto keys = h.poster.keyEvents();
-    ASSERT_EQ(keys.size(), 4U);
-    EXPECT_EQ(keys[0].keyCode, 9);
-    EXPECT_EQ(keys[2].keyCode, 7);
+    ASSERT_EQ(keys.size(), 8U);
+    EXPECT_EQ(keys[0].keyCode, 9);  // one finger: slot 4, paste
+    EXPECT_EQ(keys[2].keyCode, 8);  // two: slot 5, copy
+    EXPECT_EQ(keys[4].keyCode, 6);  // three: slot 6, undo
+    EXPECT_EQ(keys[6].keyCode, 7);  // four: slot 7, cut
+}
+
+TEST_F(ControllerSensorTest, TapSendsTheShortcutRecordedForItsOwnSlot) {
+    h.c().profiles().setShortcut(SavedShortcut(38, 0x100000, "⌘J"), 1);
+    h.c().profiles().setShortcut(SavedShortcut(40, 0x100000, "⌘K"), 5);
+    h.tap(2);
+    h.queue.advance(0.1);
+
+    EXPECT_EQ(h.poster.keyEvents(),
+              (std::vector<KeyEvent>{
+                  {.keyCode = 40, .down = true, .flags = 0x100000, .userData = marker},
+                  {.keyCode = 40, .down = false, .flags = 0x100000, .userData = marker},
+              }));
+    EXPECT_EQ(h.c().lastAction(), "· ⌘K");
 }
 
 TEST_F(ControllerSensorTest, TapVetoedByClickArrivingAfterTheRelease) {

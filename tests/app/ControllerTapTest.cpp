@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdint>
+#include <string>
 #include <utility>
 
 #include "app/ControllerHarness.h"
@@ -155,6 +157,44 @@ TEST_F(ControllerTapTest, PressWithContactJustUnderAQuarterSecondOldIsRewritten)
 
     EXPECT_EQ(h.send(down), EventDisposition::pass);
     EXPECT_EQ(down.type, event::rightMouseDown);
+}
+
+TEST_F(ControllerTapTest, PressWithNFingersUsesSlotNMinusOne) {
+    const std::array<ActionIndex, 4> actions = {action::middle, action::right, action::copy,
+                                                action::left};
+    for (std::size_t slot = 0; slot < actions.size(); ++slot) {
+        h.assign(static_cast<std::int64_t>(slot), actions.at(slot));
+    }
+    for (std::int32_t fingers = 1; fingers <= 4; ++fingers) {
+        h.rest(fingers);
+        FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+        h.send(down);
+
+        EXPECT_EQ(h.c().lastGesture(), "click " + std::to_string(fingers));
+        ASSERT_EQ(h.c().presses().count(0), 1U);
+        EXPECT_EQ(h.c().presses().at(0).action, actions.at(static_cast<std::size_t>(fingers - 1)));
+        FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+        h.send(up);
+        h.queue.runReady();
+    }
+}
+
+TEST_F(ControllerTapTest, CustomActionOnAClickSlotSendsThatSlotsShortcutOnRelease) {
+    h.c().profiles().setShortcut(SavedShortcut(38, 0x100000, "⌘J"), 1);
+    h.c().profiles().setShortcut(SavedShortcut(40, 0x100000, "⌘K"), 5);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    EXPECT_EQ(h.send(down), EventDisposition::swallow);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    EXPECT_EQ(h.send(up), EventDisposition::swallow);
+    h.queue.runReady();
+
+    EXPECT_EQ(h.poster.keyEvents(),
+              (std::vector<KeyEvent>{
+                  {.keyCode = 38, .down = true, .flags = 0x100000, .userData = marker},
+                  {.keyCode = 38, .down = false, .flags = 0x100000, .userData = marker},
+              }));
+    EXPECT_EQ(h.c().lastAction(), "· ⌘J");
 }
 
 TEST_F(ControllerTapTest, ClickSlotMappedToDefaultPasses) {
