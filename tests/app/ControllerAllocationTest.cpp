@@ -95,6 +95,9 @@ TEST_F(ControllerAllocationTest, FrameHandOverAllocatesOnlyWhatTheQueueNeeds) {
         });
     });
     h.queue.runReady();
+    // A frame is too big to be stored inside the queued function: were nothing counted here,
+    // the counter would not be counting at all.
+    ASSERT_GT(queueOwn, 0U);
     const Contacts contacts;
 
     for (const std::int32_t fingers : {0, 1, 4, 16}) {
