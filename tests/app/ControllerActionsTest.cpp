@@ -32,11 +32,16 @@ TEST_F(ControllerActionsTest, DefaultActionPostsNothingChangesNoTextAndDoesNotRe
 
 TEST_F(ControllerActionsTest, IndexBeyondTheCatalogueBehavesLikeDefault) {
     h.view.live = "before";
+    h.view.status = "status";
     h.c().perform(15, std::nullopt);
+    h.c().perform(1000, std::nullopt);
     h.c().perform(-1, std::nullopt);
 
     EXPECT_TRUE(h.poster.posted.empty());
+    EXPECT_TRUE(h.poster.dockRequests.empty());
     EXPECT_EQ(h.view.live, "before");
+    EXPECT_EQ(h.view.status, "status");
+    EXPECT_EQ(h.c().lastAction(), "—");
 }
 
 TEST_F(ControllerActionsTest, SingleClicksPostDownThenUpWithClickStateOne) {
@@ -147,13 +152,16 @@ TEST_F(ControllerActionsTest, PostedEventsCarryTheMarkerAndTheTapLetsThemPass) {
     h.rest(2);
     h.c().perform(action::left, std::nullopt);
     h.c().perform(action::copy, std::nullopt);
+    ASSERT_EQ(h.poster.mouseEvents().size(), 2U);
     for (const MouseButtonEvent& posted : h.poster.mouseEvents()) {
         EXPECT_EQ(posted.userData, marker);
-        FakeTapEvent arriving(posted.type, static_cast<std::int64_t>(posted.button), mouseSender,
-                              posted.userData);
+        // The marker travels in the event's source user data, field 42.
+        FakeTapEvent arriving(posted.type, static_cast<std::int64_t>(posted.button), mouseSender);
+        arriving.fields.at(42) = posted.userData;
         EXPECT_EQ(h.send(arriving), EventDisposition::pass);
         EXPECT_EQ(arriving.changes, 0);
     }
+    ASSERT_EQ(h.poster.keyEvents().size(), 2U);
     for (const KeyEvent& posted : h.poster.keyEvents()) {
         EXPECT_EQ(posted.userData, marker);
     }

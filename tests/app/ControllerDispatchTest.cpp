@@ -119,6 +119,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         Cancelling{"pause", [](ControllerHarness& h) { h.c().pause(); }, false},
         Cancelling{"toggle", [](ControllerHarness& h) { h.c().toggle(); }, false},
+        Cancelling{"woke", [](ControllerHarness& h) { h.workspace.wake(); }, true},
         Cancelling{"changed",
                    [](ControllerHarness& h) {
                        h.view.actionChoice[0] = action::right;

@@ -9,6 +9,23 @@ namespace {
 
 class ControllerLifecycleTest : public ::testing::Test {
   protected:
+    // Switches on, holds a two-finger press rewritten to a right press, and leaves a
+    // two-finger tap (slot 5: copy) waiting to be performed.
+    void holdAPressAndLeaveATapPending() {
+        h.launchAndSwitchOn();
+        h.assign(1, action::right);
+        h.assign(5, action::copy);
+        h.rest(2);
+        FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+        ASSERT_EQ(h.send(down), EventDisposition::pass);
+        ASSERT_EQ(h.c().presses().size(), 1U);
+        h.queue.advance(0.2);
+        h.frame(0);
+        h.tap(2);
+        ASSERT_EQ(h.queue.delays, (std::vector<double>{0.08}));
+        h.queue.advance(0.04);
+    }
+
     ControllerHarness h;
 };
 
@@ -114,20 +131,27 @@ TEST_F(ControllerLifecycleTest, RefreshTimerRunsEveryFifthOfASecondWhileTheContr
     EXPECT_TRUE(h.view.live.empty());
 }
 
-TEST_F(ControllerLifecycleTest, SwitchingOnWithoutPermissionsSaysSoAndUnticks) {
+TEST_F(ControllerLifecycleTest, SwitchingOnUnticksAndSaysSoUntilBothPermissionsAreGranted) {
     h.c().applicationDidFinishLaunching();
-    h.permissions.inputMonitoring = false;
-    h.view.enabled = true;
-    h.c().toggle();
+    const std::pair<bool, bool> missing[] = {{false, false}, {true, false}, {false, true}};
+    for (const auto& [accessibility, inputMonitoring] : missing) {
+        h.permissions.accessibility = accessibility;
+        h.permissions.inputMonitoring = inputMonitoring;
+        h.view.status.clear();
+        h.view.enabled = true;
+        h.c().toggle();
 
-    EXPECT_FALSE(h.view.enabled);
-    EXPECT_EQ(h.view.status, "error.enable");
-    EXPECT_EQ(h.eventTap.creations, 0);
+        EXPECT_FALSE(h.view.enabled);
+        EXPECT_EQ(h.view.status, "error.enable");
+        EXPECT_EQ(h.eventTap.creations, 0);
+    }
 
+    h.permissions.accessibility = true;
     h.permissions.inputMonitoring = true;
     h.view.enabled = true;
     h.c().toggle();
     EXPECT_TRUE(h.view.enabled);
+    EXPECT_EQ(h.eventTap.creations, 1);
     EXPECT_TRUE(h.eventTap.enabled);
 }
 
@@ -138,6 +162,7 @@ TEST_F(ControllerLifecycleTest, SwitchingOnWithoutAccessibilityNeverTriesTheTap)
     h.c().toggle();
 
     EXPECT_FALSE(h.view.enabled);
+    EXPECT_EQ(h.view.status, "error.enable");
     EXPECT_EQ(h.eventTap.creations, 0);
 }
 
@@ -162,7 +187,7 @@ TEST_F(ControllerLifecycleTest, FailedTapCreationUnticksTheSwitch) {
     EXPECT_EQ(h.view.status, "error.enable");
 }
 
-TEST_F(ControllerLifecycleTest, PausingWhenAlreadyOffStillReleasesPressesAndDisablesTheTap) {
+TEST_F(ControllerLifecycleTest, StatusMenuPauseWhenAlreadyOffStillReleasesPressesAndDisablesTap) {
     h.launchAndSwitchOn();
     h.assign(1, action::right);
     h.rest(2);
@@ -177,31 +202,33 @@ TEST_F(ControllerLifecycleTest, PausingWhenAlreadyOffStillReleasesPressesAndDisa
     EXPECT_TRUE(h.c().presses().empty());
 }
 
-TEST_F(ControllerLifecycleTest, SwitchingToAnotherApplicationCancelsAndReleases) {
-    h.launchAndSwitchOn();
-    h.assign(1, action::right);
-    h.rest(2);
-    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
-    h.send(down);
+TEST_F(ControllerLifecycleTest, SwitchingToAnotherApplicationCancelsThePendingTapAndReleases) {
+    holdAPressAndLeaveATapPending();
     const std::int64_t before = h.c().actionGeneration();
     h.c().applicationDidResignActive();
+    h.queue.advance(0.1);
 
     EXPECT_EQ(h.c().actionGeneration(), before + 1);
+    EXPECT_TRUE(h.poster.keyEvents().empty());
     EXPECT_TRUE(h.c().presses().empty());
-    EXPECT_EQ(h.poster.mouseEvents().size(), 1U);
+    EXPECT_EQ(h.poster.mouseEvents(), (std::vector<MouseButtonEvent>{{.type = event::rightMouseUp,
+                                                                      .button = MouseButton::right,
+                                                                      .clickState = 1,
+                                                                      .userData = marker}}));
     EXPECT_EQ(h.c().gesture(), GestureState());
 }
 
-TEST_F(ControllerLifecycleTest, ComingBackCancelsAndReleasesToo) {
-    h.launchAndSwitchOn();
-    h.assign(1, action::right);
-    h.rest(2);
-    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
-    h.send(down);
+TEST_F(ControllerLifecycleTest, ComingBackCancelsThePendingTapAndReleasesToo) {
+    holdAPressAndLeaveATapPending();
+    const std::int64_t before = h.c().actionGeneration();
     h.c().applicationDidBecomeActive();
+    h.queue.advance(0.1);
 
+    EXPECT_EQ(h.c().actionGeneration(), before + 1);
+    EXPECT_TRUE(h.poster.keyEvents().empty());
     EXPECT_TRUE(h.c().presses().empty());
     EXPECT_EQ(h.poster.mouseEvents().size(), 1U);
+    EXPECT_EQ(h.c().gesture(), GestureState());
 }
 
 TEST_F(ControllerLifecycleTest, TerminatingPausesThenStopsTheSensor) {

@@ -105,7 +105,7 @@ TEST_F(ControllerProfilesTest, DuplicateOpensWithTheCurrentNameAndCopiesTheSlots
     EXPECT_EQ(h.view.selectedProfile, 1U);
 }
 
-TEST_F(ControllerProfilesTest, NewOpensEmptyAndTheNewProfileDoesNothingSpecial) {
+TEST_F(ControllerProfilesTest, NewOpensEmptyAndTheNewProfileHasEveryActionDefault) {
     h.c().profiles().setAction(action::right, 1);
     h.dialogs.name = "Fresh";
     h.c().newProfile();

@@ -57,10 +57,26 @@ TEST_F(ControllerRecordingTest, ShiftAloneRecordsNothingThenShiftCommandKIsRecor
     EXPECT_EQ(h.c().mapping().at(2), action::custom);
 }
 
+TEST_F(ControllerRecordingTest, ModifiersPressedInAnyOrderAreLabelledInTheFixedOrder) {
+    constexpr std::uint16_t commandKey = 55;
+    constexpr std::uint16_t optionKey = 58;
+    constexpr std::uint16_t controlKey = 59;
+    constexpr std::uint16_t keyF5 = 96;
+    // Command first, Control last: the reverse of the order the label shows them in.
+    h.dialogs.keys = {press(commandKey, 0x100000, ""), press(shiftKey, 0x120000, ""),
+                      press(optionKey, 0x1A0000, ""), press(controlKey, 0x1E0000, ""),
+                      press(keyF5, 0x1E0000, "\u0010")};
+    h.c().beginRecording(1);
+
+    EXPECT_EQ(h.dialogs.dialog.label, "⌃⌥⇧⌘F5");
+    EXPECT_EQ(stored(1), SavedShortcut(keyF5, 0x1E0000, "⌃⌥⇧⌘F5"));
+}
+
 TEST_F(ControllerRecordingTest, ReturnAndEscapeAreRecordedInsteadOfClosingTheDialog) {
     h.dialogs.keys = {press(36, 0, "\r")};
     h.c().beginRecording(0);
     EXPECT_EQ(stored(0), SavedShortcut(36, 0, "key.return"));
+    EXPECT_EQ(h.dialogs.dispositions, (std::vector<EventDisposition>{EventDisposition::swallow}));
 
     h.dialogs.keys = {press(53, 0, "\x1b")};
     h.c().beginRecording(1);
@@ -68,7 +84,7 @@ TEST_F(ControllerRecordingTest, ReturnAndEscapeAreRecordedInsteadOfClosingTheDia
     EXPECT_EQ(h.dialogs.dispositions, (std::vector<EventDisposition>{EventDisposition::swallow}));
 }
 
-TEST_F(ControllerRecordingTest, AutoRepeatsPassUnrecorded) {
+TEST_F(ControllerRecordingTest, HeldKeyIsRecordedOnceAndItsAutoRepeatsPassUnrecorded) {
     KeyPress held = press(keyK, 0x100000, "k");
     KeyPress repeat = held;
     repeat.isRepeat = true;

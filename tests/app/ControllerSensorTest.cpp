@@ -35,16 +35,33 @@ TEST_F(ControllerSensorTest, TwoFingerTapPerformsSlotFiveActionAfterTheDelay) {
 
 TEST_F(ControllerSensorTest, TapOfNFingersUsesSlotNPlusThree) {
     h.assign(4, action::paste);
+    h.assign(6, action::undo);
     h.assign(7, action::cut);
-    h.tap(1);
-    h.queue.advance(0.1);
-    h.tap(4);
-    h.queue.advance(0.1);
+    for (std::int32_t fingers = 1; fingers <= 4; ++fingers) {
+        h.tap(fingers);
+        h.queue.advance(0.1);
+    }
 
     const auto keys = h.poster.keyEvents();
-    ASSERT_EQ(keys.size(), 4U);
-    EXPECT_EQ(keys[0].keyCode, 9);
-    EXPECT_EQ(keys[2].keyCode, 7);
+    ASSERT_EQ(keys.size(), 8U);
+    EXPECT_EQ(keys[0].keyCode, 9);  // one finger: slot 4, paste
+    EXPECT_EQ(keys[2].keyCode, 8);  // two: slot 5, copy
+    EXPECT_EQ(keys[4].keyCode, 6);  // three: slot 6, undo
+    EXPECT_EQ(keys[6].keyCode, 7);  // four: slot 7, cut
+}
+
+TEST_F(ControllerSensorTest, TapSendsTheShortcutRecordedForItsOwnSlot) {
+    h.c().profiles().setShortcut(SavedShortcut(38, 0x100000, "⌘J"), 1);
+    h.c().profiles().setShortcut(SavedShortcut(40, 0x100000, "⌘K"), 5);
+    h.tap(2);
+    h.queue.advance(0.1);
+
+    EXPECT_EQ(h.poster.keyEvents(),
+              (std::vector<KeyEvent>{
+                  {.keyCode = 40, .down = true, .flags = 0x100000, .userData = marker},
+                  {.keyCode = 40, .down = false, .flags = 0x100000, .userData = marker},
+              }));
+    EXPECT_EQ(h.c().lastAction(), "· ⌘K");
 }
 
 TEST_F(ControllerSensorTest, TapVetoedByClickArrivingAfterTheRelease) {
@@ -54,6 +71,23 @@ TEST_F(ControllerSensorTest, TapVetoedByClickArrivingAfterTheRelease) {
     EXPECT_EQ(h.send(down), EventDisposition::pass);
     h.queue.advance(0.1);
 
+    EXPECT_TRUE(h.poster.posted.empty());
+}
+
+TEST_F(ControllerSensorTest, TouchThatClickedNeverAlsoYieldsATap) {
+    h.assign(1, action::right);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    ASSERT_EQ(h.send(down), EventDisposition::pass);
+    ASSERT_EQ(down.type, event::rightMouseDown);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    h.send(up);
+    h.queue.advance(0.1);
+    h.frame(0);
+    h.queue.advance(0.2);
+
+    EXPECT_EQ(h.c().lastGesture(), "click 2");
+    EXPECT_TRUE(h.queue.delays.empty());
     EXPECT_TRUE(h.poster.posted.empty());
 }
 
@@ -78,7 +112,7 @@ TEST_F(ControllerSensorTest, ClickLongerThanTheDelayBeforeReleaseDoesNotVeto) {
     EXPECT_EQ(h.poster.keyEvents(), copyPress);
 }
 
-TEST_F(ControllerSensorTest, TapWithSwitchOffPerformsNothing) {
+TEST_F(ControllerSensorTest, TapRecognisedWithTheSwitchOffPerformsNothing) {
     h.c().pause();
     h.tap(2);
     h.queue.advance(0.2);
@@ -88,21 +122,23 @@ TEST_F(ControllerSensorTest, TapWithSwitchOffPerformsNothing) {
     EXPECT_TRUE(h.poster.posted.empty());
 }
 
-TEST_F(ControllerSensorTest, TapWhileRecordingPerformsNothing) {
+TEST_F(ControllerSensorTest, TapRecognisedWhileAShortcutIsRecordedPerformsNothing) {
     h.dialogs.save = false;
     h.dialogs.whileOpen = [this] { h.tap(2); };
     h.c().beginRecording(0);
     h.queue.advance(0.2);
 
+    EXPECT_EQ(h.c().lastGesture(), "tap 2");
     EXPECT_TRUE(h.queue.delays.empty());
     EXPECT_TRUE(h.poster.posted.empty());
 }
 
-TEST_F(ControllerSensorTest, TapWhileApplicationIsActivePerformsNothing) {
+TEST_F(ControllerSensorTest, TapRecognisedWhileTheProgramItselfIsInFrontPerformsNothing) {
     h.workspace.active = true;
     h.tap(2);
     h.queue.advance(0.2);
 
+    EXPECT_EQ(h.c().lastGesture(), "tap 2");
     EXPECT_TRUE(h.queue.delays.empty());
     EXPECT_TRUE(h.poster.posted.empty());
 }

@@ -16,19 +16,20 @@ TEST_F(ControllerStatusTest, LiveLineStartsWithNoFingersAndDashes) {
 
 TEST_F(ControllerStatusTest, LiveLineShowsZeroFingersOnceHalfASecondPassesWithoutAFrame) {
     h.launchAndSwitchOn();
-    h.assign(5, action::copy);
+    h.assign(5, action::showDesktop);
     h.tap(2);
     h.queue.advance(0.1);
+    ASSERT_EQ(h.c().lastAction(), "action.sent");
     h.rest(3);
     const double frameTime = h.c().lastFrame();
 
     h.clock.now = frameTime + 0.4999;
     h.c().refresh();
-    EXPECT_EQ(h.view.live, "3 | tap 2 | —");
+    EXPECT_EQ(h.view.live, "3 | tap 2 | action.sent");
 
     h.clock.now = frameTime + 0.5;
     h.c().refresh();
-    EXPECT_EQ(h.view.live, "0 | tap 2 | —");
+    EXPECT_EQ(h.view.live, "0 | tap 2 | action.sent");
 }
 
 TEST_F(ControllerStatusTest, PermissionLineShowsEachState) {

@@ -1,5 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdint>
+#include <string>
+#include <utility>
+
 #include "app/ControllerHarness.h"
 
 namespace tactora::testing {
@@ -10,6 +15,26 @@ class ControllerTapTest : public ::testing::Test {
     void SetUp() override {
         h.launchAndSwitchOn();
         h.assign(1, action::right);
+    }
+
+    // Sends a down, drag and up of each button and a scroll, all from the mouse with two
+    // fingers resting, and expects each to pass untouched without counting as a click.
+    void expectEveryEventPassesUntouched() {
+        const std::pair<EventType, std::int64_t> events[] = {
+            {event::leftMouseDown, 0},  {event::leftMouseDragged, 0},  {event::leftMouseUp, 0},
+            {event::rightMouseDown, 1}, {event::rightMouseDragged, 1}, {event::rightMouseUp, 1},
+            {event::scrollWheel, 0},
+        };
+        h.rest(2);
+        for (const auto& [type, button] : events) {
+            FakeTapEvent sent = h.mouseEvent(type, button);
+            EXPECT_EQ(h.send(sent), EventDisposition::pass) << type;
+            EXPECT_EQ(sent.changes, 0) << type;
+        }
+        EXPECT_EQ(h.c().lastClick(), 0);
+        EXPECT_FALSE(h.c().gesture().clicked);
+        EXPECT_FALSE(h.c().gesture().moved);
+        EXPECT_TRUE(h.c().presses().empty());
     }
 
     ControllerHarness h;
@@ -41,45 +66,39 @@ TEST(ControllerTapInstallTest, FailedCreationReturnsFalseAndIsTriedAgainNextTime
 
 TEST_F(ControllerTapTest, MarkedEventsPassUntouchedEvenFromTheMouse) {
     h.rest(2);
-    FakeTapEvent down(event::leftMouseDown, 0, mouseSender, marker);
+    for (const EventType type :
+         {event::leftMouseDown, event::leftMouseDragged, event::leftMouseUp, event::scrollWheel}) {
+        FakeTapEvent sent = h.mouseEvent(type);
+        sent.fields.at(42) = marker;  // the source user data field
 
-    EXPECT_EQ(h.send(down), EventDisposition::pass);
-    EXPECT_EQ(down.changes, 0);
+        EXPECT_EQ(h.send(sent), EventDisposition::pass) << type;
+        EXPECT_EQ(sent.changes, 0) << type;
+    }
     EXPECT_TRUE(h.c().presses().empty());
     EXPECT_EQ(h.c().lastClick(), 0);
+    EXPECT_FALSE(h.c().gesture().moved);
 }
 
 TEST_F(ControllerTapTest, EveryEventPassesWithGesturesSwitchedOff) {
     h.c().pause();
-    h.rest(2);
-    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
-
-    EXPECT_EQ(h.send(down), EventDisposition::pass);
-    EXPECT_EQ(down.changes, 0);
-    EXPECT_EQ(h.c().lastClick(), 0);
+    expectEveryEventPassesUntouched();
 }
 
 TEST_F(ControllerTapTest, EveryEventPassesWhileAShortcutIsRecorded) {
-    h.rest(2);
-    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
-    EventDisposition during = EventDisposition::swallow;
     h.dialogs.save = false;
-    h.dialogs.whileOpen = [&] { during = h.send(down); };
+    bool ran = false;
+    h.dialogs.whileOpen = [&] {
+        expectEveryEventPassesUntouched();
+        ran = true;
+    };
     h.c().beginRecording(0);
 
-    EXPECT_EQ(during, EventDisposition::pass);
-    EXPECT_EQ(down.changes, 0);
-    EXPECT_EQ(h.c().lastClick(), 0);
+    EXPECT_TRUE(ran);
 }
 
 TEST_F(ControllerTapTest, EveryEventPassesWhileTheProgramIsActive) {
-    h.rest(2);
     h.workspace.active = true;
-    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
-
-    EXPECT_EQ(h.send(down), EventDisposition::pass);
-    EXPECT_EQ(down.changes, 0);
-    EXPECT_EQ(h.c().lastClick(), 0);
+    expectEveryEventPassesUntouched();
 }
 
 TEST_F(ControllerTapTest, TwoFingerPressBecomesARightPressThroughDragsAndUp) {
@@ -140,6 +159,44 @@ TEST_F(ControllerTapTest, PressWithContactJustUnderAQuarterSecondOldIsRewritten)
     EXPECT_EQ(down.type, event::rightMouseDown);
 }
 
+TEST_F(ControllerTapTest, PressWithNFingersUsesSlotNMinusOne) {
+    const std::array<ActionIndex, 4> actions = {action::middle, action::right, action::copy,
+                                                action::left};
+    for (std::size_t slot = 0; slot < actions.size(); ++slot) {
+        h.assign(static_cast<std::int64_t>(slot), actions.at(slot));
+    }
+    for (std::int32_t fingers = 1; fingers <= 4; ++fingers) {
+        h.rest(fingers);
+        FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+        h.send(down);
+
+        EXPECT_EQ(h.c().lastGesture(), "click " + std::to_string(fingers));
+        ASSERT_EQ(h.c().presses().count(0), 1U);
+        EXPECT_EQ(h.c().presses().at(0).action, actions.at(static_cast<std::size_t>(fingers - 1)));
+        FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+        h.send(up);
+        h.queue.runReady();
+    }
+}
+
+TEST_F(ControllerTapTest, CustomActionOnAClickSlotSendsThatSlotsShortcutOnRelease) {
+    h.c().profiles().setShortcut(SavedShortcut(38, 0x100000, "⌘J"), 1);
+    h.c().profiles().setShortcut(SavedShortcut(40, 0x100000, "⌘K"), 5);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    EXPECT_EQ(h.send(down), EventDisposition::swallow);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    EXPECT_EQ(h.send(up), EventDisposition::swallow);
+    h.queue.runReady();
+
+    EXPECT_EQ(h.poster.keyEvents(),
+              (std::vector<KeyEvent>{
+                  {.keyCode = 38, .down = true, .flags = 0x100000, .userData = marker},
+                  {.keyCode = 38, .down = false, .flags = 0x100000, .userData = marker},
+              }));
+    EXPECT_EQ(h.c().lastAction(), "· ⌘J");
+}
+
 TEST_F(ControllerTapTest, ClickSlotMappedToDefaultPasses) {
     h.rest(3);
     FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
@@ -177,15 +234,23 @@ TEST_F(ControllerTapTest, CopyOnAClickSlotSwallowsThePressAndCopiesOnceAfterTheU
     h.rest(2);
     FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
     EXPECT_EQ(h.send(down), EventDisposition::swallow);
-    FakeTapEvent drag = h.mouseEvent(event::leftMouseDragged);
-    EXPECT_EQ(h.send(drag), EventDisposition::swallow);
+    for (int i = 0; i < 3; ++i) {
+        FakeTapEvent drag = h.mouseEvent(event::leftMouseDragged);
+        EXPECT_EQ(h.send(drag), EventDisposition::swallow);
+    }
+    h.queue.advance(0.5);
+    EXPECT_TRUE(h.poster.posted.empty());  // held: nothing is performed on the press itself
     FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
     EXPECT_EQ(h.send(up), EventDisposition::swallow);
 
-    EXPECT_TRUE(h.poster.posted.empty());
+    EXPECT_TRUE(h.poster.posted.empty());  // not inside the tap's callback either
     h.queue.runReady();
-    ASSERT_EQ(h.poster.keyEvents().size(), 2U);
-    EXPECT_EQ(h.poster.keyEvents().front().keyCode, 8);
+    EXPECT_EQ(h.poster.keyEvents(),
+              (std::vector<KeyEvent>{
+                  {.keyCode = 8, .down = true, .flags = 0x100000, .userData = marker},
+                  {.keyCode = 8, .down = false, .flags = 0x100000, .userData = marker},
+              }));
+    EXPECT_TRUE(h.poster.mouseEvents().empty());
     h.queue.advance(1);
     EXPECT_EQ(h.poster.keyEvents().size(), 2U);
 }

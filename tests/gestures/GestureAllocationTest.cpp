@@ -1,58 +1,20 @@
 // Proves that the recogniser does not touch the heap per frame once it has seen a sequence's
-// finger ids. Its own program, because it replaces the global allocation functions.
+// finger ids. Its own program, because it counts allocations through the replaced global
+// allocation functions.
 #include <gtest/gtest.h>
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <new>
 #include <vector>
 
 #include "core/gestures/GestureState.h"
-
-namespace {
-
-std::size_t allocations = 0;
-
-void* allocate(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-        return memory;
-    }
-    throw std::bad_alloc();
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-    return allocate(size);
-}
-void* operator new[](std::size_t size) {
-    return allocate(size);
-}
-void* operator new(std::size_t size, const std::nothrow_t& /*unused*/) noexcept {
-    ++allocations;
-    return std::malloc(size == 0 ? 1 : size);
-}
-void* operator new[](std::size_t size, const std::nothrow_t& /*unused*/) noexcept {
-    ++allocations;
-    return std::malloc(size == 0 ? 1 : size);
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t /*unused*/) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t /*unused*/) noexcept {
-    std::free(memory);
-}
+#include "support/AllocationCounter.h"
 
 namespace tactora {
 namespace {
+
+using testing::AllocationCounter;
 
 using Frame = std::vector<Finger>;
 
@@ -65,18 +27,18 @@ Frame fingers(std::int64_t n, double x) {
 }
 
 TEST(GestureAllocation, CounterSeesHeapAllocations) {
-    const std::size_t before = allocations;
+    const AllocationCounter counter;
     void* memory = ::operator new(sizeof(int));
-    EXPECT_EQ(allocations, before + 1);
+    EXPECT_EQ(counter.count(), 1U);
     ::operator delete(memory);
 }
 
 TEST(GestureAllocation, FirstSightingOfFingersMayAllocate) {
     GestureState state;
     const Frame frame = fingers(16, 0.5);
-    const std::size_t before = allocations;
+    const AllocationCounter counter;
     state.update(frame, 1.0);
-    EXPECT_GT(allocations, before);
+    EXPECT_GT(counter.count(), 0U);
 }
 
 TEST(GestureAllocation, KnownFingersCostNoAllocationPerFrame) {
@@ -85,11 +47,11 @@ TEST(GestureAllocation, KnownFingersCostNoAllocationPerFrame) {
     const Frame later = fingers(4, 0.51);
     state.update(first, 1.0);
 
-    const std::size_t before = allocations;
+    const AllocationCounter counter;
     for (int i = 0; i < 1000; ++i) {
         state.update(later, 1.0 + 0.001 * i);
     }
-    EXPECT_EQ(allocations, before);
+    EXPECT_EQ(counter.count(), 0U);
 }
 
 TEST(GestureAllocation, LaterSequencesReuseTheOriginsStorage) {
@@ -100,7 +62,7 @@ TEST(GestureAllocation, LaterSequencesReuseTheOriginsStorage) {
     state.update(touch, 1.0);
     state.update(lifted, 1.1);
 
-    const std::size_t before = allocations;
+    const AllocationCounter counter;
     for (int i = 0; i < 100; ++i) {
         const double start = 2.0 + i;
         state.update(fewer, start);
@@ -109,7 +71,7 @@ TEST(GestureAllocation, LaterSequencesReuseTheOriginsStorage) {
         state.update(touch, start + 0.5);
         state.reset();
     }
-    EXPECT_EQ(allocations, before);
+    EXPECT_EQ(counter.count(), 0U);
 }
 
 }  // namespace

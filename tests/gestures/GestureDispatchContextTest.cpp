@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <optional>
 
 namespace tactora {
@@ -41,12 +42,17 @@ TEST_F(GestureDispatchContextTest, NoFrontmostProcessAtFiringIsNeverCurrent) {
     EXPECT_FALSE(context.isCurrent(3, profile, std::nullopt, true, false));
 }
 
-TEST(GestureDispatchContext, ContextWithoutTargetIsNeverCurrent) {
+TEST(GestureDispatchContext, ContextWithoutTargetIsNeverCurrentWhateverTheArguments) {
     const Uuid profile = Uuid::random();
     const GestureDispatchContext context{3, profile, std::nullopt};
-    EXPECT_FALSE(context.isCurrent(3, profile, std::nullopt, true, false));
-    EXPECT_FALSE(context.isCurrent(3, profile, 42, true, false));
-    EXPECT_FALSE(context.isCurrent(3, profile, 0, true, false));
+    const std::optional<std::int32_t> targets[] = {std::nullopt, 42, 0};
+    for (const std::int64_t generation : {3, 4}) {
+        for (const Uuid& current : {profile, Uuid::random()}) {
+            for (const std::optional<std::int32_t> target : targets) {
+                EXPECT_FALSE(context.isCurrent(generation, current, target, true, false));
+            }
+        }
+    }
 }
 
 TEST(GestureDispatchContext, EqualityComparesAllFields) {

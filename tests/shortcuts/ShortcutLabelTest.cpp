@@ -26,7 +26,7 @@ class ShortcutLabelTest : public ::testing::Test {
     void TearDown() override { setStringTable(nullptr); }
 };
 
-TEST_F(ShortcutLabelTest, ShiftCommandK) {
+TEST_F(ShortcutLabelTest, ShiftCommandKReadsShiftCommandK) {
     EXPECT_EQ(shortcutLabel(key(40, 0x120000, "k")), "⇧⌘K");
 }
 
@@ -51,7 +51,7 @@ TEST_F(ShortcutLabelTest, KeypadEnterAndReturnBothReadAsReturn) {
     EXPECT_EQ(shortcutLabel(key(76, 0, "\u0003")), "Return");
 }
 
-TEST_F(ShortcutLabelTest, NamedKeysAndArrows) {
+TEST_F(ShortcutLabelTest, HomeShowsTheNorthWestArrowAndOtherKeysTheirNames) {
     EXPECT_EQ(shortcutLabel(key(115)), "↖");
     EXPECT_EQ(shortcutLabel(key(119)), "↘");
     EXPECT_EQ(shortcutLabel(key(116)), "⇞");
@@ -67,7 +67,7 @@ TEST_F(ShortcutLabelTest, NamedKeysAndArrows) {
     EXPECT_EQ(shortcutLabel(key(117)), "key.forwarddelete");
 }
 
-TEST_F(ShortcutLabelTest, KeyWithoutCharactersIsNamedByItsCode) {
+TEST_F(ShortcutLabelTest, KeyWithoutCharactersOrTableEntryIsNamedHashAndItsCode) {
     EXPECT_EQ(shortcutLabel(key(10)), "#10");
     EXPECT_EQ(shortcutLabel(key(10, 0x100000)), "⌘#10");
 }
