@@ -134,6 +134,12 @@ INSTANTIATE_TEST_SUITE_P(
                        h.c().newProfile();
                    },
                    true},
+        Cancelling{"nameProfileCancelled",
+                   [](ControllerHarness& h) {
+                       h.dialogs.name.reset();
+                       h.c().newProfile();
+                   },
+                   true},
         Cancelling{"becomeActive", [](ControllerHarness& h) { h.c().applicationDidBecomeActive(); },
                    true},
         Cancelling{"resignActive", [](ControllerHarness& h) { h.c().applicationDidResignActive(); },

@@ -98,8 +98,10 @@ void Controller::duplicateProfile() {
 }
 
 void Controller::nameProfile(NamingMode mode) {
+    // A touch half seen before the dialog must not complete after it, even when it is cancelled.
     cancelPendingActions();
     releasePresses();
+    gesture_.reset();
     const NamingDialogTexts texts{
         .message = L(namingTitle(mode)),
         .informative = L("profile.name"),
