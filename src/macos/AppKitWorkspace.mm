@@ -43,12 +43,24 @@ std::int32_t AppKitWorkspace::ownProcessID() const {
 
 void AppKitWorkspace::activateApplication(std::int32_t processID) {
     // Nil, and so nothing, when that application has quit in the meantime.
-    [[NSRunningApplication runningApplicationWithProcessIdentifier:processID]
-        activateWithOptions:NSApplicationActivateIgnoringOtherApps];
+    NSRunningApplication* running =
+        [NSRunningApplication runningApplicationWithProcessIdentifier:processID];
+    if (@available(macOS 14.0, *)) {
+        // Activation is cooperative from macOS 14 on: forcing it is ignored, so this copy hands
+        // its own activation over instead.
+        [NSApp yieldActivationToApplication:running];
+        [running activateWithOptions:0];
+    } else {
+        [running activateWithOptions:NSApplicationActivateIgnoringOtherApps];
+    }
 }
 
 void AppKitWorkspace::activate() {
-    [NSApp activateIgnoringOtherApps:YES];
+    if (@available(macOS 14.0, *)) {
+        [NSApp activate];
+    } else {
+        [NSApp activateIgnoringOtherApps:YES];
+    }
 }
 
 void AppKitWorkspace::openURL(const std::string& url) {

@@ -20,12 +20,15 @@ void DispatchMainQueue::after(double seconds, std::function<void()> work) {
 }
 
 void DispatchMainQueue::every(double seconds, std::function<void()> work) {
-    // The run loop keeps the timer for the rest of the process; nothing here needs to.
-    [NSTimer scheduledTimerWithTimeInterval:seconds
-                                    repeats:YES
-                                      block:^(NSTimer*) {
-                                          work();
-                                      }];
+    // The run loop keeps the timer for the rest of the process; nothing here needs to. In the
+    // common modes it also fires while a menu or a pop-up is tracking the mouse, so the live
+    // line stays current while the user looks at it.
+    NSTimer* timer = [NSTimer timerWithTimeInterval:seconds
+                                            repeats:YES
+                                              block:^(NSTimer*) {
+                                                  work();
+                                              }];
+    [NSRunLoop.mainRunLoop addTimer:timer forMode:NSRunLoopCommonModes];
 }
 
 }  // namespace tactora::macos
