@@ -25,7 +25,9 @@ inline constexpr ActionIndex showDesktop = 13;
 inline constexpr ActionIndex custom = 14;  // performs the slot's recorded shortcut
 inline constexpr ActionIndex count = 15;
 
-constexpr bool isValid(ActionIndex index) { return index >= 0 && index < count; }
+constexpr bool isValid(ActionIndex index) {
+    return index >= 0 && index < count;
+}
 }  // namespace action
 
 }  // namespace tactora

@@ -11,7 +11,9 @@ std::vector<std::string>& mutableChoices() {
 }
 }  // namespace
 
-const std::vector<std::string>& choices() { return mutableChoices(); }
+const std::vector<std::string>& choices() {
+    return mutableChoices();
+}
 
 void initializeGlobals() {
     std::vector<std::string> names;

@@ -14,8 +14,8 @@ inline constexpr std::int64_t marker = 0x544143544F52;
 
 // The action catalogue's localisation keys, in index order.
 inline constexpr std::array<std::string_view, 15> actionKeys = {
-    "action.default", "action.left",  "action.right",   "action.middle",  "action.double",
-    "action.copy",    "action.paste", "action.cut",     "action.undo",    "action.redo",
+    "action.default", "action.left",    "action.right",   "action.middle",  "action.double",
+    "action.copy",    "action.paste",   "action.cut",     "action.undo",    "action.redo",
     "action.back",    "action.forward", "action.mission", "action.desktop", "action.custom"};
 
 // The localised display name of each action, index for index. Empty until

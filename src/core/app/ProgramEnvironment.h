@@ -13,7 +13,7 @@ namespace tactora {
 // What the program's entry needs from the system it runs on: macOS gives it AppKit and the
 // user defaults, other systems portable stand-ins. All calls on the main thread.
 class ProgramEnvironment {
-public:
+  public:
     virtual ~ProgramEnvironment() = default;
 
     virtual PreferenceSuites& preferences() = 0;

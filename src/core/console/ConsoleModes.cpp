@@ -19,7 +19,9 @@ namespace {
 
 constexpr std::array<std::int64_t, 7> requiredIconWidths = {16, 32, 64, 128, 256, 512, 1024};
 
-void printLine(const std::string& line) { std::cout << line << '\n' << std::flush; }
+void printLine(const std::string& line) {
+    std::cout << line << '\n' << std::flush;
+}
 
 void checkIcon(ProgramEnvironment& environment) {
     const auto widths = environment.appIconPixelWidths();

@@ -12,7 +12,7 @@ using FrameCallback = void (*)(std::int32_t count, const std::int32_t* ids, cons
 
 // The mouse's touch sensor. All members are called on the main thread.
 class Sensor {
-public:
+  public:
     virtual ~Sensor() = default;
 
     // Stops any earlier connection, then connects and starts delivering frames to `callback`.
