@@ -160,6 +160,20 @@ TEST_F(ProfileStoreTest, StoredListOfTheWrongTypeIsKeptAsRejected) {
     EXPECT_EQ(storedProfiles(), store.profiles());
 }
 
+TEST_F(ProfileStoreTest, WellFormedListStoredAsTextIsSetAsideNotLoaded) {
+    const WorkProfile stored(Uuid::random(), "Work", {1, 2, 3}, {});
+    const std::string text = *encodeProfiles({stored});
+    defaults->setString(ProfileStore::profilesKey, text);
+    defaults->setInteger("gesture.0", 5);
+    const ProfileStore store(defaults, "Default");
+    ASSERT_EQ(store.profiles().size(), 1U);
+    EXPECT_EQ(store.current().name, "Default");
+    EXPECT_NE(store.current().id, stored.id);
+    EXPECT_EQ(store.current().actions[0], 5);
+    EXPECT_EQ(defaults->data(ProfileStore::rejectedProfilesKey), bytesOf(text));
+    EXPECT_EQ(storedProfiles(), store.profiles());
+}
+
 TEST_F(ProfileStoreTest, AcceptedOrMissingListLeavesNoRejectedCopy) {
     { const ProfileStore fresh(defaults, "Default"); }
     EXPECT_EQ(defaults->data(ProfileStore::rejectedProfilesKey), std::nullopt);

@@ -29,14 +29,20 @@ bool hasDistinctIDs(const std::vector<WorkProfile>& profiles) {
     return ids.size() == profiles.size();
 }
 
-// The stored list's raw bytes: normally a data value, but a text under the key is kept too, so
-// that it can be set aside rather than silently overwritten.
-std::optional<Bytes> storedList(const Preferences& defaults) {
+// What the profiles key holds. Only a data value is ever loaded; a text there was not written
+// by the store, so it is never trusted, but its bytes are kept so that it can be set aside
+// rather than silently overwritten.
+struct StoredList {
+    Bytes bytes;
+    bool isData = false;
+};
+
+std::optional<StoredList> storedList(const Preferences& defaults) {
     if (std::optional<Bytes> data = defaults.data(ProfileStore::profilesKey)) {
-        return data;
+        return StoredList{std::move(*data), true};
     }
     if (const std::optional<std::string> text = defaults.string(ProfileStore::profilesKey)) {
-        return bytesOf(*text);
+        return StoredList{bytesOf(*text), false};
     }
     return std::nullopt;
 }
@@ -68,12 +74,14 @@ WorkProfile migratedProfile(const Preferences& defaults, std::string name) {
 
 ProfileStore::ProfileStore(std::shared_ptr<Preferences> defaults, std::string defaultName)
     : defaults_(std::move(defaults)) {
-    const std::optional<Bytes> stored = storedList(*defaults_);
+    const std::optional<StoredList> stored = storedList(*defaults_);
     std::optional<std::vector<WorkProfile>> accepted;
     if (stored) {
-        accepted = acceptedList(*stored);
+        if (stored->isData) {
+            accepted = acceptedList(stored->bytes);
+        }
         if (!accepted) {
-            defaults_->setData(rejectedProfilesKey, *stored);
+            defaults_->setData(rejectedProfilesKey, stored->bytes);
         }
     }
     profiles_ = accepted
