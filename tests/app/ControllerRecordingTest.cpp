@@ -151,6 +151,20 @@ TEST_F(ControllerRecordingTest, AfterEitherButtonRecordingEndsRecogniserResetsAn
     }
 }
 
+TEST_F(ControllerRecordingTest, TouchBegunBeforeTheDialogDoesNotCompleteWhileItIsOpen) {
+    h.rest(1);
+    h.dialogs.save = false;
+    std::string gestureWhileOpen;
+    h.dialogs.whileOpen = [&] {
+        h.queue.advance(0.1);
+        h.frame(0);
+        gestureWhileOpen = h.c().lastGesture();
+    };
+    h.c().beginRecording(0);
+
+    EXPECT_EQ(gestureWhileOpen, "—");
+}
+
 TEST_F(ControllerRecordingTest, BeginningCancelsPendingActionsAndReleasesHeldPresses) {
     h.assign(1, action::right);
     h.rest(2);

@@ -9,8 +9,10 @@ void Controller::recordShortcut(std::int64_t slot) {
 }
 
 void Controller::beginRecording(std::int64_t slot) {
+    // A touch begun before the dialog must not complete as a tap while it is open.
     cancelPendingActions();
     releasePresses();
+    gesture_.reset();
     recording_ = true;
     const RecordingDialogTexts texts{
         .message = L("record.title"),
