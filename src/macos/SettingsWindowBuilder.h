@@ -23,7 +23,7 @@ class SettingsWindowBuilder {
     NSWindow* build(const SettingsWindowTexts& texts);
 
   private:
-    struct ButtonSpec {
+    struct TitledAction {
         std::string_view title;
         SEL action;
     };
@@ -34,7 +34,7 @@ class SettingsWindowBuilder {
     // A wrapping label in the secondary colour.
     void addNote(const std::string& text, CGFloat fontSize);
     void addHeader(const std::string& hero);
-    void addButtonRow(std::initializer_list<ButtonSpec> buttons);
+    void addButtonRow(std::initializer_list<TitledAction> buttons);
     void addProfileRow(const SettingsWindowTexts& texts);
     void addEnableSwitch();
     void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);

@@ -107,10 +107,10 @@ void SettingsWindowBuilder::addHeader(const std::string& hero) {
     add(header);
 }
 
-void SettingsWindowBuilder::addButtonRow(std::initializer_list<ButtonSpec> buttons) {
+void SettingsWindowBuilder::addButtonRow(std::initializer_list<TitledAction> buttons) {
     NSMutableArray<NSView*>* views = [NSMutableArray array];
-    for (const ButtonSpec& spec : buttons) {
-        [views addObject:makeButton(spec.title, spec.action)];
+    for (const TitledAction& button : buttons) {
+        [views addObject:makeButton(button.title, button.action)];
     }
     add(makeRow(views, 8));
 }
