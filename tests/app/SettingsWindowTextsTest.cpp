@@ -2,27 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <string>
-#include <vector>
 
 #include "core/app/Globals.h"
-#include "core/localization/BundleLocalization.h"
 #include "core/localization/Localizer.h"
+#include "support/ShippedResources.h"
 
 namespace tactora {
 namespace {
 
-std::filesystem::path resourcesDirectory() {
-    if (const char* source = std::getenv("TACTORA_SOURCE_DIR")) {
-        return std::filesystem::path(source) / "resources";
-    }
-    return std::filesystem::path(TACTORA_TEST_SOURCE_DIR) / "resources";
-}
-
 // The window's texts with the shipped table of `language` installed, as at start-up.
-class SettingsWindowTextsTest : public testing::Test {
+class SettingsWindowTextsTest : public ::testing::Test {
   protected:
     SettingsWindowTextsTest() = default;
     ~SettingsWindowTextsTest() override {
@@ -36,10 +26,7 @@ class SettingsWindowTextsTest : public testing::Test {
     SettingsWindowTextsTest& operator=(SettingsWindowTextsTest&&) = delete;
 
     static SettingsWindowTexts textsIn(const std::string& language) {
-        const BundleLocalization loaded =
-            loadBundleStringTable(resourcesDirectory(), std::vector{language});
-        EXPECT_EQ(loaded.localization, language);
-        setStringTable(loaded.table);
+        EXPECT_EQ(testing::useShippedStringTable(language), language);
         initializeGlobals();
         return settingsWindowTexts();
     }

@@ -5,12 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "support/ShippedResources.h"
 
 namespace tactora {
 namespace {
@@ -126,11 +127,7 @@ class TemporaryFile {
 };
 
 TEST(IcnsReader, TheBundledIconHasEveryRequiredWidth) {
-    const char* sourceDirectory = std::getenv("TACTORA_SOURCE_DIR");
-    ASSERT_NE(sourceDirectory, nullptr);
-
-    const auto widths =
-        icnsFilePixelWidths(std::filesystem::path(sourceDirectory) / "resources" / "Tactora.icns");
+    const auto widths = icnsFilePixelWidths(testing::shippedResourcesDirectory() / "Tactora.icns");
 
     ASSERT_TRUE(widths.has_value());
     for (std::int64_t required : {16, 32, 64, 128, 256, 512, 1024}) {

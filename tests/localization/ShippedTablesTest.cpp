@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -12,29 +11,25 @@
 #include "core/localization/Localizer.h"
 #include "core/localization/StringsFile.h"
 #include "core/localization/StringsTable.h"
+#include "support/ShippedResources.h"
 
 namespace tactora {
 namespace {
 
-std::filesystem::path resourcesDirectory() {
-    if (const char* source = std::getenv("TACTORA_SOURCE_DIR")) {
-        return std::filesystem::path(source) / "resources";
-    }
-    return std::filesystem::path(TACTORA_TEST_SOURCE_DIR) / "resources";
-}
+using testing::shippedResourcesDirectory;
 
 std::filesystem::path tablePath(const std::string& localization) {
-    return resourcesDirectory() / (localization + ".lproj") / "Localizable.strings";
+    return shippedResourcesDirectory() / (localization + ".lproj") / "Localizable.strings";
 }
 
 TEST(ShippedTablesTest, EnglishAndBrazilianPortugueseShip) {
-    const std::vector<std::string> available = availableLocalizations(resourcesDirectory());
+    const std::vector<std::string> available = availableLocalizations(shippedResourcesDirectory());
     EXPECT_NE(std::ranges::find(available, "en"), available.end());
     EXPECT_NE(std::ranges::find(available, "pt-BR"), available.end());
 }
 
 TEST(ShippedTablesTest, EveryTableHasExactlyTheKeysWithMatchingConversions) {
-    const std::vector<std::string> available = availableLocalizations(resourcesDirectory());
+    const std::vector<std::string> available = availableLocalizations(shippedResourcesDirectory());
     ASSERT_FALSE(available.empty());
     for (const std::string& localization : available) {
         const std::optional<StringsFile> file = readStringsFile(tablePath(localization));
@@ -47,7 +42,7 @@ TEST(ShippedTablesTest, EveryTableHasExactlyTheKeysWithMatchingConversions) {
 }
 
 TEST(ShippedTablesTest, EveryTextIsNonEmpty) {
-    for (const std::string& localization : availableLocalizations(resourcesDirectory())) {
+    for (const std::string& localization : availableLocalizations(shippedResourcesDirectory())) {
         const std::optional<StringsFile> file = readStringsFile(tablePath(localization));
         ASSERT_TRUE(file) << localization;
         for (const auto& [key, text] : file->entries) {
@@ -57,7 +52,7 @@ TEST(ShippedTablesTest, EveryTextIsNonEmpty) {
 }
 
 TEST(ShippedTablesTest, ActionNamesAreTranslatedAndDistinct) {
-    for (const std::string& localization : availableLocalizations(resourcesDirectory())) {
+    for (const std::string& localization : availableLocalizations(shippedResourcesDirectory())) {
         const auto table = StringsTable::load(tablePath(localization));
         ASSERT_NE(table, nullptr) << localization;
         std::vector<std::string> names;
@@ -71,7 +66,7 @@ TEST(ShippedTablesTest, ActionNamesAreTranslatedAndDistinct) {
     }
 }
 
-class ShippedTablesLocalizerTest : public testing::Test {
+class ShippedTablesLocalizerTest : public ::testing::Test {
   protected:
     ShippedTablesLocalizerTest() = default;
     ~ShippedTablesLocalizerTest() override { setStringTable(nullptr); }
@@ -82,10 +77,7 @@ class ShippedTablesLocalizerTest : public testing::Test {
     ShippedTablesLocalizerTest& operator=(ShippedTablesLocalizerTest&&) = delete;
 
     static void use(const std::string& language) {
-        const BundleLocalization loaded =
-            loadBundleStringTable(resourcesDirectory(), std::vector{language});
-        ASSERT_EQ(loaded.localization, language);
-        setStringTable(loaded.table);
+        ASSERT_EQ(testing::useShippedStringTable(language), language);
     }
 };
 
