@@ -83,7 +83,11 @@ void AppKitSettingsView::setStatusItem(const StatusItemAppearance& appearance) {
                   accessibilityDescription:toNSString(appearance.accessibilityDescription)];
     [image setTemplate:YES];
     button.image = image;
-    button.title = @"";
+    button.title = toNSString(appearance.title);
+    if (!appearance.title.empty()) {
+        // The feedback's finger count goes beside the symbol, not in its place.
+        button.imagePosition = NSImageLeading;
+    }
     button.toolTip = toNSString(appearance.toolTip);
 }
 

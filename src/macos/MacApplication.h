@@ -8,6 +8,7 @@
 #include "macos/AppKitDialogs.h"
 #include "macos/AppKitSettingsView.h"
 #include "macos/AppKitShell.h"
+#include "macos/AppKitSurfaceView.h"
 #include "macos/AppKitWorkspace.h"
 #include "macos/CGEventPoster.h"
 #include "macos/DispatchMainQueue.h"
@@ -45,6 +46,7 @@ class MacApplication {
     TAApplicationDelegate* __strong delegate_;
     AppKitSettingsView view_;
     AppKitShell shell_;
+    AppKitSurfaceView surface_;
     std::shared_ptr<Controller> controller_;
 };
 

@@ -19,6 +19,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
       delegate_([[TAApplicationDelegate alloc] init]),
       view_(controls_),
       shell_(controls_, delegate_),
+      surface_(controls_),
       controller_(Controller::create({
           .clock = clock_,
           .queue = queue_,
@@ -31,6 +32,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
           .view = view_,
           .dialogs = dialogs_,
           .defaults = std::move(defaults),
+          .surface = surface_,
       })) {
     [delegate_ attachController:controller_];
 }

@@ -14,6 +14,8 @@ SEL selectorFor(MenuCommand command) {
             return @selector(pause);
         case MenuCommand::quit:
             return @selector(quit);
+        case MenuCommand::toggleMenuBarFeedback:
+            return @selector(toggleMenuBarFeedback);
         case MenuCommand::separator:
             break;
     }
@@ -38,6 +40,7 @@ NSMenuItem* MenuBuilder::item(const MenuEntry& entry) const {
                                                    action:selectorFor(entry.command)
                                             keyEquivalent:toNSString(entry.keyEquivalent)];
     built.target = target_;
+    built.state = entry.checked ? NSControlStateValueOn : NSControlStateValueOff;
     return built;
 }
 

@@ -38,6 +38,8 @@ class SettingsWindowBuilder {
     void addProfileRow(const SettingsWindowTexts& texts);
     void addEnableSwitch();
     void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);
+    // Puts the live view in the free strip beside the gesture rows, outside the column.
+    void placeSurface(NSWindow* window);
     NSPopUpButton* makeActionMenu(NSInteger slot, const std::vector<std::string>& names);
     NSButton* makeRecordButton(NSInteger slot, const std::string& title);
     NSButton* makeButton(std::string_view title, SEL action);
@@ -45,6 +47,9 @@ class SettingsWindowBuilder {
     TASettingsControls* __strong controls_;
     TAApplicationDelegate* __strong target_;
     NSStackView* __strong column_;
+    // The first and last views of the gesture table, which the live view runs beside.
+    NSView* __strong tableTop_;
+    NSView* __strong tableBottom_;
 };
 
 }  // namespace tactora::macos

@@ -14,6 +14,8 @@ constexpr CGFloat top = 24;
 // Wrapping labels wrap to the column: the content less its margins.
 constexpr CGFloat columnWidth = windowWidth - 2 * margin;
 constexpr CGFloat iconSide = 44;
+// The gesture rows are 671 points wide, leaving 63 of the column free beside them.
+constexpr CGFloat surfaceWidth = 52;
 
 void fixWidth(NSView* view, CGFloat width) {
     [view.widthAnchor constraintEqualToConstant:width].active = YES;
@@ -49,6 +51,7 @@ NSWindow* SettingsWindowBuilder::build(const SettingsWindowTexts& texts) {
     for (const GestureRow& row : texts.gestureRows) {
         addGestureRow(row, texts);
     }
+    placeSurface(window);
     addNote(texts.recordHint, 11);
     controls_.live.font = [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightRegular];
     add(controls_.live);
@@ -141,17 +144,38 @@ void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsW
         NSTextField* heading = makeLabel(*row.heading, [NSFont boldSystemFontOfSize:12]);
         heading.textColor = NSColor.secondaryLabelColor;
         add(heading);
+        if (tableTop_ == nil) {
+            tableTop_ = heading;
+        }
     }
     NSTextField* fingers =
         makeLabel(row.fingerLabel, [NSFont systemFontOfSize:NSFont.systemFontSize]);
     fixWidth(fingers, 100);
     const auto slot = static_cast<NSInteger>(row.slot);
-    add(makeRow(
+    NSStackView* rowView = makeRow(
         @[
             fingers, makeActionMenu(slot, texts.actionNames),
             makeRecordButton(slot, texts.recordButton)
         ],
-        18));
+        18);
+    add(rowView);
+    tableBottom_ = rowView;
+}
+
+void SettingsWindowBuilder::placeSurface(NSWindow* window) {
+    if (tableTop_ == nil || tableBottom_ == nil) {
+        return;
+    }
+    TASurfaceView* surface = controls_.surface;
+    surface.translatesAutoresizingMaskIntoConstraints = NO;
+    NSView* content = window.contentView;
+    [content addSubview:surface];
+    [NSLayoutConstraint activateConstraints:@[
+        [surface.trailingAnchor constraintEqualToAnchor:content.trailingAnchor constant:-margin],
+        [surface.widthAnchor constraintEqualToConstant:surfaceWidth],
+        [surface.topAnchor constraintEqualToAnchor:tableTop_.topAnchor],
+        [surface.bottomAnchor constraintEqualToAnchor:tableBottom_.bottomAnchor],
+    ]];
 }
 
 NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,

@@ -30,6 +30,7 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)changed:(NSControl*)sender;
 - (void)recordShortcut:(NSControl*)sender;
 - (void)testDesktop;
+- (void)toggleMenuBarFeedback;
 
 @end
 

@@ -89,4 +89,8 @@
     _controller->testDesktop();
 }
 
+- (void)toggleMenuBarFeedback {
+    _controller->toggleMenuBarFeedback();
+}
+
 @end

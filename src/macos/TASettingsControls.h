@@ -2,6 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
+#import "macos/TASurfaceView.h"
+
 NS_ASSUME_NONNULL_BEGIN
 
 // The controls that the controller keeps up to date. The lines, the master switch and the
@@ -17,6 +19,8 @@ NS_ASSUME_NONNULL_BEGIN
 // One per gesture slot, in slot order.
 @property(nonatomic, readonly) NSMutableArray<NSPopUpButton*>* actionMenus;
 @property(nonatomic, readonly) NSMutableArray<NSButton*>* recordButtons;
+// The live view of the touch surface, placed beside the gesture rows.
+@property(nonatomic, readonly) TASurfaceView* surface;
 @property(nonatomic, nullable) NSWindow* window;
 @property(nonatomic, nullable) NSStatusItem* statusItem;
 

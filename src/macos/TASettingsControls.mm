@@ -13,6 +13,7 @@
         _profileMenu = [[NSPopUpButton alloc] initWithFrame:NSZeroRect pullsDown:NO];
         _actionMenus = [NSMutableArray array];
         _recordButtons = [NSMutableArray array];
+        _surface = [[TASurfaceView alloc] initWithFrame:NSZeroRect];
     }
     return self;
 }

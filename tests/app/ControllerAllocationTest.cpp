@@ -120,5 +120,45 @@ TEST_F(ControllerAllocationTest, FramesAllocateNothingOnTheMainThreadOnceTheirFi
     EXPECT_EQ(h.c().gesture().count, 4);
 }
 
+TEST_F(ControllerAllocationTest, FramesCostTheLiveViewNothingOnceItsWindowIsHidden) {
+    h.surface.setVisible(true);
+    h.surface.setVisible(false);
+    const std::size_t shows = h.surface.shows;
+    const Contacts contacts;
+    contacts.deliver(4);
+    h.queue.runReady();
+
+    std::size_t onMainThread = 0;
+    for (int round = 0; round < 100; ++round) {
+        contacts.deliver(4);
+        onMainThread += AllocationCounter::of([&] { h.queue.runReady(); });
+    }
+    EXPECT_EQ(onMainThread, 0U);
+    EXPECT_EQ(h.surface.shows, shows);
+}
+
+TEST_F(ControllerAllocationTest, SteadyFramesDrawnInTheLiveViewAllocateNothing) {
+    // Texts too long to be kept inside a string, so that building one again would count.
+    StringsTable::Entries entries = testTable()->entries();
+    entries.insert({{"finger.many", "%d fingers rest on the surface"},
+                    {"surface.idle", "Fingers on the surface: %d; no gesture yet"}});
+    setStringTable(std::make_shared<const StringsTable>(entries));
+    h.surface.setVisible(true);
+    const Contacts contacts;
+    contacts.deliver(4);
+    h.queue.runReady();
+    const std::size_t shows = h.surface.shows;
+
+    std::size_t onMainThread = 0;
+    for (int round = 0; round < 100; ++round) {
+        contacts.deliver(4);
+        onMainThread += AllocationCounter::of([&] { h.queue.runReady(); });
+    }
+    EXPECT_EQ(onMainThread, 0U);
+    EXPECT_EQ(h.surface.shows, shows + 100);
+    EXPECT_EQ(h.surface.shown.fingers, 4);
+    EXPECT_EQ(h.surface.shown.fingersText, "4 fingers rest on the surface");
+}
+
 }  // namespace
 }  // namespace tactora::testing

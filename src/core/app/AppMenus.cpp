@@ -11,10 +11,11 @@ std::vector<MenuEntry> mainMenuItems() {
     };
 }
 
-std::vector<MenuEntry> statusMenuItems() {
+std::vector<MenuEntry> statusMenuItems(bool menuBarFeedback) {
     return {
         {L("menu.open"), MenuCommand::show, ""},
         {L("menu.pause"), MenuCommand::pause, ""},
+        {L("menu.feedback"), MenuCommand::toggleMenuBarFeedback, "", menuBarFeedback},
         {"", MenuCommand::separator, ""},
         {L("menu.exit"), MenuCommand::quit, "q"},
     };

@@ -14,7 +14,10 @@
 #include "core/actions/Press.h"
 #include "core/app/ContactFrame.h"
 #include "core/app/ControllerServices.h"
+#include "core/app/GestureKind.h"
+#include "core/app/MenuBarFeedback.h"
 #include "core/app/NamingMode.h"
+#include "core/app/TouchSurface.h"
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureDispatchContext.h"
 #include "core/gestures/GestureState.h"
@@ -168,6 +171,14 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void duplicateProfile();
     void nameProfile(NamingMode mode);
 
+    // --- Live view of the touch surface and feedback in the menu bar ---------------------------
+
+    // The settings window became visible on screen, or stopped being visible. The live view is
+    // kept up to date only while it is visible; while it is not, frames cost it nothing.
+    void surfaceVisibilityChanged(bool visible);
+    // The status menu's item that shows gestures in the menu bar: turns the preference over.
+    void toggleMenuBarFeedback();
+
     // --- State, for the status display and for tests -----------------------------------------
 
     const GestureState& gesture() const { return gesture_; }
@@ -181,13 +192,17 @@ class Controller : public std::enable_shared_from_this<Controller> {
     bool senderIsMouse() const { return senderIsMouse_; }
     bool recording() const { return recording_; }
     std::int64_t actionGeneration() const { return actionGeneration_; }
+    bool surfaceVisible() const { return surfaceVisible_; }
+    bool menuBarFeedbackOn() const { return feedback_.isOn(); }
 
   private:
     void deliver(const ContactFrame& frame);
     void receive(const ContactFrame& frame);
-    void scheduleTap(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
+    void scheduleTap(std::int64_t fingers, ActionIndex action,
+                     const std::optional<SavedShortcut>& shortcut,
                      const GestureDispatchContext& context, double recognisedAt);
-    void performTap(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
+    void performTap(std::int64_t fingers, ActionIndex action,
+                    const std::optional<SavedShortcut>& shortcut,
                     const GestureDispatchContext& context, double recognisedAt);
 
     void performShortcut(const std::optional<SavedShortcut>& shortcut);
@@ -205,6 +220,13 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void startRefreshTimer();
     void observeWake();
     void dropPendingWork();
+
+    void noteGesture(GestureKind kind, std::int64_t fingers, double at);
+    void noteAction(ActionIndex action, const std::optional<SavedShortcut>& shortcut, double at);
+    void fireFeedback(std::int64_t fingers, double at);
+    void highlightChanged();
+    void scheduleHighlightEnd();
+    void showSurface();
 
     ActionIndex actionAt(std::int64_t slot);
     const std::optional<SavedShortcut>& shortcutAt(std::int64_t slot);
@@ -227,6 +249,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
     bool windowBuilt_ = false;
     bool statusItemCreated_ = false;
     std::vector<Finger> frameFingers_;  // reused for every frame, so frames allocate nothing
+
+    TouchSurface surface_;
+    bool surfaceVisible_ = false;
+    MenuBarFeedback feedback_;
 };
 
 }  // namespace tactora

@@ -21,7 +21,7 @@ void Controller::applicationDidFinishLaunching() {
     buildWindow();
     createStatusItem();
     updateMenuIcon();
-    services_.shell.buildStatusMenu(statusMenuItems());
+    services_.shell.buildStatusMenu(statusMenuItems(feedback_.isOn()));
     reconnect();
     startRefreshTimer();
     observeWake();
@@ -100,6 +100,11 @@ bool Controller::activateOtherInstance() {
 void Controller::buildWindow() {
     services_.shell.buildWindow(settingsWindowTexts());
     windowBuilt_ = true;
+    services_.surface.observeVisibility([weak = weak_from_this()](bool visible) {
+        if (const auto self = weak.lock()) {
+            self->surfaceVisibilityChanged(visible);
+        }
+    });
     refreshProfileUI();
 }
 

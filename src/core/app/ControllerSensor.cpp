@@ -61,10 +61,17 @@ void Controller::receive(std::span<const Finger> fingers) {
     const double now = services_.clock.uptime();
     lastFrame_ = now;
     const std::optional<std::int64_t> count = gesture_.update(fingers, now);
+    if (surfaceVisible_) {
+        surface_.frame(fingers, now);
+    }
     if (!count) {
+        if (surfaceVisible_) {
+            showSurface();
+        }
         return;
     }
     lastGesture_ = L("gesture.tap", *count);
+    noteGesture(GestureKind::tap, *count, now);
     const std::int64_t slot = slot::forTap(*count);
     const ActionIndex action = actionAt(slot);
     const std::optional<SavedShortcut> shortcut = shortcutAt(slot);
@@ -72,20 +79,22 @@ void Controller::receive(std::span<const Finger> fingers) {
     if (!canRunGestures()) {
         return;
     }
-    scheduleTap(action, shortcut, context, now);
+    scheduleTap(*count, action, shortcut, context, now);
 }
 
-void Controller::scheduleTap(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
+void Controller::scheduleTap(std::int64_t fingers, ActionIndex action,
+                             const std::optional<SavedShortcut>& shortcut,
                              const GestureDispatchContext& context, double recognisedAt) {
-    services_.queue.after(tapDelay,
-                          [weak = weak_from_this(), action, shortcut, context, recognisedAt] {
-                              if (const auto self = weak.lock()) {
-                                  self->performTap(action, shortcut, context, recognisedAt);
-                              }
-                          });
+    services_.queue.after(
+        tapDelay, [weak = weak_from_this(), fingers, action, shortcut, context, recognisedAt] {
+            if (const auto self = weak.lock()) {
+                self->performTap(fingers, action, shortcut, context, recognisedAt);
+            }
+        });
 }
 
-void Controller::performTap(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
+void Controller::performTap(std::int64_t fingers, ActionIndex action,
+                            const std::optional<SavedShortcut>& shortcut,
                             const GestureDispatchContext& context, double recognisedAt) {
     if (!mayDispatch(context)) {
         return;
@@ -93,6 +102,11 @@ void Controller::performTap(ActionIndex action, const std::optional<SavedShortcu
     // A click just before the release, or during the wait, means the touch was a click.
     if (lastClick_ >= recognisedAt - tapDelay) {
         return;
+    }
+    if (action != action::defaultAction) {
+        const double now = services_.clock.uptime();
+        fireFeedback(fingers, now);
+        noteAction(action, shortcut, now);
     }
     perform(action, shortcut);
 }

@@ -11,6 +11,7 @@
 #include "core/platform/Permissions.h"
 #include "core/platform/Sensor.h"
 #include "core/platform/SettingsView.h"
+#include "core/platform/SurfaceView.h"
 #include "core/platform/Workspace.h"
 #include "core/profiles/Preferences.h"
 
@@ -31,6 +32,8 @@ struct ControllerServices {
     Dialogs& dialogs;
     // The domain the work profiles are kept in (the standard user defaults).
     std::shared_ptr<Preferences> defaults;
+    // The settings window's live view of the touch surface.
+    SurfaceView& surface;
 };
 
 }  // namespace tactora

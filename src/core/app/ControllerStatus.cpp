@@ -3,6 +3,9 @@
 
 namespace tactora {
 
+static_assert(TouchSurface::contactLifetime == Controller::liveContact,
+              "The live view and the live line count fingers over the same time");
+
 namespace {
 
 std::string permissionState(bool granted) {
@@ -18,6 +21,9 @@ void Controller::refresh() {
     const bool fresh = services_.clock.uptime() - lastFrame_ < liveContact;
     const std::int64_t fingers = fresh ? gesture_.count : 0;
     services_.view.setLiveText(L("live", fingers, lastGesture_, lastAction_));
+    if (surfaceVisible_) {
+        showSurface();
+    }
     updateMenuIcon();
 }
 
@@ -31,6 +37,7 @@ void Controller::updateMenuIcon() {
         .accessibilityDescription = "Tactora",
         .toolTip =
             "Tactora · " + L(on ? "menu.active" : "menu.pause") + " · " + profiles().current().name,
+        .title = feedback_.title(services_.clock.uptime()),
     });
 }
 

@@ -92,6 +92,7 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
         return EventDisposition::pass;
     }
     lastGesture_ = L("gesture.click", fingers);
+    noteGesture(GestureKind::click, fingers, now);
     const std::int64_t slot = slot::forClick(fingers);
     const ActionIndex action = actionAt(slot);
     if (action == action::defaultAction) {
@@ -99,9 +100,12 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
     }
     const Press press{action, shortcutAt(slot), catalogue::pressTarget(action), dispatchContext()};
     presses_.insert_or_assign(button, press);
+    fireFeedback(fingers, now);
     if (!press.button) {
         return EventDisposition::swallow;
     }
+    // A rewritten press does its action now; a swallowed one does it on release.
+    noteAction(action, press.shortcut, now);
     rewrite(event, *press.button, true, false);
     return EventDisposition::pass;
 }
@@ -136,6 +140,7 @@ void Controller::performOnRelease(const Press& press) {
     services_.queue.async([weak = weak_from_this(), press] {
         const auto self = weak.lock();
         if (self && self->mayDispatch(press.context)) {
+            self->noteAction(press.action, press.shortcut, self->services_.clock.uptime());
             self->perform(press.action, press.shortcut);
         }
     });

@@ -12,7 +12,7 @@ namespace tactora {
 // Every key the program looks up through L, with the arguments its callers pass, in order.
 // Each table must hold exactly these keys, and each text exactly the conversions its shown
 // arguments need (LocalizationAudit checks it).
-inline constexpr std::array<LocalizationKey, 69> localizationKeys = {
+inline constexpr std::array<LocalizationKey, 73> localizationKeys = {
     // The action catalogue, in index order.
     LocalizationKey("action.default"),
     LocalizationKey("action.left"),
@@ -52,6 +52,7 @@ inline constexpr std::array<LocalizationKey, 69> localizationKeys = {
     LocalizationKey("menu.exit"),
     LocalizationKey("menu.quit"),
     LocalizationKey("menu.active"),
+    LocalizationKey("menu.feedback"),
     // Sensor states: each gets the bridge's error code, which only a failed start shows.
     LocalizationKey("sensor.not_started", {unshownIntegerArgument}),
     LocalizationKey("sensor.connected", {unshownIntegerArgument}),
@@ -73,6 +74,11 @@ inline constexpr std::array<LocalizationKey, 69> localizationKeys = {
     LocalizationKey("finger.many", {integerArgument}),
     LocalizationKey("record.button"),
     LocalizationKey("record.hint"),
+    // What VoiceOver reads for the live view of the touch surface: the fingers on it, then the
+    // last gesture ("gesture.tap" or "gesture.click") and the name of the action it performed.
+    LocalizationKey("surface.idle", {integerArgument}),
+    LocalizationKey("surface.gesture", {integerArgument, stringArgument}),
+    LocalizationKey("surface.action", {integerArgument, stringArgument, stringArgument}),
     // The shortcut recording dialog.
     LocalizationKey("record.title"),
     LocalizationKey("record.help"),

@@ -5,11 +5,12 @@
 namespace tactora {
 
 // What choosing a menu item does; the shell sends it to the controller operation of the same
-// name (show(), pause(), quit()).
+// name (show(), pause(), quit(), toggleMenuBarFeedback()).
 enum class MenuCommand {
     show,
     pause,
     quit,
+    toggleMenuBarFeedback,
     separator,  // not an item: a separator line
 };
 
@@ -19,6 +20,7 @@ struct MenuEntry {
     std::string title;
     MenuCommand command = MenuCommand::separator;
     std::string keyEquivalent;  // empty for none
+    bool checked = false;       // shown with a checkmark
 
     bool operator==(const MenuEntry&) const = default;
 };

@@ -1,0 +1,304 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "app/ControllerHarness.h"
+
+namespace tactora::testing {
+namespace {
+
+class ControllerSurfaceTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        StringsTable::Entries entries = testTable()->entries();
+        entries.insert({{"finger.many", "%d fingers"},
+                        {"surface.idle", "%d | none"},
+                        {"surface.gesture", "%d | %@"},
+                        {"surface.action", "%d | %@ | %@"},
+                        {"action.copy", "Copy"},
+                        {"action.right", "Right click"}});
+        setStringTable(std::make_shared<const StringsTable>(entries));
+        initializeGlobals();
+        h.launchAndSwitchOn();
+    }
+
+    // The window comes on screen, as the window server reports it.
+    void showWindow() { h.surface.setVisible(true); }
+
+    const SurfaceSnapshot& shown() const { return h.surface.shown; }
+
+    // Moves virtual time to exactly `moment`, running what falls due by then.
+    void runUntil(double moment) {
+        h.clock.now = moment;
+        h.queue.runReady();
+    }
+
+    ControllerHarness h;
+};
+
+TEST_F(ControllerSurfaceTest, TheWindowsVisibilityIsWatchedOnceItIsBuilt) {
+    ControllerHarness fresh;
+    EXPECT_FALSE(fresh.surface.observed());
+
+    fresh.c().applicationDidFinishLaunching();
+    EXPECT_TRUE(fresh.surface.observed());
+    EXPECT_FALSE(fresh.c().surfaceVisible());
+}
+
+TEST_F(ControllerSurfaceTest, NothingIsDrawnWhileTheWindowIsNotVisible) {
+    h.rest(2);
+    h.queue.advance(0.5);
+    h.frame(0);
+
+    EXPECT_EQ(h.surface.shows, 0U);
+}
+
+TEST_F(ControllerSurfaceTest, BecomingVisibleDrawsAtOnce) {
+    showWindow();
+
+    EXPECT_TRUE(h.c().surfaceVisible());
+    EXPECT_EQ(h.surface.shows, 1U);
+    EXPECT_EQ(shown().fingers, 0);
+    EXPECT_EQ(shown().accessibilityText, "0 | none");
+}
+
+TEST_F(ControllerSurfaceTest, EveryFrameIsDrawnWhileVisible) {
+    showWindow();
+    h.frame(3, 0.25F);
+
+    EXPECT_EQ(shown().fingers, 3);
+    EXPECT_EQ(shown().fingersText, "3 fingers");
+    ASSERT_EQ(shown().contacts().size(), 3U);
+    EXPECT_DOUBLE_EQ(shown().contacts()[0].left, 0.25);
+    EXPECT_DOUBLE_EQ(shown().contacts()[0].top, 0.5);
+
+    h.frame(0);
+    EXPECT_TRUE(shown().contacts().empty());
+}
+
+TEST_F(ControllerSurfaceTest, HidingTheWindowStopsDrawing) {
+    showWindow();
+    h.rest(1);
+    const std::size_t before = h.surface.shows;
+
+    h.surface.setVisible(false);
+    h.rest(2);
+    h.queue.advance(1);
+
+    EXPECT_FALSE(h.c().surfaceVisible());
+    EXPECT_EQ(h.surface.shows, before);
+    EXPECT_EQ(shown().fingers, 1);
+}
+
+TEST_F(ControllerSurfaceTest, RestingFingersVanishOnceFramesStop) {
+    showWindow();
+    h.rest(2);
+
+    // No frame for longer than the contacts live: the refresh timer redraws without them.
+    h.queue.advance(0.61);
+    EXPECT_EQ(shown().fingers, 0);
+    EXPECT_TRUE(shown().contacts().empty());
+}
+
+TEST_F(ControllerSurfaceTest, ATapIsHighlightedWithItsActionForASecondAfterTheAction) {
+    h.assign(5, action::copy);
+    showWindow();
+    h.tap(2);
+
+    EXPECT_TRUE(shown().highlighted);
+    EXPECT_EQ(shown().gestureText, "tap 2");
+    EXPECT_EQ(shown().actionText, "");
+
+    h.queue.advance(Controller::tapDelay);
+    const double performedAt = h.clock.now;
+    EXPECT_EQ(shown().actionText, "Copy");
+    EXPECT_EQ(shown().accessibilityText, "0 | tap 2 | Copy");
+
+    runUntil(performedAt + TouchSurface::highlightDuration - 0.001);
+    EXPECT_TRUE(shown().highlighted);
+    runUntil(performedAt + TouchSurface::highlightDuration);
+    EXPECT_FALSE(shown().highlighted);
+    EXPECT_EQ(shown().accessibilityText, "0 | tap 2 | Copy");
+}
+
+TEST_F(ControllerSurfaceTest, ATapThatCannotRunShowsOnlyTheGesture) {
+    h.assign(5, action::copy);
+    h.c().pause();
+    showWindow();
+    h.tap(2);
+    h.queue.advance(0.5);
+
+    EXPECT_TRUE(shown().highlighted);
+    EXPECT_EQ(shown().gestureText, "tap 2");
+    EXPECT_EQ(shown().actionText, "");
+    EXPECT_EQ(h.performedCount(), 0U);
+}
+
+TEST_F(ControllerSurfaceTest, ATapOnTheSystemDefaultShowsOnlyTheGesture) {
+    showWindow();
+    h.tap(1);
+    h.queue.advance(0.5);
+
+    EXPECT_EQ(shown().gestureText, "tap 1");
+    EXPECT_EQ(shown().actionText, "");
+}
+
+TEST_F(ControllerSurfaceTest, ARecordedShortcutIsNamedByItsKeys) {
+    h.assign(4, action::custom);
+    h.c().profiles().setShortcut(SavedShortcut(8, 0x100000, "⌘C"), 4);
+    showWindow();
+    h.tap(1);
+    h.queue.advance(Controller::tapDelay);
+
+    EXPECT_EQ(shown().actionText, "⌘C");
+}
+
+TEST_F(ControllerSurfaceTest, ARewrittenClickIsHighlightedWithItsActionAtOnce) {
+    h.assign(1, action::right);
+    showWindow();
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+
+    EXPECT_TRUE(shown().highlighted);
+    EXPECT_EQ(shown().gestureText, "click 2");
+    EXPECT_EQ(shown().actionText, "Right click");
+}
+
+TEST_F(ControllerSurfaceTest, ASwallowedClickNamesItsActionOnRelease) {
+    h.assign(2, action::copy);
+    showWindow();
+    h.rest(3);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+    EXPECT_EQ(shown().gestureText, "click 3");
+    EXPECT_EQ(shown().actionText, "");
+
+    h.queue.advance(2);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    h.send(up);
+    h.queue.runReady();
+    EXPECT_TRUE(shown().highlighted);
+    EXPECT_EQ(shown().actionText, "Copy");
+}
+
+TEST_F(ControllerSurfaceTest, AHighlightBegunWhileHiddenIsShownAndEndsOnTime) {
+    h.tap(4);
+    const double recognisedAt = h.clock.now;
+    h.queue.advance(0.5);
+
+    showWindow();
+    EXPECT_TRUE(shown().highlighted);
+    EXPECT_EQ(shown().gestureText, "tap 4");
+
+    runUntil(recognisedAt + TouchSurface::highlightDuration - 0.001);
+    EXPECT_TRUE(shown().highlighted);
+    runUntil(recognisedAt + TouchSurface::highlightDuration);
+    EXPECT_FALSE(shown().highlighted);
+}
+
+// --- Feedback in the menu bar -----------------------------------------------------------------
+
+std::string statusTitle(const ControllerHarness& harness) {
+    return harness.view.statusItem ? harness.view.statusItem->title : "(none)";
+}
+
+TEST_F(ControllerSurfaceTest, MenuBarFeedbackIsOffByDefaultAndTheTitleStaysEmpty) {
+    h.assign(5, action::copy);
+    h.tap(2);
+    h.queue.advance(Controller::tapDelay);
+
+    EXPECT_FALSE(h.c().menuBarFeedbackOn());
+    EXPECT_EQ(h.performedCount(), 2U);
+    EXPECT_EQ(statusTitle(h), "");
+    EXPECT_FALSE(h.shell.statusMenu.at(2).checked);
+}
+
+TEST_F(ControllerSurfaceTest, TheMenuItemTurnsTheFeedbackOverAndRemembersIt) {
+    h.c().toggleMenuBarFeedback();
+    EXPECT_TRUE(h.c().menuBarFeedbackOn());
+    EXPECT_EQ(h.defaults->integer(std::string(MenuBarFeedback::preferenceKey)), 1);
+    EXPECT_EQ(h.shell.statusMenu.at(2),
+              (MenuEntry{"menu.feedback", MenuCommand::toggleMenuBarFeedback, "", true}));
+
+    h.c().toggleMenuBarFeedback();
+    EXPECT_FALSE(h.c().menuBarFeedbackOn());
+    EXPECT_EQ(h.defaults->integer(std::string(MenuBarFeedback::preferenceKey)), 0);
+    EXPECT_FALSE(h.shell.statusMenu.at(2).checked);
+}
+
+TEST_F(ControllerSurfaceTest, AStoredChoiceIsReadAtStartAndAWrongTypeReadsAsOff) {
+    const auto make = [this] {
+        return Controller::create({h.clock, h.queue, h.workspace, h.permissions, h.poster,
+                                   h.eventTap, h.sensor, h.shell, h.view, h.dialogs, h.defaults,
+                                   h.surface});
+    };
+    const std::string key(MenuBarFeedback::preferenceKey);
+    h.defaults->setInteger(key, 1);
+    EXPECT_TRUE(make()->menuBarFeedbackOn());
+    h.defaults->setString(key, "yes");
+    EXPECT_FALSE(make()->menuBarFeedbackOn());
+    h.defaults->setData(key, {1});
+    EXPECT_FALSE(make()->menuBarFeedbackOn());
+}
+
+TEST_F(ControllerSurfaceTest, ATapShowsItsFingerCountInTheMenuBarForOneSecond) {
+    h.c().toggleMenuBarFeedback();
+    h.assign(6, action::copy);
+    h.tap(3);
+    EXPECT_EQ(statusTitle(h), "");
+
+    h.queue.advance(Controller::tapDelay);
+    const double firedAt = h.clock.now;
+    EXPECT_EQ(statusTitle(h), "3");
+    runUntil(firedAt + MenuBarFeedback::duration - 0.001);
+    EXPECT_EQ(statusTitle(h), "3");
+    runUntil(firedAt + MenuBarFeedback::duration);
+    EXPECT_EQ(statusTitle(h), "");
+}
+
+TEST_F(ControllerSurfaceTest, AnInterceptedClickShowsItsFingerCountAtOnce) {
+    h.c().toggleMenuBarFeedback();
+    h.assign(1, action::right);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+
+    EXPECT_EQ(statusTitle(h), "2");
+}
+
+TEST_F(ControllerSurfaceTest, GesturesThatDoNothingLeaveTheMenuBarAlone) {
+    h.c().toggleMenuBarFeedback();
+    h.tap(2);
+    h.queue.advance(0.2);
+    h.rest(1);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+
+    EXPECT_EQ(statusTitle(h), "");
+}
+
+TEST_F(ControllerSurfaceTest, AStaleTapLeavesTheMenuBarAlone) {
+    h.c().toggleMenuBarFeedback();
+    h.assign(5, action::copy);
+    h.tap(2);
+    h.c().pause();
+    h.queue.advance(0.5);
+
+    EXPECT_EQ(h.performedCount(), 0U);
+    EXPECT_EQ(statusTitle(h), "");
+}
+
+TEST_F(ControllerSurfaceTest, TurningTheFeedbackOffEndsACountShownNow) {
+    h.c().toggleMenuBarFeedback();
+    h.assign(5, action::copy);
+    h.tap(2);
+    h.queue.advance(Controller::tapDelay);
+    ASSERT_EQ(statusTitle(h), "2");
+
+    h.c().toggleMenuBarFeedback();
+    EXPECT_EQ(statusTitle(h), "");
+}
+
+}  // namespace
+}  // namespace tactora::testing
