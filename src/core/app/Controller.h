@@ -21,6 +21,7 @@
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/MouseButton.h"
+#include "core/platform/StatusItemAppearance.h"
 #include "core/platform/TapEvent.h"
 #include "core/profiles/ProfileStore.h"
 #include "core/profiles/SavedShortcut.h"
@@ -77,6 +78,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void applicationDidResignActive();
     // Pauses, then stops the sensor.
     void applicationWillTerminate();
+    // The Dock icon was clicked (or the application opened again) while it runs. With no
+    // window on screen it shows the settings window and returns false: nothing is left for
+    // AppKit to do. Otherwise it returns true, leaving AppKit's usual handling.
+    bool applicationShouldHandleReopen(bool hasVisibleWindows);
 
     // Brings the settings window to the front and activates the application.
     void show();
@@ -97,8 +102,9 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // The system woke from sleep: pause, then reconnect.
     void woke();
 
-    // The sensor's frame callback, on the sensor's thread: copies the frame and posts it to the
-    // main queue, through applicationController(). A negative count stops the program.
+    // The sensor's frame callback, on the sensor's thread: copies the frame into fixed storage
+    // and hands it to the main queue by value, where the application controller of the moment
+    // receives it. Allocates nothing itself. A negative count stops the program.
     static void frameCallback(std::int32_t count, const std::int32_t* ids, const float* xs,
                               const float* ys);
 
@@ -110,6 +116,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     // Rewrites the permission line and the live line, then the status item.
     void refresh();
+    // Redraws the status item, but only when its image, title or tooltip would change.
     void updateMenuIcon();
 
     // --- Dispatch guard ----------------------------------------------------------------------
@@ -183,7 +190,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     std::int64_t actionGeneration() const { return actionGeneration_; }
 
   private:
-    void deliver(const ContactFrame& frame);
+    static void receiveFrame(const ContactFrame& frame);
     void receive(const ContactFrame& frame);
     void scheduleTap(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
                      const GestureDispatchContext& context, double recognisedAt);
@@ -226,6 +233,8 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     bool windowBuilt_ = false;
     bool statusItemCreated_ = false;
+    // What the status item shows now, so that an unchanged look is not pushed again.
+    std::optional<StatusItemAppearance> shownAppearance_;
     std::vector<Finger> frameFingers_;  // reused for every frame, so frames allocate nothing
 };
 

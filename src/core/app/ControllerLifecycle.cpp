@@ -18,6 +18,8 @@ void Controller::applicationDidFinishLaunching() {
     services_.shell.setRegularActivationPolicy();
     services_.shell.applyApplicationIcon();
     services_.shell.buildMainMenu(mainMenuItems());
+    services_.shell.addMainMenu(editMenuTitle(), editMenuItems());
+    services_.shell.addMainMenu(windowMenuTitle(), windowMenuItems());
     buildWindow();
     createStatusItem();
     updateMenuIcon();
@@ -39,6 +41,14 @@ void Controller::applicationDidResignActive() {
 void Controller::applicationWillTerminate() {
     pause();
     services_.sensor.stop();
+}
+
+bool Controller::applicationShouldHandleReopen(bool hasVisibleWindows) {
+    if (hasVisibleWindows) {
+        return true;
+    }
+    show();
+    return false;
 }
 
 void Controller::show() {
