@@ -42,14 +42,23 @@ std::int32_t AppKitWorkspace::ownProcessID() const {
 }
 
 void AppKitWorkspace::activateApplication(std::int32_t processID) {
-    // Nil, and so nothing, when that application has quit in the meantime.
     NSRunningApplication* running =
         [NSRunningApplication runningApplicationWithProcessIdentifier:processID];
+    // That copy quit after it was listed: there is nothing left to bring forward.
+    if (running == nil || running.terminated) {
+        return;
+    }
     if (@available(macOS 14.0, *)) {
-        // Activation is cooperative from macOS 14 on: forcing it is ignored, so this copy hands
-        // its own activation over instead.
+        // Activation is cooperative from macOS 14 on and ignoring other applications has no
+        // effect: this copy hands its own activation over, then asks for the other's.
         [NSApp yieldActivationToApplication:running];
-        [running activateWithOptions:0];
+        if ([running activateFromApplication:NSRunningApplication.currentApplication
+                                     options:NSApplicationActivateAllWindows]) {
+            return;
+        }
+        // Refused, typically because this copy was not active itself and so had nothing to
+        // yield (started from a terminal): a plain request is all that is left.
+        [running activateWithOptions:NSApplicationActivateAllWindows];
     } else {
         [running activateWithOptions:NSApplicationActivateIgnoringOtherApps];
     }
