@@ -6,9 +6,27 @@
 
 namespace tactora::macos {
 
+namespace {
+
+// The copies of this application reach each other by a distributed notification named after
+// their bundle identifier, whose object is the process id of the copy that is to answer.
+NSString* _Nullable showRequestName() {
+    NSString* identifier = NSBundle.mainBundle.bundleIdentifier;
+    return identifier == nil ? nil : [identifier stringByAppendingString:@".show"];
+}
+
+NSString* processText(std::int32_t processID) {
+    return [NSString stringWithFormat:@"%d", processID];
+}
+
+}  // namespace
+
 AppKitWorkspace::~AppKitWorkspace() {
     if (wakeObserver_ != nil) {
         [NSWorkspace.sharedWorkspace.notificationCenter removeObserver:wakeObserver_];
+    }
+    if (showObserver_ != nil) {
+        [NSDistributedNotificationCenter.defaultCenter removeObserver:showObserver_];
     }
 }
 
@@ -62,6 +80,32 @@ void AppKitWorkspace::activateApplication(std::int32_t processID) {
     } else {
         [running activateWithOptions:NSApplicationActivateIgnoringOtherApps];
     }
+}
+
+void AppKitWorkspace::requestShow(std::int32_t processID) {
+    NSString* name = showRequestName();
+    if (name == nil) {
+        return;
+    }
+    // Delivered at once even to a copy that is not active; this copy is about to end.
+    [NSDistributedNotificationCenter.defaultCenter postNotificationName:name
+                                                                 object:processText(processID)
+                                                               userInfo:nil
+                                                     deliverImmediately:YES];
+}
+
+void AppKitWorkspace::observeShowRequests(std::function<void()> handler) {
+    NSString* name = showRequestName();
+    if (name == nil) {
+        return;
+    }
+    showObserver_ = [NSDistributedNotificationCenter.defaultCenter
+        addObserverForName:name
+                    object:processText(NSProcessInfo.processInfo.processIdentifier)
+                     queue:NSOperationQueue.mainQueue
+                usingBlock:^(NSNotification*) {
+                    handler();
+                }];
 }
 
 void AppKitWorkspace::activate() {

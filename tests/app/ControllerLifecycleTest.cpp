@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "app/ControllerHarness.h"
 #include "core/app/AppMenus.h"
 #include "core/app/SettingsWindowTexts.h"
@@ -45,6 +47,7 @@ TEST_F(ControllerLifecycleTest, LaunchingBuildsConnectsAndShowsInOrder) {
                                "shell.buildStatusMenu",
                                "sensor.start",
                                "workspace.observeWake",
+                               "workspace.observeShowRequests",
                                "shell.showWindow",
                                "workspace.activate",
                            }));
@@ -77,10 +80,11 @@ TEST_F(ControllerLifecycleTest, SecondCopyActivatesTheFirstAndEndsBeforeBuilding
     h.workspace.instances = {7, 31};
     h.c().applicationDidFinishLaunching();
 
-    EXPECT_EQ(h.log.calls,
-              (std::vector<std::string>{"workspace.instanceProcessIDs",
-                                        "workspace.activateApplication", "workspace.terminate"}));
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{
+                               "workspace.instanceProcessIDs", "workspace.activateApplication",
+                               "workspace.requestShow", "workspace.terminate"}));
     EXPECT_EQ(h.workspace.activated, (std::vector<std::int32_t>{31}));
+    EXPECT_EQ(h.workspace.showRequests, (std::vector<std::int32_t>{31}));
     EXPECT_TRUE(h.queue.intervals.empty());
 }
 
@@ -135,6 +139,26 @@ TEST_F(ControllerLifecycleTest, MenuBarAddsTheStandardEditAndWindowMenusAfterThe
     EXPECT_EQ(h.shell.addedMenus[1].first, "menu.window");
     EXPECT_EQ(h.shell.addedMenus[1].second,
               (std::vector<MenuEntry>{{"menu.close_window", MenuCommand::closeWindow, "w"}}));
+}
+
+TEST_F(ControllerLifecycleTest, AnotherCopysRequestShowsTheWindow) {
+    h.c().applicationDidFinishLaunching();
+    h.log.clear();
+    ASSERT_TRUE(h.workspace.showRequested);
+
+    h.workspace.showRequested();
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"shell.showWindow", "workspace.activate"}));
+}
+
+TEST_F(ControllerLifecycleTest, AShowRequestAfterTheControllerIsGoneDoesNothing) {
+    h.c().applicationDidFinishLaunching();
+    const std::function<void()> request = h.workspace.showRequested;
+    clearApplicationController();
+    h.controller.reset();
+    h.log.clear();
+
+    request();
+    EXPECT_TRUE(h.log.calls.empty());
 }
 
 TEST_F(ControllerLifecycleTest, ReopeningWithTheWindowClosedShowsIt) {

@@ -69,9 +69,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     // --- Lifecycle: the application delegate and the menus ---------------------------------
 
-    // Start-up: a second instance activates the first and terminates; otherwise builds the
-    // menus, the window and the status item, connects the sensor, starts the refresh timer,
-    // watches for wake and shows the window. Gestures stay off until the user switches them on.
+    // Start-up: a second instance activates the first, asks it to show its window and
+    // terminates; otherwise builds the menus, the window and the status item, connects the
+    // sensor, starts the refresh timer, watches for wake and for other copies' requests to
+    // show the window, and shows the window. Gestures stay off until the user switches them on.
     void applicationDidFinishLaunching();
     // Both drop pending gesture actions, let go of held presses and reset the recogniser.
     void applicationDidBecomeActive();
@@ -211,6 +212,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void createStatusItem();
     void startRefreshTimer();
     void observeWake();
+    void observeShowRequests();
     void dropPendingWork();
 
     ActionIndex actionAt(std::int64_t slot);

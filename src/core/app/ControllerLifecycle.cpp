@@ -27,6 +27,7 @@ void Controller::applicationDidFinishLaunching() {
     reconnect();
     startRefreshTimer();
     observeWake();
+    observeShowRequests();
     show();
 }
 
@@ -104,6 +105,9 @@ bool Controller::activateOtherInstance() {
         return false;
     }
     services_.workspace.activateApplication(*other);
+    // From macOS 14 on the system may not hand the first copy the activation; it can still
+    // bring its own window forward when asked.
+    services_.workspace.requestShow(*other);
     return true;
 }
 
@@ -130,6 +134,14 @@ void Controller::observeWake() {
     services_.workspace.observeWake([weak = weak_from_this()] {
         if (const auto self = weak.lock()) {
             self->woke();
+        }
+    });
+}
+
+void Controller::observeShowRequests() {
+    services_.workspace.observeShowRequests([weak = weak_from_this()] {
+        if (const auto self = weak.lock()) {
+            self->show();
         }
     });
 }
