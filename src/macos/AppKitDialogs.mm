@@ -57,7 +57,9 @@ bool AppKitDialogs::runRecordingDialog(const RecordingDialogTexts& texts,
 std::optional<std::string> AppKitDialogs::runNamingDialog(const NamingDialogTexts& texts) {
     NSAlert* alert = makeAlert(texts.message, texts.informative);
     [alert addButtonWithTitle:toNSString(texts.saveButton)];
-    [alert addButtonWithTitle:toNSString(texts.cancelButton)];
+    // An alert gives Escape to a button only when its title is the English "Cancel".
+    NSButton* cancel = [alert addButtonWithTitle:toNSString(texts.cancelButton)];
+    cancel.keyEquivalent = @"\033";
     NSTextField* field = [[NSTextField alloc] initWithFrame:NSMakeRect(0, 0, 320, 24)];
     field.stringValue = toNSString(texts.initialText);
     alert.accessoryView = field;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "core/app/SettingsWindowTexts.h"
@@ -18,6 +19,7 @@ class AppKitShell final : public AppShell {
     void setRegularActivationPolicy() override;
     void applyApplicationIcon() override;
     void buildMainMenu(const std::vector<MenuEntry>& items) override;
+    void addMainMenu(const std::string& title, const std::vector<MenuEntry>& items) override;
     void buildWindow(const SettingsWindowTexts& texts) override;
     void createStatusItem() override;
     void buildStatusMenu(const std::vector<MenuEntry>& items) override;

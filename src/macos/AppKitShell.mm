@@ -3,6 +3,7 @@
 #include "macos/BundledIcon.h"
 #include "macos/MenuBuilder.h"
 #include "macos/SettingsWindowBuilder.h"
+#include "macos/StringConversion.h"
 
 namespace tactora::macos {
 
@@ -25,6 +26,14 @@ void AppKitShell::buildMainMenu(const std::vector<MenuEntry>& items) {
     NSApp.mainMenu = bar;
 }
 
+void AppKitShell::addMainMenu(const std::string& title, const std::vector<MenuEntry>& items) {
+    NSMenu* menu = MenuBuilder(target_).menu(items);
+    menu.title = toNSString(title);
+    NSMenuItem* item = [[NSMenuItem alloc] init];
+    item.submenu = menu;
+    [NSApp.mainMenu addItem:item];
+}
+
 void AppKitShell::buildWindow(const SettingsWindowTexts& texts) {
     controls_.window = SettingsWindowBuilder(controls_, target_).build(texts);
 }
@@ -40,6 +49,9 @@ void AppKitShell::buildStatusMenu(const std::vector<MenuEntry>& items) {
 
 void AppKitShell::showWindow() {
     [controls_.window makeKeyAndOrderFront:nil];
+    // From macOS 14 on, activation is a request the system may refuse; the window then still
+    // comes in front of the other applications' windows.
+    [controls_.window orderFrontRegardless];
 }
 
 }  // namespace tactora::macos

@@ -26,14 +26,17 @@ class AppKitWorkspace final : public Workspace {
     std::vector<std::int32_t> instanceProcessIDs() const override;
     std::int32_t ownProcessID() const override;
     void activateApplication(std::int32_t processID) override;
+    void requestShow(std::int32_t processID) override;
+    void observeShowRequests(std::function<void()> handler) override;
     void activate() override;
     void openURL(const std::string& url) override;
     void terminate() override;
     void observeWake(std::function<void()> handler) override;
 
   private:
-    // The wake registration; the notification centre keeps it until it is removed.
+    // The registrations; the notification centres keep them until they are removed.
     id __strong wakeObserver_;
+    id __strong showObserver_;
 };
 
 }  // namespace tactora::macos

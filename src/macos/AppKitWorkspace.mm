@@ -6,9 +6,27 @@
 
 namespace tactora::macos {
 
+namespace {
+
+// The copies of this application reach each other by a distributed notification named after
+// their bundle identifier, whose object is the process id of the copy that is to answer.
+NSString* _Nullable showRequestName() {
+    NSString* identifier = NSBundle.mainBundle.bundleIdentifier;
+    return identifier == nil ? nil : [identifier stringByAppendingString:@".show"];
+}
+
+NSString* processText(std::int32_t processID) {
+    return [NSString stringWithFormat:@"%d", processID];
+}
+
+}  // namespace
+
 AppKitWorkspace::~AppKitWorkspace() {
     if (wakeObserver_ != nil) {
         [NSWorkspace.sharedWorkspace.notificationCenter removeObserver:wakeObserver_];
+    }
+    if (showObserver_ != nil) {
+        [NSDistributedNotificationCenter.defaultCenter removeObserver:showObserver_];
     }
 }
 
@@ -42,17 +60,52 @@ std::int32_t AppKitWorkspace::ownProcessID() const {
 }
 
 void AppKitWorkspace::activateApplication(std::int32_t processID) {
-    // Nil, and so nothing, when that application has quit in the meantime.
     NSRunningApplication* running =
         [NSRunningApplication runningApplicationWithProcessIdentifier:processID];
+    // That copy quit after it was listed: there is nothing left to bring forward.
+    if (running == nil || running.terminated) {
+        return;
+    }
     if (@available(macOS 14.0, *)) {
-        // Activation is cooperative from macOS 14 on: forcing it is ignored, so this copy hands
-        // its own activation over instead.
+        // Activation is cooperative from macOS 14 on and ignoring other applications has no
+        // effect: this copy hands its own activation over, then asks for the other's.
         [NSApp yieldActivationToApplication:running];
-        [running activateWithOptions:0];
+        if ([running activateFromApplication:NSRunningApplication.currentApplication
+                                     options:NSApplicationActivateAllWindows]) {
+            return;
+        }
+        // Refused, typically because this copy was not active itself and so had nothing to
+        // yield (started from a terminal): a plain request is all that is left.
+        [running activateWithOptions:NSApplicationActivateAllWindows];
     } else {
         [running activateWithOptions:NSApplicationActivateIgnoringOtherApps];
     }
+}
+
+void AppKitWorkspace::requestShow(std::int32_t processID) {
+    NSString* name = showRequestName();
+    if (name == nil) {
+        return;
+    }
+    // Delivered at once even to a copy that is not active; this copy is about to end.
+    [NSDistributedNotificationCenter.defaultCenter postNotificationName:name
+                                                                 object:processText(processID)
+                                                               userInfo:nil
+                                                     deliverImmediately:YES];
+}
+
+void AppKitWorkspace::observeShowRequests(std::function<void()> handler) {
+    NSString* name = showRequestName();
+    if (name == nil) {
+        return;
+    }
+    showObserver_ = [NSDistributedNotificationCenter.defaultCenter
+        addObserverForName:name
+                    object:processText(NSProcessInfo.processInfo.processIdentifier)
+                     queue:NSOperationQueue.mainQueue
+                usingBlock:^(NSNotification*) {
+                    handler();
+                }];
 }
 
 void AppKitWorkspace::activate() {

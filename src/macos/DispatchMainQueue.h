@@ -10,6 +10,7 @@ namespace tactora::macos {
 class DispatchMainQueue final : public MainQueue {
   public:
     void async(std::function<void()> work) override;
+    void asyncFrame(const ContactFrame& frame, FrameReceiver receive) override;
     void after(double seconds, std::function<void()> work) override;
     void every(double seconds, std::function<void()> work) override;
 };

@@ -12,6 +12,15 @@ void DispatchMainQueue::async(std::function<void()> work) {
     });
 }
 
+void DispatchMainQueue::asyncFrame(const ContactFrame& frame, FrameReceiver receive) {
+    // The block captures a plain copy of the frame and a function pointer: copying the block to
+    // the heap, which dispatch_async does, is the hand-over's only allocation.
+    const ContactFrame copy = frame;
+    dispatch_async(dispatch_get_main_queue(), ^{
+        receive(copy);
+    });
+}
+
 void DispatchMainQueue::after(double seconds, std::function<void()> work) {
     const auto delay = static_cast<int64_t>(seconds * static_cast<double>(NSEC_PER_SEC));
     dispatch_after(dispatch_time(DISPATCH_TIME_NOW, delay), dispatch_get_main_queue(), ^{
@@ -28,6 +37,8 @@ void DispatchMainQueue::every(double seconds, std::function<void()> work) {
                                               block:^(NSTimer*) {
                                                   work();
                                               }];
+    // Apple suggests at least a tenth of the interval; it lets the system coalesce wake-ups.
+    timer.tolerance = seconds / 10;
     [NSRunLoop.mainRunLoop addTimer:timer forMode:NSRunLoopCommonModes];
 }
 

@@ -2,6 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
+#include <csignal>
+#include <memory>
 #include <utility>
 
 #include "core/app/ApplicationController.h"
@@ -47,6 +49,18 @@ void MacApplication::run() {
     setApplicationController(controller_);
     // The application keeps its delegate weakly; this object keeps it alive.
     NSApp.delegate = delegate_;
+    // SIGTERM (scripts/run, `kill`) quits as the menu does, so the sensor and the event tap are
+    // let go of in order instead of with the process.
+    signal(SIGTERM, SIG_IGN);
+    dispatch_source_t termination =
+        dispatch_source_create(DISPATCH_SOURCE_TYPE_SIGNAL, SIGTERM, 0, dispatch_get_main_queue());
+    const std::weak_ptr<Controller> weak = controller_;
+    dispatch_source_set_event_handler(termination, ^{
+        if (const auto controller = weak.lock()) {
+            controller->quit();
+        }
+    });
+    dispatch_resume(termination);
     [NSApp run];
 }
 

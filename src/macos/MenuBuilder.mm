@@ -16,10 +16,32 @@ SEL selectorFor(MenuCommand command) {
             return @selector(quit);
         case MenuCommand::toggleMenuBarFeedback:
             return @selector(toggleMenuBarFeedback);
+        // Windows and text views answer these through their undo manager; no public header
+        // declares them.
+        case MenuCommand::undo:
+            return NSSelectorFromString(@"undo:");
+        case MenuCommand::redo:
+            return NSSelectorFromString(@"redo:");
+        case MenuCommand::cut:
+            return @selector(cut:);
+        case MenuCommand::copy:
+            return @selector(copy:);
+        case MenuCommand::paste:
+            return @selector(paste:);
+        case MenuCommand::selectAll:
+            return @selector(selectAll:);
+        case MenuCommand::closeWindow:
+            return @selector(performClose:);
         case MenuCommand::separator:
             break;
     }
     return nullptr;
+}
+
+// The controller's own commands; the others travel the responder chain from the focus.
+bool goesToController(MenuCommand command) {
+    return command == MenuCommand::show || command == MenuCommand::pause ||
+           command == MenuCommand::quit || command == MenuCommand::toggleMenuBarFeedback;
 }
 
 }  // namespace
@@ -39,7 +61,7 @@ NSMenuItem* MenuBuilder::item(const MenuEntry& entry) const {
     NSMenuItem* built = [[NSMenuItem alloc] initWithTitle:toNSString(entry.title)
                                                    action:selectorFor(entry.command)
                                             keyEquivalent:toNSString(entry.keyEquivalent)];
-    built.target = target_;
+    built.target = goesToController(entry.command) ? target_ : nil;
     built.state = entry.checked ? NSControlStateValueOn : NSControlStateValueOff;
     return built;
 }

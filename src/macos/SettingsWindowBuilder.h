@@ -31,6 +31,8 @@ class SettingsWindowBuilder {
     static NSWindow* makeWindow(const std::string& title);
     void makeColumn(NSWindow* window);
     void add(NSView* view);
+    // Places one of the controller's lines, wrapping to the column.
+    void addWrapping(NSTextField* label);
     // A wrapping label in the secondary colour.
     void addNote(const std::string& text, CGFloat fontSize);
     void addHeader(const std::string& hero);

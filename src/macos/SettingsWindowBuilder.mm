@@ -1,5 +1,7 @@
 #include "macos/SettingsWindowBuilder.h"
 
+#include <algorithm>
+
 #include "macos/Labels.h"
 #include "macos/StringConversion.h"
 
@@ -14,6 +16,12 @@ constexpr CGFloat top = 24;
 // Wrapping labels wrap to the column: the content less its margins.
 constexpr CGFloat columnWidth = windowWidth - 2 * margin;
 constexpr CGFloat iconSide = 44;
+constexpr CGFloat headerSpacing = 12;
+constexpr CGFloat fingerWidth = 100;
+// A label beside other controls keeps at least this much room, even when they are wide.
+constexpr CGFloat narrowestLabel = 80;
+// Buttons give way (their titles are cut short) only after the labels have wrapped.
+const NSLayoutPriority buttonCompressionResistance = NSLayoutPriorityDefaultLow + 100;
 // The gesture rows are 671 points wide, leaving 63 of the column free beside them.
 constexpr CGFloat surfaceWidth = 52;
 
@@ -28,6 +36,22 @@ NSStackView* makeRow(NSArray<NSView*>* views, CGFloat spacing) {
     return row;
 }
 
+// The width a label may take in a row of the column beside `others`.
+CGFloat widthBeside(NSArray<NSView*>* others, CGFloat spacing) {
+    CGFloat taken = 0;
+    for (NSView* view in others) {
+        taken += view.fittingSize.width + spacing;
+    }
+    return std::max(columnWidth - taken, narrowestLabel);
+}
+
+// A button whose title does not fit loses its end rather than pushing the window wider.
+void letGiveWay(NSButton* button) {
+    button.cell.lineBreakMode = NSLineBreakByTruncatingTail;
+    [button setContentCompressionResistancePriority:buttonCompressionResistance
+                                     forOrientation:NSLayoutConstraintOrientationHorizontal];
+}
+
 }  // namespace
 
 SettingsWindowBuilder::SettingsWindowBuilder(TASettingsControls* controls,
@@ -40,9 +64,9 @@ NSWindow* SettingsWindowBuilder::build(const SettingsWindowTexts& texts) {
     addHeader(texts.hero);
     addNote(texts.intro, NSFont.systemFontSize);
     controls_.status.font = [NSFont systemFontOfSize:13 weight:NSFontWeightSemibold];
-    add(controls_.status);
+    addWrapping(controls_.status);
     controls_.permission.font = [NSFont systemFontOfSize:12];
-    add(controls_.permission);
+    addWrapping(controls_.permission);
     addButtonRow({{texts.allowAccessibility, @selector(access)},
                   {texts.allowInputMonitoring, @selector(monitor)},
                   {texts.reconnect, @selector(reconnect)}});
@@ -54,7 +78,7 @@ NSWindow* SettingsWindowBuilder::build(const SettingsWindowTexts& texts) {
     placeSurface(window);
     addNote(texts.recordHint, 11);
     controls_.live.font = [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightRegular];
-    add(controls_.live);
+    addWrapping(controls_.live);
     add(makeButton(texts.testDesktop, @selector(testDesktop)));
     addNote(texts.footer, 11);
     return window;
@@ -82,15 +106,30 @@ void SettingsWindowBuilder::makeColumn(NSWindow* window) {
     column_.translatesAutoresizingMaskIntoConstraints = NO;
     NSView* content = window.contentView;
     [content addSubview:column_];
+    // Auto Layout would widen or heighten the window to make room for its contents; these keep
+    // it at its size, so that whatever does not fit wraps instead.
+    NSLayoutConstraint* staysAbove =
+        [column_.bottomAnchor constraintLessThanOrEqualToAnchor:content.bottomAnchor constant:-top];
+    staysAbove.priority = NSLayoutPriorityRequired - 1;
     [NSLayoutConstraint activateConstraints:@[
+        [content.widthAnchor constraintEqualToConstant:windowWidth],
+        [content.heightAnchor constraintEqualToConstant:windowHeight],
         [column_.leadingAnchor constraintEqualToAnchor:content.leadingAnchor constant:margin],
         [column_.trailingAnchor constraintEqualToAnchor:content.trailingAnchor constant:-margin],
         [column_.topAnchor constraintEqualToAnchor:content.topAnchor constant:top],
+        staysAbove,
     ]];
 }
 
+// Nothing in the column is wider than the column.
 void SettingsWindowBuilder::add(NSView* view) {
     [column_ addArrangedSubview:view];
+    [view.widthAnchor constraintLessThanOrEqualToAnchor:column_.widthAnchor].active = YES;
+}
+
+void SettingsWindowBuilder::addWrapping(NSTextField* label) {
+    wrapWithin(label, columnWidth);
+    add(label);
 }
 
 void SettingsWindowBuilder::addNote(const std::string& text, CGFloat fontSize) {
@@ -104,8 +143,9 @@ void SettingsWindowBuilder::addHeader(const std::string& hero) {
     icon.imageScaling = NSImageScaleProportionallyUpOrDown;
     fixWidth(icon, iconSide);
     [icon.heightAnchor constraintEqualToConstant:iconSide].active = YES;
-    NSTextField* title = makeLabel(hero, [NSFont boldSystemFontOfSize:26]);
-    NSStackView* header = makeRow(@[ icon, title ], 12);
+    NSTextField* title = makeWrappingLabel(hero, [NSFont boldSystemFontOfSize:26],
+                                           columnWidth - iconSide - headerSpacing);
+    NSStackView* header = makeRow(@[ icon, title ], headerSpacing);
     header.alignment = NSLayoutAttributeCenterY;
     add(header);
 }
@@ -123,34 +163,37 @@ void SettingsWindowBuilder::addProfileRow(const SettingsWindowTexts& texts) {
     menu.target = target_;
     menu.action = @selector(selectProfile);
     fixWidth(menu, 220);
-    add(makeRow(
-        @[
-            makeLabel(texts.profileLabel, [NSFont systemFontOfSize:NSFont.systemFontSize]), menu,
-            makeButton(texts.newProfile, @selector(newProfile)),
-            makeButton(texts.renameProfile, @selector(renameProfile)),
-            makeButton(texts.duplicateProfile, @selector(duplicateProfile))
-        ],
-        8));
+    NSArray<NSView*>* controls = @[
+        menu, makeButton(texts.newProfile, @selector(newProfile)),
+        makeButton(texts.renameProfile, @selector(renameProfile)),
+        makeButton(texts.duplicateProfile, @selector(duplicateProfile))
+    ];
+    NSTextField* label =
+        makeWrappingLabel(texts.profileLabel, [NSFont systemFontOfSize:NSFont.systemFontSize],
+                          widthBeside(controls, 8));
+    add(makeRow([@[ label ] arrayByAddingObjectsFromArray:controls], 8));
 }
 
 void SettingsWindowBuilder::addEnableSwitch() {
     controls_.enabled.target = target_;
     controls_.enabled.action = @selector(toggle);
+    letGiveWay(controls_.enabled);
     add(controls_.enabled);
 }
 
 void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts) {
     if (row.heading) {
-        NSTextField* heading = makeLabel(*row.heading, [NSFont boldSystemFontOfSize:12]);
+        NSTextField* heading =
+            makeWrappingLabel(*row.heading, [NSFont boldSystemFontOfSize:12], columnWidth);
         heading.textColor = NSColor.secondaryLabelColor;
         add(heading);
         if (tableTop_ == nil) {
             tableTop_ = heading;
         }
     }
-    NSTextField* fingers =
-        makeLabel(row.fingerLabel, [NSFont systemFontOfSize:NSFont.systemFontSize]);
-    fixWidth(fingers, 100);
+    NSTextField* fingers = makeWrappingLabel(
+        row.fingerLabel, [NSFont systemFontOfSize:NSFont.systemFontSize], fingerWidth);
+    fixWidth(fingers, fingerWidth);
     const auto slot = static_cast<NSInteger>(row.slot);
     NSStackView* rowView = makeRow(
         @[
@@ -206,6 +249,7 @@ NSButton* SettingsWindowBuilder::makeRecordButton(NSInteger slot, const std::str
 NSButton* SettingsWindowBuilder::makeButton(std::string_view title, SEL action) {
     NSButton* button = [NSButton buttonWithTitle:toNSString(title) target:target_ action:action];
     button.bezelStyle = NSBezelStylePush;
+    letGiveWay(button);
     return button;
 }
 

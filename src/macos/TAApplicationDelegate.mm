@@ -28,6 +28,10 @@
     _controller->applicationWillTerminate();
 }
 
+- (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag {
+    return _controller->applicationShouldHandleReopen(flag) ? YES : NO;
+}
+
 // Nothing is restored between launches; saying so keeps AppKit from warning about it.
 - (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)application {
     return YES;

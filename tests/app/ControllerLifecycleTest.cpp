@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "app/ControllerHarness.h"
 #include "core/app/AppMenus.h"
 #include "core/app/SettingsWindowTexts.h"
@@ -37,13 +39,15 @@ TEST_F(ControllerLifecycleTest, LaunchingBuildsConnectsAndShowsInOrder) {
                                "shell.setRegularActivationPolicy",
                                "shell.applyApplicationIcon",
                                "shell.buildMainMenu",
+                               "shell.addMainMenu",
+                               "shell.addMainMenu",
                                "shell.buildWindow",
                                "shell.createStatusItem",
                                "view.setStatusItem",
                                "shell.buildStatusMenu",
                                "sensor.start",
-                               "view.setStatusItem",
                                "workspace.observeWake",
+                               "workspace.observeShowRequests",
                                "shell.showWindow",
                                "workspace.activate",
                            }));
@@ -76,10 +80,11 @@ TEST_F(ControllerLifecycleTest, SecondCopyActivatesTheFirstAndEndsBeforeBuilding
     h.workspace.instances = {7, 31};
     h.c().applicationDidFinishLaunching();
 
-    EXPECT_EQ(h.log.calls,
-              (std::vector<std::string>{"workspace.instanceProcessIDs",
-                                        "workspace.activateApplication", "workspace.terminate"}));
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{
+                               "workspace.instanceProcessIDs", "workspace.activateApplication",
+                               "workspace.requestShow", "workspace.terminate"}));
     EXPECT_EQ(h.workspace.activated, (std::vector<std::int32_t>{31}));
+    EXPECT_EQ(h.workspace.showRequests, (std::vector<std::int32_t>{31}));
     EXPECT_TRUE(h.queue.intervals.empty());
 }
 
@@ -118,6 +123,67 @@ TEST_F(ControllerLifecycleTest, MenusOpenPauseAndQuit) {
                                       {"menu.feedback", MenuCommand::toggleMenuBarFeedback, ""},
                                       {"", MenuCommand::separator, ""},
                                       {"menu.exit", MenuCommand::quit, "q"}}));
+}
+
+TEST_F(ControllerLifecycleTest, MenuBarAddsTheStandardEditAndWindowMenusAfterTheApplicationMenu) {
+    h.c().applicationDidFinishLaunching();
+
+    ASSERT_EQ(h.shell.addedMenus.size(), 2U);
+    EXPECT_EQ(h.shell.addedMenus[0].first, "menu.edit");
+    EXPECT_EQ(h.shell.addedMenus[0].second,
+              (std::vector<MenuEntry>{{"menu.undo", MenuCommand::undo, "z"},
+                                      {"menu.redo", MenuCommand::redo, "Z"},
+                                      {"", MenuCommand::separator, ""},
+                                      {"menu.cut", MenuCommand::cut, "x"},
+                                      {"menu.copy", MenuCommand::copy, "c"},
+                                      {"menu.paste", MenuCommand::paste, "v"},
+                                      {"menu.select_all", MenuCommand::selectAll, "a"}}));
+    EXPECT_EQ(h.shell.addedMenus[1].first, "menu.window");
+    EXPECT_EQ(h.shell.addedMenus[1].second,
+              (std::vector<MenuEntry>{{"menu.close_window", MenuCommand::closeWindow, "w"}}));
+}
+
+TEST_F(ControllerLifecycleTest, AnotherCopysRequestShowsTheWindow) {
+    h.c().applicationDidFinishLaunching();
+    h.log.clear();
+    ASSERT_TRUE(h.workspace.showRequested);
+
+    h.workspace.showRequested();
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"shell.showWindow", "workspace.activate"}));
+}
+
+TEST_F(ControllerLifecycleTest, AShowRequestAfterTheControllerIsGoneDoesNothing) {
+    h.c().applicationDidFinishLaunching();
+    const std::function<void()> request = h.workspace.showRequested;
+    clearApplicationController();
+    h.controller.reset();
+    h.log.clear();
+
+    request();
+    EXPECT_TRUE(h.log.calls.empty());
+}
+
+TEST_F(ControllerLifecycleTest, ReopeningWithTheWindowClosedShowsIt) {
+    h.c().applicationDidFinishLaunching();
+    h.log.clear();
+
+    EXPECT_FALSE(h.c().applicationShouldHandleReopen(false));
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"shell.showWindow", "workspace.activate"}));
+}
+
+TEST_F(ControllerLifecycleTest, ReopeningWithTheWindowOnScreenLeavesItToTheSystem) {
+    h.c().applicationDidFinishLaunching();
+    h.log.clear();
+
+    EXPECT_TRUE(h.c().applicationShouldHandleReopen(true));
+    EXPECT_TRUE(h.log.calls.empty());
+}
+
+TEST_F(ControllerLifecycleTest, ASecondCopyAddsNoMenus) {
+    h.workspace.instances = {7, 31};
+    h.c().applicationDidFinishLaunching();
+
+    EXPECT_TRUE(h.shell.addedMenus.empty());
 }
 
 TEST_F(ControllerLifecycleTest, RefreshTimerRunsEveryFifthOfASecondWhileTheControllerLives) {
@@ -245,8 +311,9 @@ TEST_F(ControllerLifecycleTest, WakingPausesThenReconnects) {
     h.launchAndSwitchOn();
     h.c().woke();
 
-    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"tap.disable", "tap.disable", "sensor.start",
-                                                     "view.setStatusItem"}));
+    // The status item showed the switch off already: no refresh ran while it was on.
+    EXPECT_EQ(h.log.calls,
+              (std::vector<std::string>{"tap.disable", "tap.disable", "sensor.start"}));
     EXPECT_FALSE(h.view.enabled);
 }
 

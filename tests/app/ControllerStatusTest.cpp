@@ -61,6 +61,36 @@ TEST_F(ControllerStatusTest, SwitchedOnStatusItemShowsTheFilledSymbolAndActivePr
                                                         "Tactora · menu.active · Work"}));
 }
 
+TEST_F(ControllerStatusTest, StatusItemIsSetOnlyWhenItsAppearanceChanges) {
+    h.c().applicationDidFinishLaunching();
+    ASSERT_EQ(h.log.count("view.setStatusItem"), 1);
+
+    for (int tick = 0; tick < 25; ++tick) {
+        h.queue.advance(Controller::refreshInterval);
+    }
+    h.c().updateMenuIcon();
+    EXPECT_EQ(h.log.count("view.setStatusItem"), 1);
+}
+
+TEST_F(ControllerStatusTest, StatusItemIsSetAgainWhenTheSwitchOrTheProfileChanges) {
+    h.launchAndSwitchOn();
+    h.c().refresh();
+    h.c().refresh();
+    ASSERT_EQ(h.log.count("view.setStatusItem"), 1);
+    EXPECT_EQ(h.view.statusItem->symbolName, "computermouse.fill");
+
+    h.c().pause();
+    h.c().refresh();
+    EXPECT_EQ(h.log.count("view.setStatusItem"), 2);
+    EXPECT_EQ(h.view.statusItem->symbolName, "computermouse");
+
+    h.c().profiles().rename("Work");
+    h.c().refresh();
+    h.c().refresh();
+    EXPECT_EQ(h.log.count("view.setStatusItem"), 3);
+    EXPECT_EQ(h.view.statusItem->toolTip, "Tactora · menu.pause · Work");
+}
+
 TEST_F(ControllerStatusTest, StatusItemIsNotDrawnBeforeItExists) {
     h.c().refresh();
     EXPECT_FALSE(h.view.statusItem.has_value());

@@ -20,12 +20,13 @@ std::vector<KeyArgument> argumentsOf(std::string_view key) {
     return {entry->arguments().begin(), entry->arguments().end()};
 }
 
-TEST(LocalizationKeysTest, ListsSeventyThreeDistinctKeys) {
+TEST(LocalizationKeysTest, ListsDistinctKeysBeyondTheSixtyNineOfTheWindowAndMenus) {
     std::set<std::string_view> keys;
     for (const LocalizationKey& key : localizationKeys) {
         keys.insert(key.key());
     }
-    EXPECT_EQ(keys.size(), 73U);
+    EXPECT_EQ(keys.size(), localizationKeys.size());
+    EXPECT_GE(keys.size(), 69U);
 }
 
 TEST(LocalizationKeysTest, KeysAreDottedLowerCaseAscii) {

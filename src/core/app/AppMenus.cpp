@@ -21,4 +21,30 @@ std::vector<MenuEntry> statusMenuItems(bool menuBarFeedback) {
     };
 }
 
+std::string editMenuTitle() {
+    return L("menu.edit");
+}
+
+std::vector<MenuEntry> editMenuItems() {
+    return {
+        {L("menu.undo"), MenuCommand::undo, "z"},
+        {L("menu.redo"), MenuCommand::redo, "Z"},
+        {"", MenuCommand::separator, ""},
+        {L("menu.cut"), MenuCommand::cut, "x"},
+        {L("menu.copy"), MenuCommand::copy, "c"},
+        {L("menu.paste"), MenuCommand::paste, "v"},
+        {L("menu.select_all"), MenuCommand::selectAll, "a"},
+    };
+}
+
+std::string windowMenuTitle() {
+    return L("menu.window");
+}
+
+std::vector<MenuEntry> windowMenuItems() {
+    return {
+        {L("menu.close_window"), MenuCommand::closeWindow, "w"},
+    };
+}
+
 }  // namespace tactora

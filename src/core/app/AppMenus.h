@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "core/platform/MenuEntry.h"
@@ -12,5 +13,14 @@ std::vector<MenuEntry> mainMenuItems();
 // The status item's menu: open the settings, pause, show gestures in the menu bar (checked
 // when `menuBarFeedback` is on), a separator, exit (⌘Q).
 std::vector<MenuEntry> statusMenuItems(bool menuBarFeedback);
+
+// The menu bar's Edit menu, so that text fields take the usual keys: Undo (⌘Z), Redo (⇧⌘Z), a
+// separator, Cut (⌘X), Copy (⌘C), Paste (⌘V), Select All (⌘A).
+std::string editMenuTitle();
+std::vector<MenuEntry> editMenuItems();
+
+// The menu bar's Window menu: Close Window (⌘W).
+std::string windowMenuTitle();
+std::vector<MenuEntry> windowMenuItems();
 
 }  // namespace tactora

@@ -24,6 +24,7 @@
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/MouseButton.h"
+#include "core/platform/StatusItemAppearance.h"
 #include "core/platform/TapEvent.h"
 #include "core/profiles/ProfileStore.h"
 #include "core/profiles/SavedShortcut.h"
@@ -71,15 +72,20 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     // --- Lifecycle: the application delegate and the menus ---------------------------------
 
-    // Start-up: a second instance activates the first and terminates; otherwise builds the
-    // menus, the window and the status item, connects the sensor, starts the refresh timer,
-    // watches for wake and shows the window. Gestures stay off until the user switches them on.
+    // Start-up: a second instance activates the first, asks it to show its window and
+    // terminates; otherwise builds the menus, the window and the status item, connects the
+    // sensor, starts the refresh timer, watches for wake and for other copies' requests to
+    // show the window, and shows the window. Gestures stay off until the user switches them on.
     void applicationDidFinishLaunching();
     // Both drop pending gesture actions, let go of held presses and reset the recogniser.
     void applicationDidBecomeActive();
     void applicationDidResignActive();
     // Pauses, then stops the sensor.
     void applicationWillTerminate();
+    // The Dock icon was clicked (or the application opened again) while it runs. With no
+    // window on screen it shows the settings window and returns false: nothing is left for
+    // AppKit to do. Otherwise it returns true, leaving AppKit's usual handling.
+    bool applicationShouldHandleReopen(bool hasVisibleWindows);
 
     // Brings the settings window to the front and activates the application.
     void show();
@@ -100,8 +106,9 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // The system woke from sleep: pause, then reconnect.
     void woke();
 
-    // The sensor's frame callback, on the sensor's thread: copies the frame and posts it to the
-    // main queue, through applicationController(). A negative count stops the program.
+    // The sensor's frame callback, on the sensor's thread: copies the frame into fixed storage
+    // and hands it to the main queue by value, where the application controller of the moment
+    // receives it. Allocates nothing itself. A negative count stops the program.
     static void frameCallback(std::int32_t count, const std::int32_t* ids, const float* xs,
                               const float* ys);
 
@@ -113,6 +120,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     // Rewrites the permission line and the live line, then the status item.
     void refresh();
+    // Redraws the status item, but only when its image, title or tooltip would change.
     void updateMenuIcon();
 
     // --- Dispatch guard ----------------------------------------------------------------------
@@ -196,7 +204,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     bool menuBarFeedbackOn() const { return feedback_.isOn(); }
 
   private:
-    void deliver(const ContactFrame& frame);
+    static void receiveFrame(const ContactFrame& frame);
     void receive(const ContactFrame& frame);
     void scheduleTap(std::int64_t fingers, ActionIndex action,
                      const std::optional<SavedShortcut>& shortcut,
@@ -219,6 +227,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void createStatusItem();
     void startRefreshTimer();
     void observeWake();
+    void observeShowRequests();
     void dropPendingWork();
 
     void noteGesture(GestureKind kind, std::int64_t fingers, double at);
@@ -248,6 +257,8 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     bool windowBuilt_ = false;
     bool statusItemCreated_ = false;
+    // What the status item shows now, so that an unchanged look is not pushed again.
+    std::optional<StatusItemAppearance> shownAppearance_;
     std::vector<Finger> frameFingers_;  // reused for every frame, so frames allocate nothing
 
     TouchSurface surface_;

@@ -18,6 +18,8 @@ void Controller::applicationDidFinishLaunching() {
     services_.shell.setRegularActivationPolicy();
     services_.shell.applyApplicationIcon();
     services_.shell.buildMainMenu(mainMenuItems());
+    services_.shell.addMainMenu(editMenuTitle(), editMenuItems());
+    services_.shell.addMainMenu(windowMenuTitle(), windowMenuItems());
     buildWindow();
     createStatusItem();
     updateMenuIcon();
@@ -25,6 +27,7 @@ void Controller::applicationDidFinishLaunching() {
     reconnect();
     startRefreshTimer();
     observeWake();
+    observeShowRequests();
     show();
 }
 
@@ -39,6 +42,14 @@ void Controller::applicationDidResignActive() {
 void Controller::applicationWillTerminate() {
     pause();
     services_.sensor.stop();
+}
+
+bool Controller::applicationShouldHandleReopen(bool hasVisibleWindows) {
+    if (hasVisibleWindows) {
+        return true;
+    }
+    show();
+    return false;
 }
 
 void Controller::show() {
@@ -94,6 +105,9 @@ bool Controller::activateOtherInstance() {
         return false;
     }
     services_.workspace.activateApplication(*other);
+    // From macOS 14 on the system may not hand the first copy the activation; it can still
+    // bring its own window forward when asked.
+    services_.workspace.requestShow(*other);
     return true;
 }
 
@@ -125,6 +139,14 @@ void Controller::observeWake() {
     services_.workspace.observeWake([weak = weak_from_this()] {
         if (const auto self = weak.lock()) {
             self->woke();
+        }
+    });
+}
+
+void Controller::observeShowRequests() {
+    services_.workspace.observeShowRequests([weak = weak_from_this()] {
+        if (const auto self = weak.lock()) {
+            self->show();
         }
     });
 }

@@ -37,16 +37,15 @@ void Controller::frameCallback(std::int32_t count, const std::int32_t* ids, cons
         std::copy_n(ys, frame.count, frame.ys.begin());
     }
     if (Controller* controller = applicationController()) {
-        controller->deliver(frame);
+        controller->services_.queue.asyncFrame(frame, &Controller::receiveFrame);
     }
 }
 
-void Controller::deliver(const ContactFrame& frame) {
-    services_.queue.async([weak = weak_from_this(), frame] {
-        if (const auto self = weak.lock()) {
-            self->receive(frame);
-        }
-    });
+// The application controller of the moment takes the frame; once it is cleared, nobody does.
+void Controller::receiveFrame(const ContactFrame& frame) {
+    if (Controller* controller = applicationController()) {
+        controller->receive(frame);
+    }
 }
 
 void Controller::receive(const ContactFrame& frame) {

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "core/app/Controller.h"
 #include "core/localization/Localizer.h"
 
@@ -32,13 +34,19 @@ void Controller::updateMenuIcon() {
         return;
     }
     const bool on = services_.view.isEnabledOn();
-    services_.view.setStatusItem({
+    StatusItemAppearance appearance{
         .symbolName = on ? "computermouse.fill" : "computermouse",
         .accessibilityDescription = "Tactora",
         .toolTip =
             "Tactora · " + L(on ? "menu.active" : "menu.pause") + " · " + profiles().current().name,
         .title = feedback_.title(services_.clock.uptime()),
-    });
+    };
+    // The refresh timer calls this five times a second; the status bar redraws only on change.
+    if (appearance == shownAppearance_) {
+        return;
+    }
+    services_.view.setStatusItem(appearance);
+    shownAppearance_ = std::move(appearance);
 }
 
 }  // namespace tactora

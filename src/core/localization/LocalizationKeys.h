@@ -12,7 +12,7 @@ namespace tactora {
 // Every key the program looks up through L, with the arguments its callers pass, in order.
 // Each table must hold exactly these keys, and each text exactly the conversions its shown
 // arguments need (LocalizationAudit checks it).
-inline constexpr std::array<LocalizationKey, 73> localizationKeys = {
+inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     // The action catalogue, in index order.
     LocalizationKey("action.default"),
     LocalizationKey("action.left"),
@@ -53,6 +53,16 @@ inline constexpr std::array<LocalizationKey, 73> localizationKeys = {
     LocalizationKey("menu.quit"),
     LocalizationKey("menu.active"),
     LocalizationKey("menu.feedback"),
+    // The standard Edit and Window menus of the menu bar.
+    LocalizationKey("menu.edit"),
+    LocalizationKey("menu.undo"),
+    LocalizationKey("menu.redo"),
+    LocalizationKey("menu.cut"),
+    LocalizationKey("menu.copy"),
+    LocalizationKey("menu.paste"),
+    LocalizationKey("menu.select_all"),
+    LocalizationKey("menu.window"),
+    LocalizationKey("menu.close_window"),
     // Sensor states: each gets the bridge's error code, which only a failed start shows.
     LocalizationKey("sensor.not_started", {unshownIntegerArgument}),
     LocalizationKey("sensor.connected", {unshownIntegerArgument}),
@@ -99,7 +109,7 @@ inline constexpr std::array<LocalizationKey, 73> localizationKeys = {
     LocalizationKey("key.delete"),
     LocalizationKey("key.escape"),
     LocalizationKey("key.forwarddelete"),
-};
+});
 
 // The entry for `key`, or nothing when the program never looks it up.
 constexpr std::optional<LocalizationKey> findLocalizationKey(std::string_view key) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "core/platform/MenuEntry.h"
@@ -22,6 +23,9 @@ class AppShell {
 
     // Installs the main menu: one item whose submenu holds `items`.
     virtual void buildMainMenu(const std::vector<MenuEntry>& items) = 0;
+
+    // Adds a menu titled `title` holding `items` to the menu bar, after the menus already there.
+    virtual void addMainMenu(const std::string& title, const std::vector<MenuEntry>& items) = 0;
 
     // Builds the settings window around the controls of SettingsView, showing `texts` and
     // nothing else of its own: one gesture row per texts.gestureRows entry, whose pop-up holds

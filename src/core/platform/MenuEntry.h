@@ -4,18 +4,26 @@
 
 namespace tactora {
 
-// What choosing a menu item does; the shell sends it to the controller operation of the same
-// name (show(), pause(), quit(), toggleMenuBarFeedback()).
+// What choosing a menu item does. The shell sends show, pause, quit and toggleMenuBarFeedback to
+// the controller operation of the same name; the editing and window commands go, as the
+// system's standard actions, to whatever control or window has the keyboard focus.
 enum class MenuCommand {
     show,
     pause,
     quit,
     toggleMenuBarFeedback,
     separator,  // not an item: a separator line
+    undo,
+    redo,
+    cut,
+    copy,
+    paste,
+    selectAll,
+    closeWindow,
 };
 
-// One item of a menu that the controller describes and the shell builds. The controller is
-// every item's target.
+// One item of a menu that the controller describes and the shell builds. A key equivalent is
+// pressed with Command; an upper-case letter adds Shift.
 struct MenuEntry {
     std::string title;
     MenuCommand command = MenuCommand::separator;

@@ -28,7 +28,16 @@ class Workspace {
     virtual std::int32_t ownProcessID() const = 0;
 
     // Activates the running application with this process id, ignoring other applications.
+    // Does nothing when it has quit in the meantime.
     virtual void activateApplication(std::int32_t processID) = 0;
+
+    // Asks the running copy of this application with this process id to show its settings
+    // window, for when the system will not hand it the activation. Posted, not waited for.
+    virtual void requestShow(std::int32_t processID) = 0;
+
+    // Calls `handler` on the main thread each time another copy asks this one to show itself,
+    // for the rest of the process. Called once.
+    virtual void observeShowRequests(std::function<void()> handler) = 0;
 
     // Activates this application, ignoring other applications.
     virtual void activate() = 0;

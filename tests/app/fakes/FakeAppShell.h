@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "app/fakes/CallLog.h"
@@ -19,6 +21,10 @@ class FakeAppShell final : public AppShell {
         log_.add("shell.buildMainMenu");
         mainMenu = items;
     }
+    void addMainMenu(const std::string& title, const std::vector<MenuEntry>& items) override {
+        log_.add("shell.addMainMenu");
+        addedMenus.emplace_back(title, items);
+    }
     void buildWindow(const SettingsWindowTexts& texts) override {
         log_.add("shell.buildWindow");
         window = texts;
@@ -31,6 +37,7 @@ class FakeAppShell final : public AppShell {
     void showWindow() override { log_.add("shell.showWindow"); }
 
     std::vector<MenuEntry> mainMenu;
+    std::vector<std::pair<std::string, std::vector<MenuEntry>>> addedMenus;
     std::vector<MenuEntry> statusMenu;
     std::optional<SettingsWindowTexts> window;
 

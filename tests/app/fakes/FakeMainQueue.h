@@ -12,12 +12,17 @@
 namespace tactora::testing {
 
 // A main queue on virtual time: nothing runs until the test calls runReady() or advance().
-// Items run in the order they fall due, ties in the order they were given.
+// Items run in the order they fall due, ties in the order they were given. Frames are kept by
+// value in the queue's own reserved storage, so handing one over allocates nothing here.
 class FakeMainQueue final : public MainQueue {
   public:
     explicit FakeMainQueue(FakeClock& clock) : clock_(clock) { items_.reserve(64); }
 
     void async(std::function<void()> work) override { add(clock_.now, std::move(work), 0); }
+
+    void asyncFrame(const ContactFrame& frame, FrameReceiver receive) override {
+        items_.push_back({clock_.now, nextSequence_++, {}, 0, frame, receive});
+    }
 
     void after(double seconds, std::function<void()> work) override {
         delays.push_back(seconds);
@@ -51,10 +56,12 @@ class FakeMainQueue final : public MainQueue {
         std::uint64_t sequence = 0;
         std::function<void()> work;
         double interval = 0;
+        ContactFrame frame;
+        FrameReceiver receive = nullptr;
     };
 
     void add(double due, std::function<void()> work, double interval) {
-        items_.push_back({due, nextSequence_++, std::move(work), interval});
+        items_.push_back({due, nextSequence_++, std::move(work), interval, {}, nullptr});
     }
 
     bool runNextDueBy(double target) {
@@ -71,7 +78,11 @@ class FakeMainQueue final : public MainQueue {
         if (item.interval > 0) {
             add(item.due + item.interval, item.work, item.interval);
         }
-        item.work();
+        if (item.receive != nullptr) {
+            item.receive(item.frame);
+        } else {
+            item.work();
+        }
         return true;
     }
 

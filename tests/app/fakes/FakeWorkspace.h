@@ -27,6 +27,14 @@ class FakeWorkspace final : public Workspace {
         log_.add("workspace.activateApplication");
         activated.push_back(processID);
     }
+    void requestShow(std::int32_t processID) override {
+        log_.add("workspace.requestShow");
+        showRequests.push_back(processID);
+    }
+    void observeShowRequests(std::function<void()> handler) override {
+        log_.add("workspace.observeShowRequests");
+        showRequested = std::move(handler);
+    }
     void activate() override { log_.add("workspace.activate"); }
     void openURL(const std::string& url) override {
         log_.add("workspace.openURL");
@@ -45,6 +53,8 @@ class FakeWorkspace final : public Workspace {
     std::vector<std::int32_t> activated;
     std::vector<std::string> openedURLs;
     std::function<void()> wake;
+    std::vector<std::int32_t> showRequests;
+    std::function<void()> showRequested;
 
   private:
     CallLog& log_;

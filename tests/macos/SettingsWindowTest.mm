@@ -1,0 +1,180 @@
+// The settings window as the shell builds it, in every language the bundle ships: its size, the
+// column's insets, no control outside the column, no text cut off, and the rows in order.
+#import <AppKit/AppKit.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/app/Globals.h"
+#include "core/app/SettingsWindowTexts.h"
+#include "core/localization/Localizer.h"
+#include "core/localization/StringsTable.h"
+#include "macos/AppBundle.h"
+#include "macos/SettingsWindowBuilder.h"
+#include "macos/StringConversion.h"
+#import "macos/TAApplicationDelegate.h"
+#import "macos/TASettingsControls.h"
+
+namespace tactora::testing {
+namespace {
+
+constexpr CGFloat width = 790;
+constexpr CGFloat height = 820;
+constexpr CGFloat margin = 28;
+constexpr CGFloat top = 24;
+// Layout rounds to backing pixels.
+constexpr CGFloat slack = 1;
+
+// The language's table as Foundation reads it, installed for L.
+void installTable(const std::string& language) {
+    NSDictionary* texts = [NSDictionary dictionaryWithContentsOfFile:stringTablePath(language)];
+    StringsTable::Entries entries;
+    for (NSString* key in texts) {
+        if ([texts[key] isKindOfClass:NSString.class]) {
+            entries.emplace(macos::toStdString(key), macos::toStdString(texts[key]));
+        }
+    }
+    setStringTable(std::make_shared<const StringsTable>(std::move(entries)));
+    initializeGlobals();
+}
+
+// The longest of the texts the status line shows.
+std::string longestStatus() {
+    std::vector<std::string> lines = {L("sensor.missing"), L("error.enable"), L("error.paused"),
+                                      L("shortcut.missing"), L("sensor.blocked", -536870212)};
+    return *std::ranges::max_element(lines, {}, &std::string::size);
+}
+
+std::vector<NSView*> allSubviews(NSView* view) {
+    std::vector<NSView*> found;
+    for (NSView* subview in view.subviews) {
+        found.push_back(subview);
+        const std::vector<NSView*> below = allSubviews(subview);
+        found.insert(found.end(), below.begin(), below.end());
+    }
+    return found;
+}
+
+class SettingsWindowTest : public ::testing::TestWithParam<std::string> {
+  protected:
+    void SetUp() override {
+        installTable(GetParam());
+        const SettingsWindowTexts texts = settingsWindowTexts();
+        controls_ = [[TASettingsControls alloc] initWithEnableTitle:@(texts.enableSwitch.c_str())];
+        // Texts as long as the lines ever get, set before the window is built as at launch.
+        controls_.status.stringValue = @(longestStatus().c_str());
+        controls_.permission.stringValue = @(L("permissions", L("pending"), L("pending")).c_str());
+        controls_.live.stringValue =
+            @(L("live", 4, L("gesture.click", 4), L("action.forward")).c_str());
+        window_ = macos::SettingsWindowBuilder(controls_, target_).build(texts);
+        [window_.contentView layoutSubtreeIfNeeded];
+    }
+
+    void TearDown() override {
+        [window_ close];
+        setStringTable(nullptr);
+    }
+
+    NSView* content() const { return window_.contentView; }
+    NSStackView* column() const {
+        return static_cast<NSStackView*>(content().subviews.firstObject);
+    }
+
+    NSRect inContent(NSView* view) const {
+        return [view.superview convertRect:view.frame toView:content()];
+    }
+
+    std::size_t rowOf(NSView* view) const {
+        NSArray<NSView*>* rows = column().arrangedSubviews;
+        while (view != nil && ![rows containsObject:view]) {
+            view = view.superview;
+        }
+        return view == nil ? rows.count : [rows indexOfObject:view];
+    }
+
+    TASettingsControls* controls_ = nil;
+    TAApplicationDelegate* target_ = [[TAApplicationDelegate alloc] init];
+    NSWindow* window_ = nil;
+};
+
+TEST_P(SettingsWindowTest, KeepsItsSize) {
+    const NSRect contentRect = [window_ contentRectForFrameRect:window_.frame];
+    EXPECT_EQ(contentRect.size.width, width);
+    EXPECT_EQ(contentRect.size.height, height);
+    EXPECT_EQ(content().frame.size.width, width);
+    EXPECT_EQ(content().frame.size.height, height);
+}
+
+TEST_P(SettingsWindowTest, ColumnKeepsItsInsets) {
+    ASSERT_TRUE([column() isKindOfClass:NSStackView.class]);
+    const NSRect frame = inContent(column());
+    EXPECT_NEAR(NSMinX(frame), margin, slack);
+    EXPECT_NEAR(NSMaxX(frame), width - margin, slack);
+    // The content view is not flipped: its top is at maxY.
+    EXPECT_NEAR(height - NSMaxY(frame), top, slack);
+}
+
+TEST_P(SettingsWindowTest, NoViewLeavesTheColumnOrTheWindow) {
+    for (NSView* view : allSubviews(column())) {
+        const NSRect frame = inContent(view);
+        EXPECT_GE(NSMinX(frame), margin - slack) << view.description.UTF8String;
+        EXPECT_LE(NSMaxX(frame), width - margin + slack) << view.description.UTF8String;
+        EXPECT_GE(NSMinY(frame), -slack) << view.description.UTF8String;
+        EXPECT_LE(NSMaxY(frame), height + slack) << view.description.UTF8String;
+    }
+}
+
+TEST_P(SettingsWindowTest, EveryLabelShowsAllOfItsText) {
+    for (NSView* view : allSubviews(column())) {
+        if (![view isKindOfClass:NSTextField.class]) {
+            continue;
+        }
+        NSTextField* label = static_cast<NSTextField*>(view);
+        const NSSize needed =
+            [label.cell cellSizeForBounds:NSMakeRect(0, 0, label.frame.size.width, CGFLOAT_MAX)];
+        EXPECT_LE(needed.height, label.frame.size.height + slack) << label.stringValue.UTF8String;
+        EXPECT_LE(needed.width, label.frame.size.width + slack) << label.stringValue.UTF8String;
+    }
+}
+
+TEST_P(SettingsWindowTest, RowsComeInOrder) {
+    const std::vector<std::size_t> order = {
+        rowOf(controls_.status),  rowOf(controls_.permission),     rowOf(controls_.profileMenu),
+        rowOf(controls_.enabled), rowOf(controls_.actionMenus[0]), rowOf(controls_.actionMenus[7]),
+        rowOf(controls_.live)};
+    EXPECT_TRUE(std::ranges::is_sorted(order));
+    EXPECT_EQ(std::ranges::adjacent_find(order), order.end());
+    EXPECT_LT(order.back(), column().arrangedSubviews.count);
+}
+
+TEST_P(SettingsWindowTest, GestureRowsHoldTheirSlotsInOrder) {
+    ASSERT_EQ(controls_.actionMenus.count, 8U);
+    ASSERT_EQ(controls_.recordButtons.count, 8U);
+    for (NSUInteger slot = 0; slot < 8; ++slot) {
+        NSPopUpButton* menu = controls_.actionMenus[slot];
+        NSButton* record = controls_.recordButtons[slot];
+        EXPECT_EQ(menu.tag, static_cast<NSInteger>(slot));
+        EXPECT_EQ(record.tag, static_cast<NSInteger>(slot));
+        EXPECT_EQ(rowOf(menu), rowOf(record));
+        EXPECT_EQ(menu.numberOfItems, static_cast<NSInteger>(choices().size()));
+        if (slot > 0) {
+            EXPECT_LT(rowOf(controls_.actionMenus[slot - 1]), rowOf(menu));
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(ShippedLanguages, SettingsWindowTest,
+                         ::testing::ValuesIn(shippedLanguages()),
+                         [](const ::testing::TestParamInfo<std::string>& info) {
+                             std::string name = info.param;
+                             std::ranges::replace(name, '-', '_');
+                             return name;
+                         });
+
+}  // namespace
+}  // namespace tactora::testing
