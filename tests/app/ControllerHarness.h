@@ -14,6 +14,7 @@
 #include "app/fakes/FakeEventTap.h"
 #include "app/fakes/FakeMainQueue.h"
 #include "app/fakes/FakePermissions.h"
+#include "app/fakes/FakeProfileFiles.h"
 #include "app/fakes/FakeSensor.h"
 #include "app/fakes/FakeSettingsView.h"
 #include "app/fakes/FakeTapEvent.h"
@@ -45,6 +46,9 @@ inline std::shared_ptr<const StringsTable> testTable() {
         {"action.mission", "Mission Control"},
         {"action.desktop", "Show Desktop"},
         {"profile.default", "Default"},
+        {"profile.automatic", "%@ (for %@)"},
+        {"profile.delete.message", "delete %@"},
+        {"apps.title", "apps of %@"},
     });
 }
 
@@ -56,7 +60,7 @@ class ControllerHarness {
         setStringTable(testTable());
         initializeGlobals();
         controller = Controller::create({clock, queue, workspace, permissions, poster, eventTap,
-                                         sensor, shell, view, dialogs, defaults});
+                                         sensor, shell, view, dialogs, defaults, files});
         setApplicationController(controller);
     }
     ~ControllerHarness() {
@@ -127,6 +131,7 @@ class ControllerHarness {
     FakeSettingsView view{log};
     FakeDialogs dialogs{log};
     std::shared_ptr<MemoryPreferences> defaults = std::make_shared<MemoryPreferences>();
+    FakeProfileFiles files{log};
     std::shared_ptr<Controller> controller;
 };
 

@@ -44,6 +44,7 @@ TEST_F(ControllerLifecycleTest, LaunchingBuildsConnectsAndShowsInOrder) {
                                "sensor.start",
                                "view.setStatusItem",
                                "workspace.observeWake",
+                               "workspace.observeFrontmostApplication",
                                "shell.showWindow",
                                "workspace.activate",
                            }));

@@ -20,12 +20,12 @@ std::vector<KeyArgument> argumentsOf(std::string_view key) {
     return {entry->arguments().begin(), entry->arguments().end()};
 }
 
-TEST(LocalizationKeysTest, ListsSixtyNineDistinctKeys) {
+TEST(LocalizationKeysTest, ListsOneHundredAndOneDistinctKeys) {
     std::set<std::string_view> keys;
     for (const LocalizationKey& key : localizationKeys) {
         keys.insert(key.key());
     }
-    EXPECT_EQ(keys.size(), 69U);
+    EXPECT_EQ(keys.size(), 101U);
 }
 
 TEST(LocalizationKeysTest, KeysAreDottedLowerCaseAscii) {
@@ -49,10 +49,14 @@ TEST(LocalizationKeysTest, KeysWithArgumentsTakeThemInOrder) {
     EXPECT_EQ(argumentsOf("error.action"), (std::vector{stringArgument, integerArgument}));
     EXPECT_EQ(argumentsOf("live"), (std::vector{integerArgument, stringArgument, stringArgument}));
     EXPECT_EQ(argumentsOf("permissions"), (std::vector{stringArgument, stringArgument}));
-    for (const std::string_view key :
-         {"action.failed", "gesture.tap", "gesture.click", "finger.many"}) {
+    for (const std::string_view key : {"action.failed", "gesture.tap", "gesture.click",
+                                       "finger.many", "export.done", "import.done"}) {
         EXPECT_EQ(argumentsOf(key), std::vector{integerArgument}) << key;
     }
+    for (const std::string_view key : {"profile.delete.message", "apps.title"}) {
+        EXPECT_EQ(argumentsOf(key), std::vector{stringArgument}) << key;
+    }
+    EXPECT_EQ(argumentsOf("profile.automatic"), (std::vector{stringArgument, stringArgument}));
 }
 
 TEST(LocalizationKeysTest, OnlyTheBlockedSensorShowsItsErrorCode) {
@@ -63,12 +67,12 @@ TEST(LocalizationKeysTest, OnlyTheBlockedSensorShowsItsErrorCode) {
     }
 }
 
-TEST(LocalizationKeysTest, ThirteenKeysTakeArgumentsAndTheRestNone) {
+TEST(LocalizationKeysTest, EighteenKeysTakeArgumentsAndTheRestNone) {
     std::size_t withArguments = 0;
     for (const LocalizationKey& key : localizationKeys) {
         withArguments += key.arguments().empty() ? 0 : 1;
     }
-    EXPECT_EQ(withArguments, 13U);
+    EXPECT_EQ(withArguments, 18U);
 }
 
 TEST(LocalizationKeysTest, UnknownKeyHasNoEntry) {

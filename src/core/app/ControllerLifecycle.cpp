@@ -25,6 +25,9 @@ void Controller::applicationDidFinishLaunching() {
     reconnect();
     startRefreshTimer();
     observeWake();
+    observeFrontmostApplication();
+    frontmostApplicationChanged(services_.workspace.frontmostProcessID(),
+                                services_.workspace.frontmostBundleID());
     show();
 }
 

@@ -9,6 +9,7 @@
 #include "core/platform/EventTap.h"
 #include "core/platform/MainQueue.h"
 #include "core/platform/Permissions.h"
+#include "core/platform/ProfileFiles.h"
 #include "core/platform/Sensor.h"
 #include "core/platform/SettingsView.h"
 #include "core/platform/Workspace.h"
@@ -31,6 +32,8 @@ struct ControllerServices {
     Dialogs& dialogs;
     // The domain the work profiles are kept in (the standard user defaults).
     std::shared_ptr<Preferences> defaults;
+    // Where profiles are exported to and imported from.
+    ProfileFiles& files;
 };
 
 }  // namespace tactora

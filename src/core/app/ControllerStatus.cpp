@@ -30,7 +30,7 @@ void Controller::updateMenuIcon() {
         .symbolName = on ? "computermouse.fill" : "computermouse",
         .accessibilityDescription = "Tactora",
         .toolTip =
-            "Tactora · " + L(on ? "menu.active" : "menu.pause") + " · " + profiles().current().name,
+            "Tactora · " + L(on ? "menu.active" : "menu.pause") + " · " + activeProfileTitle(),
     });
 }
 

@@ -12,7 +12,7 @@ namespace tactora {
 // Every key the program looks up through L, with the arguments its callers pass, in order.
 // Each table must hold exactly these keys, and each text exactly the conversions its shown
 // arguments need (LocalizationAudit checks it).
-inline constexpr std::array<LocalizationKey, 69> localizationKeys = {
+inline constexpr std::array<LocalizationKey, 101> localizationKeys = {
     // The action catalogue, in index order.
     LocalizationKey("action.default"),
     LocalizationKey("action.left"),
@@ -86,6 +86,42 @@ inline constexpr std::array<LocalizationKey, 69> localizationKeys = {
     LocalizationKey("profile.name"),
     LocalizationKey("profile.save"),
     LocalizationKey("cancel"),
+    // The profile actions, deleting a profile, and profiles chosen by the application in front
+    // (the profile's name, then the application's).
+    LocalizationKey("profile.actions"),
+    LocalizationKey("profile.applications"),
+    LocalizationKey("profile.delete"),
+    LocalizationKey("profile.delete.message", {stringArgument}),
+    LocalizationKey("profile.delete.info"),
+    LocalizationKey("profile.delete.button"),
+    LocalizationKey("profile.automatic", {stringArgument, stringArgument}),
+    // The applications sheet; its title gets the profile's name.
+    LocalizationKey("apps.title", {stringArgument}),
+    LocalizationKey("apps.info"),
+    LocalizationKey("apps.column.name"),
+    LocalizationKey("apps.column.id"),
+    LocalizationKey("apps.add"),
+    LocalizationKey("apps.remove"),
+    LocalizationKey("apps.choose"),
+    LocalizationKey("apps.choose.message"),
+    LocalizationKey("apps.done"),
+    // Exporting and importing profiles; the done lines get the number of profiles.
+    LocalizationKey("export.menu"),
+    LocalizationKey("export.file"),
+    LocalizationKey("export.message"),
+    LocalizationKey("export.failed"),
+    LocalizationKey("export.write"),
+    LocalizationKey("export.done", {integerArgument}),
+    LocalizationKey("import.menu"),
+    LocalizationKey("import.message"),
+    LocalizationKey("import.failed"),
+    LocalizationKey("import.unreadable"),
+    LocalizationKey("import.large"),
+    LocalizationKey("import.json"),
+    LocalizationKey("import.shape"),
+    LocalizationKey("import.empty"),
+    LocalizationKey("import.duplicates"),
+    LocalizationKey("import.done", {integerArgument}),
     // Key names in shortcut labels.
     LocalizationKey("key.space"),
     LocalizationKey("key.return"),
