@@ -31,6 +31,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
           .view = view_,
           .dialogs = dialogs_,
           .defaults = std::move(defaults),
+          .files = files_,
       })) {
     [delegate_ attachController:controller_];
 }

@@ -2,6 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
+#import "macos/TAApplicationsSheet.h"
+
 NS_ASSUME_NONNULL_BEGIN
 
 // The controls that the controller keeps up to date. The lines, the master switch and the
@@ -14,6 +16,10 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nonatomic, readonly) NSTextField* live;
 @property(nonatomic, readonly) NSButton* enabled;
 @property(nonatomic, readonly) NSPopUpButton* profileMenu;
+// The profile actions pull-down's delete item, which exists (untitled, outside any menu) before
+// the window places it, so that its enabled state can be set from the start.
+@property(nonatomic, readonly) NSMenuItem* deleteProfileItem;
+@property(nonatomic, readonly) TAApplicationsSheet* applicationsSheet;
 // One per gesture slot, in slot order.
 @property(nonatomic, readonly) NSMutableArray<NSPopUpButton*>* actionMenus;
 @property(nonatomic, readonly) NSMutableArray<NSButton*>* recordButtons;
