@@ -272,6 +272,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     bool recording_ = false;
     std::int64_t actionGeneration_ = 0;
     std::string frontmostBundleID_;
+    std::string frontmostName_;          // what the user calls that application
     std::optional<Uuid> editedProfile_;  // the applications sheet's profile while it is open
 
     bool windowBuilt_ = false;

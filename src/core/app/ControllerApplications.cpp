@@ -13,6 +13,9 @@ void Controller::frontmostApplicationChanged(std::optional<std::int32_t> process
         return;
     }
     frontmostBundleID_ = processID ? std::move(bundleID) : std::string();
+    // Looked up once here rather than on every redraw of the status item.
+    frontmostName_ =
+        frontmostBundleID_.empty() ? std::string() : applicationName(frontmostBundleID_);
     followFrontmost();
 }
 
@@ -38,7 +41,7 @@ std::string Controller::activeProfileTitle() {
     if (!profileFollowsApplication()) {
         return name;
     }
-    return L("profile.automatic", name, applicationName(frontmostBundleID_));
+    return L("profile.automatic", name, frontmostName_);
 }
 
 std::string Controller::applicationName(const std::string& bundleID) const {
