@@ -70,4 +70,23 @@ std::optional<std::string> AppKitDialogs::runNamingDialog(const NamingDialogText
     return toStdString(field.stringValue);
 }
 
+bool AppKitDialogs::runConfirmation(const ConfirmationTexts& texts) {
+    NSAlert* alert = makeAlert(texts.message, texts.informative);
+    alert.alertStyle = NSAlertStyleWarning;
+    NSButton* confirm = [alert addButtonWithTitle:toNSString(texts.confirmButton)];
+    confirm.hasDestructiveAction = YES;
+    // Return answers Cancel: a destructive step takes a deliberate click.
+    confirm.keyEquivalent = @"";
+    NSButton* cancel = [alert addButtonWithTitle:toNSString(texts.cancelButton)];
+    cancel.keyEquivalent = @"\r";
+    return [alert runModal] == NSAlertFirstButtonReturn;
+}
+
+void AppKitDialogs::showMessage(const MessageTexts& texts) {
+    NSAlert* alert = makeAlert(texts.message, texts.informative);
+    alert.alertStyle = NSAlertStyleWarning;
+    // With no button added, the alert has the system's own OK button.
+    [alert runModal];
+}
+
 }  // namespace tactora::macos

@@ -26,6 +26,8 @@ class AppKitSettingsView final : public SettingsView {
     void setProfileItems(const std::vector<ProfileMenuItem>& items) override;
     void selectProfileItem(std::size_t index) override;
     std::optional<std::string> selectedProfileID() const override;
+    void setDeleteProfileEnabled(bool enabled) override;
+    void showApplications(const ApplicationsSheet& sheet) override;
 
     void selectAction(std::size_t slot, std::int64_t action) override;
     std::int64_t selectedAction(std::size_t slot) const override;

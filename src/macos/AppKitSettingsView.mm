@@ -50,6 +50,16 @@ std::optional<std::string> AppKitSettingsView::selectedProfileID() const {
     return toStdString(represented);
 }
 
+void AppKitSettingsView::setDeleteProfileEnabled(bool enabled) {
+    controls_.deleteProfileItem.enabled = enabled;
+}
+
+void AppKitSettingsView::showApplications(const ApplicationsSheet& sheet) {
+    if (controls_.window != nil) {
+        [controls_.applicationsSheet showOnWindow:controls_.window content:sheet];
+    }
+}
+
 void AppKitSettingsView::selectAction(std::size_t slot, std::int64_t action) {
     if (slot < controls_.actionMenus.count) {
         [controls_.actionMenus[slot] selectItemAtIndex:static_cast<NSInteger>(action)];

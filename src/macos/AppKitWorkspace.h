@@ -32,11 +32,17 @@ class AppKitWorkspace final : public Workspace {
     void openURL(const std::string& url) override;
     void terminate() override;
     void observeWake(std::function<void()> handler) override;
+    std::string frontmostBundleID() const override;
+    void observeFrontmostApplication(
+        std::function<void(std::optional<std::int32_t>, std::string)> handler) override;
+    std::vector<RunningApplication> regularApplications() const override;
+    std::optional<std::string> applicationName(const std::string& bundleID) const override;
 
   private:
     // The registrations; the notification centres keep them until they are removed.
     id __strong wakeObserver_;
     id __strong showObserver_;
+    id __strong activationObserver_;
 };
 
 }  // namespace tactora::macos

@@ -28,6 +28,9 @@ AppKitWorkspace::~AppKitWorkspace() {
     if (showObserver_ != nil) {
         [NSDistributedNotificationCenter.defaultCenter removeObserver:showObserver_];
     }
+    if (activationObserver_ != nil) {
+        [NSWorkspace.sharedWorkspace.notificationCenter removeObserver:activationObserver_];
+    }
 }
 
 std::optional<std::int32_t> AppKitWorkspace::frontmostProcessID() const {
@@ -135,6 +138,64 @@ void AppKitWorkspace::observeWake(std::function<void()> handler) {
                 usingBlock:^(NSNotification*) {
                     handler();
                 }];
+}
+
+std::string AppKitWorkspace::frontmostBundleID() const {
+    NSString* identifier = NSWorkspace.sharedWorkspace.frontmostApplication.bundleIdentifier;
+    return identifier == nil ? std::string() : toStdString(identifier);
+}
+
+void AppKitWorkspace::observeFrontmostApplication(
+    std::function<void(std::optional<std::int32_t>, std::string)> handler) {
+    activationObserver_ = [NSWorkspace.sharedWorkspace.notificationCenter
+        addObserverForName:NSWorkspaceDidActivateApplicationNotification
+                    object:nil
+                     queue:NSOperationQueue.mainQueue
+                usingBlock:^(NSNotification* notification) {
+                    id running = notification.userInfo[NSWorkspaceApplicationKey];
+                    if (![running isKindOfClass:NSRunningApplication.class]) {
+                        handler(std::nullopt, std::string());
+                        return;
+                    }
+                    NSRunningApplication* application = running;
+                    NSString* identifier = application.bundleIdentifier;
+                    handler(application.processIdentifier,
+                            identifier == nil ? std::string() : toStdString(identifier));
+                }];
+}
+
+std::vector<RunningApplication> AppKitWorkspace::regularApplications() const {
+    std::vector<RunningApplication> applications;
+    for (NSRunningApplication* running in NSWorkspace.sharedWorkspace.runningApplications) {
+        if (running.activationPolicy != NSApplicationActivationPolicyRegular ||
+            running.bundleIdentifier == nil) {
+            continue;
+        }
+        NSString* name = running.localizedName ?: running.bundleIdentifier;
+        applications.push_back(
+            {running.processIdentifier, toStdString(running.bundleIdentifier), toStdString(name)});
+    }
+    return applications;
+}
+
+std::optional<std::string> AppKitWorkspace::applicationName(const std::string& bundleID) const {
+    NSString* identifier = toNSString(bundleID);
+    for (NSRunningApplication* running in
+         [NSRunningApplication runningApplicationsWithBundleIdentifier:identifier]) {
+        if (running.localizedName != nil) {
+            return toStdString(running.localizedName);
+        }
+    }
+    NSURL* url = [NSWorkspace.sharedWorkspace URLForApplicationWithBundleIdentifier:identifier];
+    if (url == nil) {
+        return std::nullopt;
+    }
+    // The name the Finder shows, without the ".app" that it may show too.
+    NSString* shown = [NSFileManager.defaultManager displayNameAtPath:url.path];
+    if ([shown.pathExtension caseInsensitiveCompare:@"app"] == NSOrderedSame) {
+        shown = shown.stringByDeletingPathExtension;
+    }
+    return toStdString(shown);
 }
 
 }  // namespace tactora::macos

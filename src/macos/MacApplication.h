@@ -6,6 +6,7 @@
 #include "core/platform/Sensor.h"
 #include "core/profiles/Preferences.h"
 #include "macos/AppKitDialogs.h"
+#include "macos/AppKitProfileFiles.h"
 #include "macos/AppKitSettingsView.h"
 #include "macos/AppKitShell.h"
 #include "macos/AppKitSurfaceView.h"
@@ -42,6 +43,7 @@ class MacApplication {
     CGEventPoster poster_;
     MachPortEventTap tap_;
     AppKitDialogs dialogs_;
+    AppKitProfileFiles files_;
     TASettingsControls* __strong controls_;
     TAApplicationDelegate* __strong delegate_;
     AppKitSettingsView view_;

@@ -35,6 +35,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
           .dialogs = dialogs_,
           .defaults = std::move(defaults),
           .surface = surface_,
+          .files = files_,
       })) {
     [delegate_ attachController:controller_];
 }

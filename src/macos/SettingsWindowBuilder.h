@@ -38,6 +38,8 @@ class SettingsWindowBuilder {
     void addHeader(const std::string& hero);
     void addButtonRow(std::initializer_list<TitledAction> buttons);
     void addProfileRow(const SettingsWindowTexts& texts);
+    NSPopUpButton* makeProfileActions(const SettingsWindowTexts& texts);
+    NSMenuItem* makeMenuItem(std::string_view title, SEL action);
     void addEnableSwitch();
     void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);
     // Puts the live view in the free strip beside the gesture rows, outside the column.

@@ -166,12 +166,45 @@ void SettingsWindowBuilder::addProfileRow(const SettingsWindowTexts& texts) {
     NSArray<NSView*>* controls = @[
         menu, makeButton(texts.newProfile, @selector(newProfile)),
         makeButton(texts.renameProfile, @selector(renameProfile)),
-        makeButton(texts.duplicateProfile, @selector(duplicateProfile))
+        makeButton(texts.duplicateProfile, @selector(duplicateProfile)), makeProfileActions(texts)
     ];
     NSTextField* label =
         makeWrappingLabel(texts.profileLabel, [NSFont systemFontOfSize:NSFont.systemFontSize],
                           widthBeside(controls, 8));
     add(makeRow([@[ label ] arrayByAddingObjectsFromArray:controls], 8));
+}
+
+// Beside the specified buttons, the rarer profile operations share one compact pull-down, as
+// the action (gear) menus of the system's own settings do, so the row keeps its width.
+NSPopUpButton* SettingsWindowBuilder::makeProfileActions(const SettingsWindowTexts& texts) {
+    NSPopUpButton* actions = [[NSPopUpButton alloc] initWithFrame:NSZeroRect pullsDown:YES];
+    actions.bezelStyle = NSBezelStylePush;
+    // The items' enabled states are the controller's, not the menu's guess.
+    actions.menu.autoenablesItems = NO;
+    NSMenuItem* face = [[NSMenuItem alloc] initWithTitle:@"" action:nil keyEquivalent:@""];
+    face.image = [NSImage imageNamed:NSImageNameActionTemplate];
+    [actions.menu addItem:face];
+    actions.accessibilityLabel = toNSString(texts.profileActions);
+    actions.toolTip = toNSString(texts.profileActions);
+    [actions.menu addItem:makeMenuItem(texts.profileApplications, @selector(editApplications))];
+    NSMenuItem* remove = controls_.deleteProfileItem;
+    remove.title = toNSString(texts.deleteProfile);
+    remove.target = target_;
+    remove.action = @selector(deleteProfile);
+    [actions.menu addItem:remove];
+    [actions.menu addItem:NSMenuItem.separatorItem];
+    [actions.menu addItem:makeMenuItem(texts.importProfiles, @selector(importProfiles))];
+    [actions.menu addItem:makeMenuItem(texts.exportProfiles, @selector(exportProfiles))];
+    controls_.applicationsSheet.target = target_;
+    return actions;
+}
+
+NSMenuItem* SettingsWindowBuilder::makeMenuItem(std::string_view title, SEL action) {
+    NSMenuItem* item = [[NSMenuItem alloc] initWithTitle:toNSString(title)
+                                                  action:action
+                                           keyEquivalent:@""];
+    item.target = target_;
+    return item;
 }
 
 void SettingsWindowBuilder::addEnableSwitch() {

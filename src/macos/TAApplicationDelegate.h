@@ -4,6 +4,8 @@
 
 #include <memory>
 
+#import "macos/TAApplicationsSheet.h"
+
 namespace tactora {
 class Controller;
 }
@@ -12,7 +14,7 @@ NS_ASSUME_NONNULL_BEGIN
 
 // The application's delegate and the target of every menu item and control: it hands each call
 // to the controller unchanged. The action selectors are the controller's operation names.
-@interface TAApplicationDelegate : NSObject <NSApplicationDelegate>
+@interface TAApplicationDelegate : NSObject <NSApplicationDelegate, TAApplicationsSheetTarget>
 
 - (void)attachController:(std::shared_ptr<tactora::Controller>)controller;
 
@@ -27,6 +29,10 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)newProfile;
 - (void)renameProfile;
 - (void)duplicateProfile;
+- (void)deleteProfile;
+- (void)editApplications;
+- (void)importProfiles;
+- (void)exportProfiles;
 - (void)changed:(NSControl*)sender;
 - (void)recordShortcut:(NSControl*)sender;
 - (void)testDesktop;

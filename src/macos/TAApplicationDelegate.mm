@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/app/Controller.h"
+#include "macos/StringConversion.h"
 
 @implementation TAApplicationDelegate {
     std::shared_ptr<tactora::Controller> _controller;
@@ -79,6 +80,34 @@
 
 - (void)duplicateProfile {
     _controller->duplicateProfile();
+}
+
+- (void)deleteProfile {
+    _controller->deleteProfile();
+}
+
+- (void)editApplications {
+    _controller->editApplications();
+}
+
+- (void)importProfiles {
+    _controller->importProfiles();
+}
+
+- (void)exportProfiles {
+    _controller->exportProfiles();
+}
+
+- (void)addApplication:(NSString*)bundleID {
+    _controller->addApplication(tactora::macos::toStdString(bundleID));
+}
+
+- (void)removeApplication:(NSString*)bundleID {
+    _controller->removeApplication(tactora::macos::toStdString(bundleID));
+}
+
+- (void)closeApplications {
+    _controller->closeApplications();
 }
 
 - (void)changed:(NSControl*)sender {

@@ -3,6 +3,7 @@
 #import <AppKit/AppKit.h>
 
 #import "macos/TASurfaceView.h"
+#import "macos/TAApplicationsSheet.h"
 
 NS_ASSUME_NONNULL_BEGIN
 
@@ -16,6 +17,10 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nonatomic, readonly) NSTextField* live;
 @property(nonatomic, readonly) NSButton* enabled;
 @property(nonatomic, readonly) NSPopUpButton* profileMenu;
+// The profile actions pull-down's delete item, which exists (untitled, outside any menu) before
+// the window places it, so that its enabled state can be set from the start.
+@property(nonatomic, readonly) NSMenuItem* deleteProfileItem;
+@property(nonatomic, readonly) TAApplicationsSheet* applicationsSheet;
 // One per gesture slot, in slot order.
 @property(nonatomic, readonly) NSMutableArray<NSPopUpButton*>* actionMenus;
 @property(nonatomic, readonly) NSMutableArray<NSButton*>* recordButtons;

@@ -11,6 +11,8 @@
         _enabled = [NSButton checkboxWithTitle:enableTitle target:nil action:nil];
         _enabled.state = NSControlStateValueOff;
         _profileMenu = [[NSPopUpButton alloc] initWithFrame:NSZeroRect pullsDown:NO];
+        _deleteProfileItem = [[NSMenuItem alloc] initWithTitle:@"" action:nil keyEquivalent:@""];
+        _applicationsSheet = [[TAApplicationsSheet alloc] init];
         _actionMenus = [NSMutableArray array];
         _recordButtons = [NSMutableArray array];
         _surface = [[TASurfaceView alloc] initWithFrame:NSZeroRect];

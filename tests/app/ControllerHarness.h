@@ -14,6 +14,7 @@
 #include "app/fakes/FakeEventTap.h"
 #include "app/fakes/FakeMainQueue.h"
 #include "app/fakes/FakePermissions.h"
+#include "app/fakes/FakeProfileFiles.h"
 #include "app/fakes/FakeSensor.h"
 #include "app/fakes/FakeSettingsView.h"
 #include "app/fakes/FakeSurfaceView.h"
@@ -46,6 +47,9 @@ inline std::shared_ptr<const StringsTable> testTable() {
         {"action.mission", "Mission Control"},
         {"action.desktop", "Show Desktop"},
         {"profile.default", "Default"},
+        {"profile.automatic", "%@ (for %@)"},
+        {"profile.delete.message", "delete %@"},
+        {"apps.title", "apps of %@"},
     });
 }
 
@@ -57,7 +61,7 @@ class ControllerHarness {
         setStringTable(testTable());
         initializeGlobals();
         controller = Controller::create({clock, queue, workspace, permissions, poster, eventTap,
-                                         sensor, shell, view, dialogs, defaults, surface});
+                                         sensor, shell, view, dialogs, defaults, surface, files});
         setApplicationController(controller);
     }
     ~ControllerHarness() {
@@ -129,6 +133,7 @@ class ControllerHarness {
     FakeDialogs dialogs{log};
     FakeSurfaceView surface;
     std::shared_ptr<MemoryPreferences> defaults = std::make_shared<MemoryPreferences>();
+    FakeProfileFiles files{log};
     std::shared_ptr<Controller> controller;
 };
 

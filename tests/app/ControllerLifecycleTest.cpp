@@ -48,6 +48,7 @@ TEST_F(ControllerLifecycleTest, LaunchingBuildsConnectsAndShowsInOrder) {
                                "sensor.start",
                                "workspace.observeWake",
                                "workspace.observeShowRequests",
+                               "workspace.observeFrontmostApplication",
                                "shell.showWindow",
                                "workspace.activate",
                            }));

@@ -130,5 +130,23 @@ TEST_F(SettingsWindowTextsTest, WithoutATableEveryTextIsItsKey) {
     EXPECT_EQ(texts.actionNames.front(), "action.default");
 }
 
+TEST_F(SettingsWindowTextsTest, ProfileActionsInEnglish) {
+    const SettingsWindowTexts texts = textsIn("en");
+    EXPECT_EQ(texts.profileActions, "Profile Actions");
+    EXPECT_EQ(texts.profileApplications, "Applications…");
+    EXPECT_EQ(texts.deleteProfile, "Delete Profile…");
+    EXPECT_EQ(texts.importProfiles, "Import Profiles…");
+    EXPECT_EQ(texts.exportProfiles, "Export Profiles…");
+}
+
+TEST_F(SettingsWindowTextsTest, ProfileActionsInBrazilianPortuguese) {
+    const SettingsWindowTexts texts = textsIn("pt-BR");
+    EXPECT_EQ(texts.profileActions, "Ações do Perfil");
+    EXPECT_EQ(texts.profileApplications, "Aplicativos…");
+    EXPECT_EQ(texts.deleteProfile, "Apagar Perfil…");
+    EXPECT_EQ(texts.importProfiles, "Importar Perfis…");
+    EXPECT_EQ(texts.exportProfiles, "Exportar Perfis…");
+}
+
 }  // namespace
 }  // namespace tactora

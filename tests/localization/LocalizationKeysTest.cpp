@@ -50,10 +50,14 @@ TEST(LocalizationKeysTest, KeysWithArgumentsTakeThemInOrder) {
     EXPECT_EQ(argumentsOf("error.action"), (std::vector{stringArgument, integerArgument}));
     EXPECT_EQ(argumentsOf("live"), (std::vector{integerArgument, stringArgument, stringArgument}));
     EXPECT_EQ(argumentsOf("permissions"), (std::vector{stringArgument, stringArgument}));
-    for (const std::string_view key :
-         {"action.failed", "gesture.tap", "gesture.click", "finger.many"}) {
+    for (const std::string_view key : {"action.failed", "gesture.tap", "gesture.click",
+                                       "finger.many", "export.done", "import.done"}) {
         EXPECT_EQ(argumentsOf(key), std::vector{integerArgument}) << key;
     }
+    for (const std::string_view key : {"profile.delete.message", "apps.title"}) {
+        EXPECT_EQ(argumentsOf(key), std::vector{stringArgument}) << key;
+    }
+    EXPECT_EQ(argumentsOf("profile.automatic"), (std::vector{stringArgument, stringArgument}));
 }
 
 TEST(LocalizationKeysTest, OnlyTheBlockedSensorShowsItsErrorCode) {

@@ -21,6 +21,7 @@
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureDispatchContext.h"
 #include "core/gestures/GestureState.h"
+#include "core/platform/ApplicationsSheet.h"
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/MouseButton.h"
@@ -178,6 +179,40 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void renameProfile();
     void duplicateProfile();
     void nameProfile(NamingMode mode);
+    // The profile actions' delete item: asks, then deletes the profile shown in the pop-up.
+    void deleteProfile();
+
+    // --- Profiles of applications ------------------------------------------------------------
+
+    // Another application came to the front (`processID` none when no application is in front;
+    // `bundleID` empty when it has none). Its profile becomes active, or the user's choice when
+    // it has none, through the same steps as selectProfile(). This application coming to the
+    // front changes nothing.
+    void frontmostApplicationChanged(std::optional<std::int32_t> processID, std::string bundleID);
+    // The bundle id of the last application other than this one that came to the front.
+    const std::string& frontmostBundleID() const { return frontmostBundleID_; }
+    // Whether the active profile is not the user's choice but that of the application in front.
+    bool profileFollowsApplication();
+    // What the pop-up and the status item call the active profile: its name, and the
+    // application's when the application in front chose it.
+    std::string activeProfileTitle();
+
+    // The profile actions' applications item: shows the sheet of the active profile's
+    // applications, which the next three operations edit until it closes.
+    void editApplications();
+    // Assigns the application to the sheet's profile (moving it from any other).
+    void addApplication(const std::string& bundleID);
+    // Takes the application away from the sheet's profile.
+    void removeApplication(const std::string& bundleID);
+    void closeApplications();
+
+    // --- Profile files -----------------------------------------------------------------------
+
+    // Writes every profile to a file chosen with a save panel.
+    void exportProfiles();
+    // Appends the profiles of a file chosen with an open panel; a file that is not such a list
+    // changes nothing and is explained in a message.
+    void importProfiles();
 
     // --- Live view of the touch surface and feedback in the menu bar ---------------------------
 
@@ -228,6 +263,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void startRefreshTimer();
     void observeWake();
     void observeShowRequests();
+    void observeFrontmostApplication();
     void dropPendingWork();
 
     void noteGesture(GestureKind kind, std::int64_t fingers, double at);
@@ -236,6 +272,18 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void highlightChanged();
     void scheduleHighlightEnd();
     void showSurface();
+
+    enum class ProfileSwitch { chosen, automatic };
+    // The steps of selectProfile() around the store's change: pending actions cancelled, held
+    // presses released, recogniser reset, the store's select() (a choice) or activate(), then
+    // the status texts and controls refreshed.
+    void switchProfile(const Uuid& id, ProfileSwitch kind);
+    // The profile of the application in front, or the user's choice when it has none.
+    Uuid frontmostProfile();
+    // Switches to frontmostProfile() when that is not the active one already.
+    void followFrontmost();
+    ApplicationsSheet applicationsSheet();
+    std::string applicationName(const std::string& bundleID) const;
 
     ActionIndex actionAt(std::int64_t slot);
     const std::optional<SavedShortcut>& shortcutAt(std::int64_t slot);
@@ -254,6 +302,9 @@ class Controller : public std::enable_shared_from_this<Controller> {
     std::optional<ProfileStore> profiles_;
     bool recording_ = false;
     std::int64_t actionGeneration_ = 0;
+    std::string frontmostBundleID_;
+    std::string frontmostName_;          // what the user calls that application
+    std::optional<Uuid> editedProfile_;  // the applications sheet's profile while it is open
 
     bool windowBuilt_ = false;
     bool statusItemCreated_ = false;

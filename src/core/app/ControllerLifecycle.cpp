@@ -28,6 +28,9 @@ void Controller::applicationDidFinishLaunching() {
     startRefreshTimer();
     observeWake();
     observeShowRequests();
+    observeFrontmostApplication();
+    frontmostApplicationChanged(services_.workspace.frontmostProcessID(),
+                                services_.workspace.frontmostBundleID());
     show();
 }
 

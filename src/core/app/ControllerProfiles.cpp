@@ -9,11 +9,15 @@ namespace tactora {
 
 namespace {
 
-std::vector<ProfileMenuItem> profileItems(const std::vector<WorkProfile>& profiles) {
+// The active profile's item is titled `activeTitle`, which says so when the application in
+// front chose it.
+std::vector<ProfileMenuItem> profileItems(const ProfileStore& store,
+                                          const std::string& activeTitle) {
     std::vector<ProfileMenuItem> items;
-    items.reserve(profiles.size());
-    for (const WorkProfile& profile : profiles) {
-        items.push_back({profile.name, profile.id.text()});
+    items.reserve(store.profiles().size());
+    for (const WorkProfile& profile : store.profiles()) {
+        const bool active = profile.id == store.activeID();
+        items.push_back({active ? activeTitle : profile.name, profile.id.text()});
     }
     return items;
 }
@@ -34,7 +38,8 @@ const char* namingTitle(NamingMode mode) {
 
 void Controller::refreshProfileUI() {
     const ProfileStore& store = profiles();
-    services_.view.setProfileItems(profileItems(store.profiles()));
+    services_.view.setProfileItems(profileItems(store, activeProfileTitle()));
+    services_.view.setDeleteProfileEnabled(store.profiles().size() > 1);
     const auto active = std::find_if(
         store.profiles().begin(), store.profiles().end(),
         [&store](const WorkProfile& profile) { return profile.id == store.activeID(); });
@@ -77,12 +82,41 @@ void Controller::selectProfile() {
     if (!id) {
         return;
     }
+    switchProfile(*id, ProfileSwitch::chosen);
+}
+
+void Controller::switchProfile(const Uuid& id, ProfileSwitch kind) {
     dropPendingWork();
-    profiles().select(*id);
+    if (kind == ProfileSwitch::chosen) {
+        profiles().select(id);
+    } else {
+        profiles().activate(id);
+    }
     lastGesture_ = "—";
     lastAction_.clear();
     refreshProfileUI();
     refresh();
+}
+
+void Controller::deleteProfile() {
+    // As before the naming dialog: nothing half seen may complete after the alert.
+    dropPendingWork();
+    if (profiles().profiles().size() < 2) {
+        return;
+    }
+    const WorkProfile& doomed = profiles().current();
+    const Uuid id = doomed.id;
+    const ConfirmationTexts texts{
+        .message = L("profile.delete.message", doomed.name),
+        .informative = L("profile.delete.info"),
+        .confirmButton = L("profile.delete.button"),
+        .cancelButton = L("cancel"),
+    };
+    if (!services_.dialogs.runConfirmation(texts) || !profiles().remove(id)) {
+        return;
+    }
+    // The store brought back the user's choice; the application in front may have its own.
+    switchProfile(frontmostProfile(), ProfileSwitch::automatic);
 }
 
 void Controller::newProfile() {

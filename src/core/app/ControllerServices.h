@@ -9,6 +9,7 @@
 #include "core/platform/EventTap.h"
 #include "core/platform/MainQueue.h"
 #include "core/platform/Permissions.h"
+#include "core/platform/ProfileFiles.h"
 #include "core/platform/Sensor.h"
 #include "core/platform/SettingsView.h"
 #include "core/platform/SurfaceView.h"
@@ -34,6 +35,8 @@ struct ControllerServices {
     std::shared_ptr<Preferences> defaults;
     // The settings window's live view of the touch surface.
     SurfaceView& surface;
+    // Where profiles are exported to and imported from.
+    ProfileFiles& files;
 };
 
 }  // namespace tactora

@@ -38,7 +38,7 @@ void Controller::updateMenuIcon() {
         .symbolName = on ? "computermouse.fill" : "computermouse",
         .accessibilityDescription = "Tactora",
         .toolTip =
-            "Tactora · " + L(on ? "menu.active" : "menu.pause") + " · " + profiles().current().name,
+            "Tactora · " + L(on ? "menu.active" : "menu.pause") + " · " + activeProfileTitle(),
         .title = feedback_.title(services_.clock.uptime()),
     };
     // The refresh timer calls this five times a second; the status bar redraws only on change.

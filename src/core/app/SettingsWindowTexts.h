@@ -22,6 +22,13 @@ struct SettingsWindowTexts {
     std::string newProfile;
     std::string renameProfile;
     std::string duplicateProfile;
+    // The profile actions pull-down at the end of the profile row: its accessibility title,
+    // then its items (a separator goes between delete and import).
+    std::string profileActions;
+    std::string profileApplications;
+    std::string deleteProfile;
+    std::string importProfiles;
+    std::string exportProfiles;
     std::string enableSwitch;
     std::vector<GestureRow> gestureRows;
     std::vector<std::string> actionNames;  // catalogue order: an item's index is its action

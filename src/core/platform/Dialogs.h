@@ -4,8 +4,10 @@
 #include <optional>
 #include <string>
 
+#include "core/platform/ConfirmationTexts.h"
 #include "core/platform/EventDisposition.h"
 #include "core/platform/KeyPress.h"
+#include "core/platform/MessageTexts.h"
 #include "core/platform/NamingDialogTexts.h"
 #include "core/platform/RecordingDialog.h"
 #include "core/platform/RecordingDialogTexts.h"
@@ -16,7 +18,7 @@ namespace tactora {
 // dialog through its second argument.
 using RecordingKeyHandler = std::function<EventDisposition(const KeyPress&, RecordingDialog&)>;
 
-// The two modal dialogs. Each call runs its dialog to the end and returns its answer. Main
+// The modal dialogs. Each call runs its dialog to the end and returns its answer. Main
 // thread only; other main-queue work keeps running while a dialog is open.
 class Dialogs {
   public:
@@ -34,6 +36,13 @@ class Dialogs {
     // text field holding the initial text, first responder. The field's text, untouched, when
     // it was closed with the save button; nothing otherwise.
     virtual std::optional<std::string> runNamingDialog(const NamingDialogTexts& texts) = 0;
+
+    // Asks to confirm a destructive step: a warning alert whose confirming button is marked
+    // destructive. True only when it was closed with that button.
+    virtual bool runConfirmation(const ConfirmationTexts& texts) = 0;
+
+    // Shows a message with a single button that closes it.
+    virtual void showMessage(const MessageTexts& texts) = 0;
 };
 
 }  // namespace tactora

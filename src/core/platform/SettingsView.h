@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/platform/ApplicationsSheet.h"
 #include "core/platform/ProfileMenuItem.h"
 #include "core/platform/RecordButtonState.h"
 #include "core/platform/StatusItemAppearance.h"
@@ -39,6 +40,12 @@ class SettingsView {
     virtual void selectProfileItem(std::size_t index) = 0;
     // The represented id text of the selected profile item; nothing when no item is selected.
     virtual std::optional<std::string> selectedProfileID() const = 0;
+    // Enables the profile actions' delete item; it exists from the start, like the pop-up.
+    virtual void setDeleteProfileEnabled(bool enabled) = 0;
+
+    // Shows the applications sheet on the settings window with this content, or, while it is
+    // shown, replaces its content. Closing it reaches the controller's closeApplications().
+    virtual void showApplications(const ApplicationsSheet& sheet) = 0;
 
     // Selects the catalogue entry `action` (0...14) in the action pop-up of gesture slot `slot`.
     virtual void selectAction(std::size_t slot, std::int64_t action) = 0;

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "core/platform/RunningApplication.h"
+
 namespace tactora {
 
 // The running applications and this application's place among them. Main thread only.
@@ -52,6 +54,24 @@ class Workspace {
     // Calls `handler` on the main thread each time the system wakes from sleep, for the rest
     // of the process. Called once.
     virtual void observeWake(std::function<void()> handler) = 0;
+
+    // The bundle identifier of the frontmost application; empty when there is none or it has
+    // no identifier.
+    virtual std::string frontmostBundleID() const = 0;
+
+    // Calls `handler` on the main thread each time another application comes to the front
+    // (this one included), with its process id and bundle identifier (empty when it has none),
+    // for the rest of the process. Called once.
+    virtual void observeFrontmostApplication(
+        std::function<void(std::optional<std::int32_t>, std::string)> handler) = 0;
+
+    // The running applications that appear in the Dock and have a bundle identifier, in the
+    // order the system lists them.
+    virtual std::vector<RunningApplication> regularApplications() const = 0;
+
+    // The name the user knows the application with this bundle identifier by, whether it runs
+    // or is only installed; nothing when the system does not know it.
+    virtual std::optional<std::string> applicationName(const std::string& bundleID) const = 0;
 };
 
 }  // namespace tactora

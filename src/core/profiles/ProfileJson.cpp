@@ -34,6 +34,11 @@ OrderedJson encodeProfile(const WorkProfile& profile) {
         shortcuts.push_back(encodeShortcut(shortcut));
     }
     object["shortcuts"] = std::move(shortcuts);
+    // Written only when there is something to say, so that a profile without applications is
+    // stored exactly as before the key existed.
+    if (!profile.apps.empty()) {
+        object["apps"] = profile.apps;
+    }
     return object;
 }
 
@@ -128,6 +133,25 @@ std::optional<std::vector<std::optional<SavedShortcut>>> decodeShortcuts(const J
     return shortcuts;
 }
 
+// The optional "apps" key. Anything but an array of non-empty strings is dropped for this
+// profile alone: the key is newer than the format, and a damaged list of applications must not
+// cost the user the whole profile list.
+std::vector<std::string> decodeApps(const Json& object) {
+    const Json* array = arrayMember(object, "apps");
+    if (array == nullptr) {
+        return {};
+    }
+    std::vector<std::string> apps;
+    apps.reserve(array->size());
+    for (const Json& element : *array) {
+        if (!element.is_string() || element.get_ref<const std::string&>().empty()) {
+            return {};
+        }
+        apps.push_back(element.get<std::string>());
+    }
+    return apps;
+}
+
 std::optional<WorkProfile> decodeProfile(const Json& object) {
     if (!object.is_object()) {
         return std::nullopt;
@@ -146,7 +170,9 @@ std::optional<WorkProfile> decodeProfile(const Json& object) {
     if (!id || !actions || !shortcuts) {
         return std::nullopt;
     }
-    return WorkProfile(*id, *name, std::move(*actions), std::move(*shortcuts));
+    WorkProfile profile(*id, *name, std::move(*actions), std::move(*shortcuts));
+    profile.apps = decodeApps(object);
+    return profile;
 }
 
 std::optional<std::vector<WorkProfile>> decodeList(const Json& array) {

@@ -58,6 +58,18 @@ std::optional<std::vector<WorkProfile>> acceptedList(const Bytes& stored) {
     return profiles;
 }
 
+bool hasID(const std::vector<WorkProfile>& profiles, const Uuid& id) {
+    return std::any_of(profiles.begin(), profiles.end(),
+                       [&id](const WorkProfile& p) { return p.id == id; });
+}
+
+// Keeps each application in the first profile that lists it, once; `taken` holds those
+// assigned already and gains the ones kept here.
+void keepUnassigned(WorkProfile& profile, std::set<std::string>& taken) {
+    std::erase_if(profile.apps,
+                  [&taken](const std::string& app) { return !taken.insert(app).second; });
+}
+
 WorkProfile migratedProfile(const Preferences& defaults, std::string name) {
     std::vector<ActionIndex> actions;
     actions.reserve(slot::count);
@@ -87,6 +99,10 @@ ProfileStore::ProfileStore(std::shared_ptr<Preferences> defaults, std::string de
     profiles_ = accepted
                     ? std::move(*accepted)
                     : std::vector<WorkProfile>{migratedProfile(*defaults_, std::move(defaultName))};
+    std::set<std::string> assigned;
+    for (WorkProfile& profile : profiles_) {
+        keepUnassigned(profile, assigned);
+    }
 
     activeID_ = profiles_.front().id;
     if (const auto text = defaults_->string(activeKey)) {
@@ -96,6 +112,7 @@ ProfileStore::ProfileStore(std::shared_ptr<Preferences> defaults, std::string de
             activeID_ = *remembered;
         }
     }
+    chosenID_ = activeID_;
     save();
 }
 
@@ -118,7 +135,7 @@ void ProfileStore::save() {
     if (const std::optional<std::string> json = encodeProfiles(profiles_)) {
         defaults_->setData(profilesKey, bytesOf(*json));
     }
-    defaults_->setString(activeKey, activeID_.text());
+    defaults_->setString(activeKey, chosenID_.text());
 }
 
 void ProfileStore::select(const Uuid& id) {
@@ -128,6 +145,7 @@ void ProfileStore::select(const Uuid& id) {
         return;
     }
     activeID_ = id;
+    chosenID_ = id;
     save();
 }
 
@@ -165,6 +183,7 @@ void ProfileStore::add(const std::string& name, bool duplicate) {
         profile.shortcuts = source.shortcuts;
     }
     activeID_ = profile.id;
+    chosenID_ = profile.id;
     profiles_.push_back(std::move(profile));
     save();
 }
@@ -176,6 +195,83 @@ void ProfileStore::rename(const std::string& name) {
     }
     profile->name = name;
     save();
+}
+
+bool ProfileStore::activate(const Uuid& id) {
+    if (!hasID(profiles_, id)) {
+        return false;
+    }
+    activeID_ = id;
+    return true;
+}
+
+std::optional<Uuid> ProfileStore::profileFor(const std::string& bundleID) const {
+    for (const WorkProfile& profile : profiles_) {
+        if (std::ranges::find(profile.apps, bundleID) != profile.apps.end()) {
+            return profile.id;
+        }
+    }
+    return std::nullopt;
+}
+
+bool ProfileStore::assign(const std::string& bundleID, const Uuid& profile) {
+    if (bundleID.empty() || !hasID(profiles_, profile) || profileFor(bundleID) == profile) {
+        return false;
+    }
+    for (WorkProfile& each : profiles_) {
+        std::erase(each.apps, bundleID);
+        if (each.id == profile) {
+            each.apps.push_back(bundleID);
+        }
+    }
+    save();
+    return true;
+}
+
+bool ProfileStore::unassign(const std::string& bundleID) {
+    if (!profileFor(bundleID)) {
+        return false;
+    }
+    for (WorkProfile& profile : profiles_) {
+        std::erase(profile.apps, bundleID);
+    }
+    save();
+    return true;
+}
+
+bool ProfileStore::remove(const Uuid& id) {
+    if (profiles_.size() < 2 || !hasID(profiles_, id)) {
+        return false;
+    }
+    std::erase_if(profiles_, [&id](const WorkProfile& p) { return p.id == id; });
+    if (chosenID_ == id) {
+        chosenID_ = profiles_.front().id;
+    }
+    if (activeID_ == id) {
+        activeID_ = chosenID_;
+    }
+    save();
+    return true;
+}
+
+std::size_t ProfileStore::importProfiles(std::vector<WorkProfile> imported) {
+    if (imported.empty() || !hasDistinctIDs(imported)) {
+        return 0;
+    }
+    std::set<std::string> assigned;
+    for (const WorkProfile& profile : profiles_) {
+        assigned.insert(profile.apps.begin(), profile.apps.end());
+    }
+    for (WorkProfile& profile : imported) {
+        profile.sanitize();
+        keepUnassigned(profile, assigned);
+        while (hasID(profiles_, profile.id)) {
+            profile.id = Uuid::random();
+        }
+        profiles_.push_back(std::move(profile));
+    }
+    save();
+    return imported.size();
 }
 
 }  // namespace tactora

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,7 +36,12 @@ class ProfileStore {
     ProfileStore& operator=(ProfileStore&&) = delete;
 
     const std::vector<WorkProfile>& profiles() const { return profiles_; }
+    // The profile in use now: the user's choice, or for a while the profile of the application
+    // in front (activate()).
     const Uuid& activeID() const { return activeID_; }
+    // The profile the user chose last (select(), add(), or the one kept across restarts). Only
+    // this one is saved under activeKey.
+    const Uuid& chosenID() const { return chosenID_; }
 
     // The active profile. Always exists; its absence is a fatal error.
     const WorkProfile& current() const;
@@ -48,6 +55,31 @@ class ProfileStore {
     void add(const std::string& name, bool duplicate);
     void rename(const std::string& name);
 
+    // Makes a profile active without making it the user's choice, and saves nothing: the
+    // choice, not this, is what a restart comes back to. False, and no change, for an unknown id.
+    bool activate(const Uuid& id);
+
+    // The profile that `bundleID` is assigned to, if any.
+    std::optional<Uuid> profileFor(const std::string& bundleID) const;
+    // Assigns an application to a profile, taking it away from any other profile. False, and
+    // nothing written, for an empty bundle id, an unknown profile, or when it is assigned there
+    // already.
+    bool assign(const std::string& bundleID, const Uuid& profile);
+    // Takes an application away from its profile. False when it has none.
+    bool unassign(const std::string& bundleID);
+
+    // Deletes a profile and the assignments of its applications. False, and nothing written,
+    // when it is the last profile or the id is unknown. Deleting the user's choice makes the
+    // first remaining profile the choice; deleting the active profile brings back the choice.
+    bool remove(const Uuid& id);
+
+    // Appends every profile of `imported`, sanitized, in order, replacing nothing: an id that
+    // is already taken gets a fresh one, and an application assigned in this store already (or
+    // earlier in `imported`) stays where it is. The active profile and the choice are kept.
+    // Returns how many were appended; 0, and nothing written, for an empty list or one with
+    // duplicate ids.
+    std::size_t importProfiles(std::vector<WorkProfile> imported);
+
   private:
     // The active profile for editing, or null.
     WorkProfile* active();
@@ -55,6 +87,7 @@ class ProfileStore {
     std::shared_ptr<Preferences> defaults_;
     std::vector<WorkProfile> profiles_;
     Uuid activeID_;
+    Uuid chosenID_;
 };
 
 }  // namespace tactora

@@ -33,6 +33,9 @@ struct WorkProfile {
     std::string name;
     std::vector<ActionIndex> actions;
     std::vector<std::optional<SavedShortcut>> shortcuts;
+    // Bundle identifiers of the applications that make this profile active while they are in
+    // front. sanitize() leaves it alone; the store keeps each application in one profile only.
+    std::vector<std::string> apps;
 
     bool operator==(const WorkProfile&) const = default;
 };

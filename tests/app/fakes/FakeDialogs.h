@@ -51,13 +51,30 @@ class FakeDialogs final : public Dialogs {
         return name;
     }
 
+    bool runConfirmation(const ConfirmationTexts& texts) override {
+        log_.add("dialogs.confirmation");
+        confirmationTexts = texts;
+        if (whileOpen) {
+            whileOpen();
+        }
+        return confirm;
+    }
+
+    void showMessage(const MessageTexts& texts) override {
+        log_.add("dialogs.message");
+        messages.push_back(texts);
+    }
+
     std::vector<KeyPress> keys;
     bool save = true;
     std::optional<std::string> name;
+    bool confirm = true;
     std::function<void()> whileOpen;
 
     std::optional<RecordingDialogTexts> recordingTexts;
     std::optional<NamingDialogTexts> namingTexts;
+    std::optional<ConfirmationTexts> confirmationTexts;
+    std::vector<MessageTexts> messages;
     FakeRecordingDialog dialog;
     std::vector<EventDisposition> dispositions;
 

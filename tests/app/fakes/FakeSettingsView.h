@@ -39,6 +39,12 @@ class FakeSettingsView final : public SettingsView {
         return std::nullopt;
     }
 
+    void setDeleteProfileEnabled(bool on) override { deleteEnabled = on; }
+    void showApplications(const ApplicationsSheet& sheet) override {
+        log_.add("view.showApplications");
+        applications = sheet;
+    }
+
     void selectAction(std::size_t slot, std::int64_t action) override {
         shownActions.at(slot) = action;
         actionChoice.at(slot) = action;
@@ -60,6 +66,8 @@ class FakeSettingsView final : public SettingsView {
     std::vector<ProfileMenuItem> profileItems;
     std::optional<std::size_t> selectedProfile;
     std::optional<std::string> profileChoice;  // the user's pick, overriding the selection
+    std::optional<bool> deleteEnabled;
+    std::optional<ApplicationsSheet> applications;
     std::array<std::optional<std::int64_t>, 8> shownActions{};
     std::array<std::int64_t, 8> actionChoice{};
     std::array<std::optional<RecordButtonState>, 8> recordButtons{};

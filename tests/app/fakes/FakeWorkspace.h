@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -45,6 +46,24 @@ class FakeWorkspace final : public Workspace {
         log_.add("workspace.observeWake");
         wake = std::move(handler);
     }
+    std::string frontmostBundleID() const override { return frontmostBundle; }
+    void observeFrontmostApplication(
+        std::function<void(std::optional<std::int32_t>, std::string)> handler) override {
+        log_.add("workspace.observeFrontmostApplication");
+        frontmostChanged = std::move(handler);
+    }
+    std::vector<RunningApplication> regularApplications() const override { return running; }
+    std::optional<std::string> applicationName(const std::string& bundleID) const override {
+        const auto found = names.find(bundleID);
+        return found == names.end() ? std::nullopt : std::optional<std::string>(found->second);
+    }
+
+    // Brings another application to the front, as the system would announce it.
+    void bringToFront(std::optional<std::int32_t> processID, const std::string& bundleID) {
+        frontmost = processID;
+        frontmostBundle = bundleID;
+        frontmostChanged(processID, bundleID);
+    }
 
     std::optional<std::int32_t> frontmost = 42;
     bool active = false;
@@ -55,6 +74,10 @@ class FakeWorkspace final : public Workspace {
     std::function<void()> wake;
     std::vector<std::int32_t> showRequests;
     std::function<void()> showRequested;
+    std::string frontmostBundle;
+    std::function<void(std::optional<std::int32_t>, std::string)> frontmostChanged;
+    std::vector<RunningApplication> running;
+    std::map<std::string, std::string> names;  // bundle id to name, for applicationName()
 
   private:
     CallLog& log_;

@@ -1,0 +1,50 @@
+#include "core/profiles/ProfileFile.h"
+
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <set>
+#include <utility>
+
+#include "core/profiles/ProfileJson.h"
+
+namespace tactora {
+
+namespace {
+
+bool isJson(std::string_view bytes) {
+    // The parser would stop at a NUL byte and take what came before for the whole text.
+    return bytes.find('\0') == std::string_view::npos &&
+           nlohmann::json::accept(bytes.begin(), bytes.end());
+}
+
+bool hasDistinctIDs(const std::vector<WorkProfile>& profiles) {
+    std::set<Uuid> ids;
+    for (const WorkProfile& profile : profiles) {
+        ids.insert(profile.id);
+    }
+    return ids.size() == profiles.size();
+}
+
+}  // namespace
+
+std::variant<std::vector<WorkProfile>, ProfileFileError> readProfileFile(std::string_view bytes) {
+    if (bytes.size() > maxProfileFileBytes) {
+        return ProfileFileError::tooLarge;
+    }
+    if (!isJson(bytes)) {
+        return ProfileFileError::notJson;
+    }
+    std::optional<std::vector<WorkProfile>> profiles = decodeProfiles(bytes);
+    if (!profiles) {
+        return ProfileFileError::wrongShape;
+    }
+    if (profiles->empty()) {
+        return ProfileFileError::empty;
+    }
+    if (!hasDistinctIDs(*profiles)) {
+        return ProfileFileError::duplicateIDs;
+    }
+    return std::move(*profiles);
+}
+
+}  // namespace tactora
