@@ -4,16 +4,22 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/fakes/CallLog.h"
 #include "app/fakes/FakeAppShell.h"
 #include "app/fakes/FakeClock.h"
+#include "app/fakes/FakeDeviceWatcher.h"
 #include "app/fakes/FakeDialogs.h"
 #include "app/fakes/FakeEventPoster.h"
 #include "app/fakes/FakeEventTap.h"
+#include "app/fakes/FakeLoginItem.h"
 #include "app/fakes/FakeMainQueue.h"
+#include "app/fakes/FakePermissionResetTool.h"
 #include "app/fakes/FakePermissions.h"
+#include "app/fakes/FakeProcessActivity.h"
+#include "app/fakes/FakeSecureInput.h"
 #include "app/fakes/FakeSensor.h"
 #include "app/fakes/FakeSettingsView.h"
 #include "app/fakes/FakeTapEvent.h"
@@ -45,18 +51,25 @@ inline std::shared_ptr<const StringsTable> testTable() {
         {"action.mission", "Mission Control"},
         {"action.desktop", "Show Desktop"},
         {"profile.default", "Default"},
+        {"keep.cooldown", "cool %d"},
+        {"reset.failed", "reset failed %d"},
+        {"login.failed", "login failed %d"},
     });
 }
 
 // A controller wired to fakes, installed as the application controller, on virtual time.
 class ControllerHarness {
   public:
-    ControllerHarness() {
+    ControllerHarness() : ControllerHarness(std::make_shared<MemoryPreferences>()) {}
+    // On defaults that an earlier run left behind.
+    explicit ControllerHarness(std::shared_ptr<MemoryPreferences> earlierDefaults)
+        : defaults(std::move(earlierDefaults)) {
         sensor.mice.insert(mouseSender);
         setStringTable(testTable());
         initializeGlobals();
         controller = Controller::create({clock, queue, workspace, permissions, poster, eventTap,
-                                         sensor, shell, view, dialogs, defaults});
+                                         sensor, shell, view, dialogs, defaults, devices, loginItem,
+                                         activity, secureInput, resetTool});
         setApplicationController(controller);
     }
     ~ControllerHarness() {
@@ -126,7 +139,12 @@ class ControllerHarness {
     FakeAppShell shell{log};
     FakeSettingsView view{log};
     FakeDialogs dialogs{log};
-    std::shared_ptr<MemoryPreferences> defaults = std::make_shared<MemoryPreferences>();
+    std::shared_ptr<MemoryPreferences> defaults;
+    FakeDeviceWatcher devices;
+    FakeLoginItem loginItem;
+    FakeProcessActivity activity;
+    FakeSecureInput secureInput;
+    FakePermissionResetTool resetTool;
     std::shared_ptr<Controller> controller;
 };
 
