@@ -31,6 +31,11 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
           .view = view_,
           .dialogs = dialogs_,
           .defaults = std::move(defaults),
+          .devices = devices_,
+          .loginItem = loginItem_,
+          .activity = activity_,
+          .secureInput = secureInput_,
+          .resetTool = resetTool_,
       })) {
     [delegate_ attachController:controller_];
 }

@@ -2,7 +2,6 @@
 
 #import <AppKit/AppKit.h>
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,9 +33,11 @@ class SettingsWindowBuilder {
     // A wrapping label in the secondary colour.
     void addNote(const std::string& text, CGFloat fontSize);
     void addHeader(const std::string& hero);
-    void addButtonRow(std::initializer_list<TitledAction> buttons);
+    void addPermissionRow(const SettingsWindowTexts& texts);
     void addProfileRow(const SettingsWindowTexts& texts);
-    void addEnableSwitch();
+    void addSwitchRow(const SettingsWindowTexts& texts);
+    // Gives a control made with the controls its title and its action.
+    void wire(NSButton* button, const std::string& title, SEL action);
     void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);
     NSPopUpButton* makeActionMenu(NSInteger slot, const std::vector<std::string>& names);
     NSButton* makeRecordButton(NSInteger slot, const std::string& title);

@@ -30,6 +30,10 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)changed:(NSControl*)sender;
 - (void)recordShortcut:(NSControl*)sender;
 - (void)testDesktop;
+- (void)toggleKeepOn;
+- (void)toggleLoginItem;
+- (void)resetPermissions;
+- (void)openLoginItems;
 
 @end
 

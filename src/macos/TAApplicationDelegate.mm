@@ -89,4 +89,20 @@
     _controller->testDesktop();
 }
 
+- (void)toggleKeepOn {
+    _controller->toggleKeepOn();
+}
+
+- (void)toggleLoginItem {
+    _controller->toggleLoginItem();
+}
+
+- (void)resetPermissions {
+    _controller->resetPermissions();
+}
+
+- (void)openLoginItems {
+    _controller->openLoginItems();
+}
+
 @end

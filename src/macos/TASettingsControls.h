@@ -13,6 +13,13 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nonatomic, readonly) NSTextField* permission;
 @property(nonatomic, readonly) NSTextField* live;
 @property(nonatomic, readonly) NSButton* enabled;
+// Beside the master switch; titled when the window is built.
+@property(nonatomic, readonly) NSButton* keepOn;
+@property(nonatomic, readonly) NSButton* loginItem;
+// In the permission row, hidden until the controller says they are needed; titled when the
+// window is built.
+@property(nonatomic, readonly) NSButton* resetPermissions;
+@property(nonatomic, readonly) NSButton* openLoginItems;
 @property(nonatomic, readonly) NSPopUpButton* profileMenu;
 // One per gesture slot, in slot order.
 @property(nonatomic, readonly) NSMutableArray<NSPopUpButton*>* actionMenus;
