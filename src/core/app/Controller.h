@@ -227,7 +227,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     void afterReconnect();
     void armIfWanted(bool announce);
-    KeepOnWait missingForGestures();
+    KeepOnWait missingForGestures() const;
     void showWait(KeepOnWait wait, const std::string& before);
     void waitAfterFailedTick();
     void keepOnAtRefresh(bool accessibility, bool inputMonitoring);

@@ -130,7 +130,7 @@ void Controller::waitAfterFailedTick() {
 }
 
 // The first of toggle()'s checks that fails, in its order, or nothing.
-KeepOnWait Controller::missingForGestures() {
+KeepOnWait Controller::missingForGestures() const {
     if (!ready_) {
         return KeepOnWait::sensor;
     }

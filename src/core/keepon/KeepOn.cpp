@@ -13,10 +13,10 @@ bool readFlag(const Preferences& defaults, const char* key) {
 
 }  // namespace
 
-KeepOn::KeepOn(std::shared_ptr<Preferences> defaults) : defaults_(std::move(defaults)) {
-    enabled_ = readFlag(*defaults_, enabledKey);
-    wanted_ = enabled_ && readFlag(*defaults_, wantedKey);
-}
+KeepOn::KeepOn(std::shared_ptr<Preferences> defaults)
+    : defaults_(std::move(defaults)),
+      enabled_(readFlag(*defaults_, enabledKey)),
+      wanted_(enabled_ && readFlag(*defaults_, wantedKey)) {}
 
 void KeepOn::setEnabled(bool on, bool gesturesOn) {
     enabled_ = on;
