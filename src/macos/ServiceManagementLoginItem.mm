@@ -46,7 +46,7 @@ id<TAAppService> mainApp() {
     if (service == nil || ![service respondsToSelector:@selector(mainAppService)]) {
         return nil;
     }
-    return [(id<TAAppServiceClass>)service mainAppService];
+    return [(Class<TAAppServiceClass>)service mainAppService];
 }
 
 std::int64_t errorCode(NSError* error) {
@@ -93,7 +93,7 @@ std::int64_t ServiceManagementLoginItem::unregisterItem() {
 void ServiceManagementLoginItem::openLoginItemsSettings() {
     Class service = appServiceClass();
     if (service != nil && [service respondsToSelector:@selector(openSystemSettingsLoginItems)]) {
-        [(id<TAAppServiceClass>)service openSystemSettingsLoginItems];
+        [(Class<TAAppServiceClass>)service openSystemSettingsLoginItems];
     }
 }
 
