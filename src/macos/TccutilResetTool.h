@@ -9,7 +9,8 @@
 
 namespace tactora::macos {
 
-// Runs /usr/bin/tccutil directly (an argument array, no shell) and waits for it.
+// Runs /usr/bin/tccutil directly (an argument array, no shell) and waits for it; a tool that
+// could not be started, or that did not exit normally, counts as exit status -1.
 class TccutilResetTool final : public PermissionResetTool {
   public:
     std::optional<std::string> bundleIdentifier() const override;
