@@ -52,7 +52,7 @@ TEST_F(ControllerKeepOnTest, WakeWithKeepOnOffEndsPaused) {
 TEST_F(ControllerKeepOnTest, WakeWithKeepOnOnPausesThenComesBackOn) {
     launchKeepingOn(h);
     h.workspace.wake();
-    // The specified order first: the tap is disabled by the pause, then the sensor restarts,
+    // The usual order first: the tap is disabled by the pause, then the sensor restarts,
     // and only then is the tap enabled again.
     const auto& calls = h.log.calls;
     const auto start = std::ranges::find(calls, "sensor.start");
