@@ -23,6 +23,13 @@ class AppKitSettingsView final : public SettingsView {
     bool isEnabledOn() const override;
     void setEnabledOn(bool on) override;
 
+    bool isKeepOnChecked() const override;
+    void setKeepOnChecked(bool on) override;
+    bool isLoginItemChecked() const override;
+    void setLoginItemChecked(bool on) override;
+    void setResetPermissionsVisible(bool visible) override;
+    void setLoginItemsSettingsVisible(bool visible) override;
+
     void setProfileItems(const std::vector<ProfileMenuItem>& items) override;
     void selectProfileItem(std::size_t index) override;
     std::optional<std::string> selectedProfileID() const override;

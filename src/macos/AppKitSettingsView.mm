@@ -24,6 +24,35 @@ void AppKitSettingsView::setEnabledOn(bool on) {
     controls_.enabled.state = on ? NSControlStateValueOn : NSControlStateValueOff;
 }
 
+bool AppKitSettingsView::isKeepOnChecked() const {
+    return controls_.keepOn.state == NSControlStateValueOn;
+}
+
+void AppKitSettingsView::setKeepOnChecked(bool on) {
+    controls_.keepOn.state = on ? NSControlStateValueOn : NSControlStateValueOff;
+}
+
+bool AppKitSettingsView::isLoginItemChecked() const {
+    return controls_.loginItem.state == NSControlStateValueOn;
+}
+
+void AppKitSettingsView::setLoginItemChecked(bool on) {
+    controls_.loginItem.state = on ? NSControlStateValueOn : NSControlStateValueOff;
+}
+
+void AppKitSettingsView::setResetPermissionsVisible(bool visible) {
+    // Compared first: the refresh timer calls this five times a second.
+    if (controls_.resetPermissions.hidden == visible) {
+        controls_.resetPermissions.hidden = !visible;
+    }
+}
+
+void AppKitSettingsView::setLoginItemsSettingsVisible(bool visible) {
+    if (controls_.openLoginItems.hidden == visible) {
+        controls_.openLoginItems.hidden = !visible;
+    }
+}
+
 void AppKitSettingsView::setProfileItems(const std::vector<ProfileMenuItem>& items) {
     NSPopUpButton* menu = controls_.profileMenu;
     [menu removeAllItems];

@@ -13,10 +13,15 @@
 #include "macos/AppKitWorkspace.h"
 #include "macos/CGEventPoster.h"
 #include "macos/DispatchMainQueue.h"
+#include "macos/IOKitDeviceWatcher.h"
 #include "macos/MachPortEventTap.h"
+#include "macos/ServiceManagementLoginItem.h"
 #include "macos/SystemPermissions.h"
+#include "macos/SystemProcessActivity.h"
+#include "macos/SystemSecureInput.h"
 #import "macos/TAApplicationDelegate.h"
 #import "macos/TASettingsControls.h"
+#include "macos/TccutilResetTool.h"
 #include "macos/UptimeClock.h"
 
 namespace tactora::macos {
@@ -44,6 +49,11 @@ class MacApplication {
     MachPortEventTap tap_;
     AppKitDialogs dialogs_;
     AppKitProfileFiles files_;
+    IOKitDeviceWatcher devices_;
+    ServiceManagementLoginItem loginItem_;
+    SystemProcessActivity activity_;
+    SystemSecureInput secureInput_;
+    TccutilResetTool resetTool_;
     TASettingsControls* __strong controls_;
     TAApplicationDelegate* __strong delegate_;
     AppKitSettingsView view_;

@@ -36,6 +36,11 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
           .defaults = std::move(defaults),
           .surface = surface_,
           .files = files_,
+          .devices = devices_,
+          .loginItem = loginItem_,
+          .activity = activity_,
+          .secureInput = secureInput_,
+          .resetTool = resetTool_,
       })) {
     [delegate_ attachController:controller_];
 }

@@ -2,7 +2,6 @@
 
 #import <AppKit/AppKit.h>
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,11 +35,13 @@ class SettingsWindowBuilder {
     // A wrapping label in the secondary colour.
     void addNote(const std::string& text, CGFloat fontSize);
     void addHeader(const std::string& hero);
-    void addButtonRow(std::initializer_list<TitledAction> buttons);
+    void addPermissionRow(const SettingsWindowTexts& texts);
     void addProfileRow(const SettingsWindowTexts& texts);
     NSPopUpButton* makeProfileActions(const SettingsWindowTexts& texts);
     NSMenuItem* makeMenuItem(std::string_view title, SEL action);
-    void addEnableSwitch();
+    void addSwitchRow(const SettingsWindowTexts& texts);
+    // Gives a control made with the controls its title and its action.
+    void wire(NSButton* button, const std::string& title, SEL action);
     void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);
     // Puts the live view in the free strip beside the gesture rows, outside the column.
     void placeSurface(NSWindow* window);

@@ -67,11 +67,9 @@ NSWindow* SettingsWindowBuilder::build(const SettingsWindowTexts& texts) {
     addWrapping(controls_.status);
     controls_.permission.font = [NSFont systemFontOfSize:12];
     addWrapping(controls_.permission);
-    addButtonRow({{texts.allowAccessibility, @selector(access)},
-                  {texts.allowInputMonitoring, @selector(monitor)},
-                  {texts.reconnect, @selector(reconnect)}});
+    addPermissionRow(texts);
     addProfileRow(texts);
-    addEnableSwitch();
+    addSwitchRow(texts);
     for (const GestureRow& row : texts.gestureRows) {
         addGestureRow(row, texts);
     }
@@ -150,12 +148,26 @@ void SettingsWindowBuilder::addHeader(const std::string& hero) {
     add(header);
 }
 
-void SettingsWindowBuilder::addButtonRow(std::initializer_list<TitledAction> buttons) {
+// The three permission buttons, then the two that repair things, hidden (and so taking no room
+// in the row) until the controller shows them.
+void SettingsWindowBuilder::addPermissionRow(const SettingsWindowTexts& texts) {
     NSMutableArray<NSView*>* views = [NSMutableArray array];
-    for (const TitledAction& button : buttons) {
+    for (const TitledAction& button : {TitledAction{texts.allowAccessibility, @selector(access)},
+                                       TitledAction{texts.allowInputMonitoring, @selector(monitor)},
+                                       TitledAction{texts.reconnect, @selector(reconnect)}}) {
         [views addObject:makeButton(button.title, button.action)];
     }
-    add(makeRow(views, 8));
+    wire(controls_.resetPermissions, texts.resetPermissions, @selector(resetPermissions));
+    controls_.resetPermissions.bezelStyle = NSBezelStylePush;
+    letGiveWay(controls_.resetPermissions);
+    [views addObject:controls_.resetPermissions];
+    wire(controls_.openLoginItems, texts.openLoginItems, @selector(openLoginItems));
+    controls_.openLoginItems.bezelStyle = NSBezelStylePush;
+    letGiveWay(controls_.openLoginItems);
+    [views addObject:controls_.openLoginItems];
+    NSStackView* row = makeRow(views, 8);
+    row.detachesHiddenViews = YES;
+    add(row);
 }
 
 void SettingsWindowBuilder::addProfileRow(const SettingsWindowTexts& texts) {
@@ -207,11 +219,23 @@ NSMenuItem* SettingsWindowBuilder::makeMenuItem(std::string_view title, SEL acti
     return item;
 }
 
-void SettingsWindowBuilder::addEnableSwitch() {
+// The master switch keeps its place in the column; the two choices that keep gestures going
+// sit on its line.
+void SettingsWindowBuilder::addSwitchRow(const SettingsWindowTexts& texts) {
     controls_.enabled.target = target_;
     controls_.enabled.action = @selector(toggle);
-    letGiveWay(controls_.enabled);
-    add(controls_.enabled);
+    wire(controls_.keepOn, texts.keepGesturesOn, @selector(toggleKeepOn));
+    wire(controls_.loginItem, texts.openAtLogin, @selector(toggleLoginItem));
+    for (NSButton* box in @[ controls_.enabled, controls_.keepOn, controls_.loginItem ]) {
+        letGiveWay(box);
+    }
+    add(makeRow(@[ controls_.enabled, controls_.keepOn, controls_.loginItem ], 18));
+}
+
+void SettingsWindowBuilder::wire(NSButton* button, const std::string& title, SEL action) {
+    button.title = toNSString(title);
+    button.target = target_;
+    button.action = action;
 }
 
 void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts) {

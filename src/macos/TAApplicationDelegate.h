@@ -37,6 +37,10 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)recordShortcut:(NSControl*)sender;
 - (void)testDesktop;
 - (void)toggleMenuBarFeedback;
+- (void)toggleKeepOn;
+- (void)toggleLoginItem;
+- (void)resetPermissions;
+- (void)openLoginItems;
 
 @end
 

@@ -126,4 +126,20 @@
     _controller->toggleMenuBarFeedback();
 }
 
+- (void)toggleKeepOn {
+    _controller->toggleKeepOn();
+}
+
+- (void)toggleLoginItem {
+    _controller->toggleLoginItem();
+}
+
+- (void)resetPermissions {
+    _controller->resetPermissions();
+}
+
+- (void)openLoginItems {
+    _controller->openLoginItems();
+}
+
 @end

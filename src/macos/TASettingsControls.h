@@ -16,6 +16,13 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nonatomic, readonly) NSTextField* permission;
 @property(nonatomic, readonly) NSTextField* live;
 @property(nonatomic, readonly) NSButton* enabled;
+// Beside the master switch; titled when the window is built.
+@property(nonatomic, readonly) NSButton* keepOn;
+@property(nonatomic, readonly) NSButton* loginItem;
+// In the permission row, hidden until the controller says they are needed; titled when the
+// window is built.
+@property(nonatomic, readonly) NSButton* resetPermissions;
+@property(nonatomic, readonly) NSButton* openLoginItems;
 @property(nonatomic, readonly) NSPopUpButton* profileMenu;
 // The profile actions pull-down's delete item, which exists (untitled, outside any menu) before
 // the window places it, so that its enabled state can be set from the start.

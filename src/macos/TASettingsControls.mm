@@ -10,6 +10,12 @@
         _live = [NSTextField labelWithString:@""];
         _enabled = [NSButton checkboxWithTitle:enableTitle target:nil action:nil];
         _enabled.state = NSControlStateValueOff;
+        _keepOn = [NSButton checkboxWithTitle:@"" target:nil action:nil];
+        _loginItem = [NSButton checkboxWithTitle:@"" target:nil action:nil];
+        _resetPermissions = [NSButton buttonWithTitle:@"" target:nil action:nil];
+        _resetPermissions.hidden = YES;
+        _openLoginItems = [NSButton buttonWithTitle:@"" target:nil action:nil];
+        _openLoginItems.hidden = YES;
         _profileMenu = [[NSPopUpButton alloc] initWithFrame:NSZeroRect pullsDown:NO];
         _deleteProfileItem = [[NSMenuItem alloc] initWithTitle:@"" action:nil keyEquivalent:@""];
         _applicationsSheet = [[TAApplicationsSheet alloc] init];

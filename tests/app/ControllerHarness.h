@@ -4,17 +4,23 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/fakes/CallLog.h"
 #include "app/fakes/FakeAppShell.h"
 #include "app/fakes/FakeClock.h"
+#include "app/fakes/FakeDeviceWatcher.h"
 #include "app/fakes/FakeDialogs.h"
 #include "app/fakes/FakeEventPoster.h"
 #include "app/fakes/FakeEventTap.h"
+#include "app/fakes/FakeLoginItem.h"
 #include "app/fakes/FakeMainQueue.h"
+#include "app/fakes/FakePermissionResetTool.h"
 #include "app/fakes/FakePermissions.h"
+#include "app/fakes/FakeProcessActivity.h"
 #include "app/fakes/FakeProfileFiles.h"
+#include "app/fakes/FakeSecureInput.h"
 #include "app/fakes/FakeSensor.h"
 #include "app/fakes/FakeSettingsView.h"
 #include "app/fakes/FakeSurfaceView.h"
@@ -50,18 +56,25 @@ inline std::shared_ptr<const StringsTable> testTable() {
         {"profile.automatic", "%@ (for %@)"},
         {"profile.delete.message", "delete %@"},
         {"apps.title", "apps of %@"},
+        {"keep.cooldown", "cool %d"},
+        {"reset.failed", "reset failed %d"},
+        {"login.failed", "login failed %d"},
     });
 }
 
 // A controller wired to fakes, installed as the application controller, on virtual time.
 class ControllerHarness {
   public:
-    ControllerHarness() {
+    ControllerHarness() : ControllerHarness(std::make_shared<MemoryPreferences>()) {}
+    // On defaults that an earlier run left behind.
+    explicit ControllerHarness(std::shared_ptr<MemoryPreferences> earlierDefaults)
+        : defaults(std::move(earlierDefaults)) {
         sensor.mice.insert(mouseSender);
         setStringTable(testTable());
         initializeGlobals();
         controller = Controller::create({clock, queue, workspace, permissions, poster, eventTap,
-                                         sensor, shell, view, dialogs, defaults, surface, files});
+                                         sensor, shell, view, dialogs, defaults, surface, files,
+                                         devices, loginItem, activity, secureInput, resetTool});
         setApplicationController(controller);
     }
     ~ControllerHarness() {
@@ -132,8 +145,13 @@ class ControllerHarness {
     FakeSettingsView view{log};
     FakeDialogs dialogs{log};
     FakeSurfaceView surface;
-    std::shared_ptr<MemoryPreferences> defaults = std::make_shared<MemoryPreferences>();
+    std::shared_ptr<MemoryPreferences> defaults;
     FakeProfileFiles files{log};
+    FakeDeviceWatcher devices;
+    FakeLoginItem loginItem;
+    FakeProcessActivity activity;
+    FakeSecureInput secureInput;
+    FakePermissionResetTool resetTool;
     std::shared_ptr<Controller> controller;
 };
 

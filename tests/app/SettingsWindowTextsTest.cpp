@@ -106,6 +106,19 @@ TEST_F(SettingsWindowTextsTest, BrazilianPortuguese) {
     EXPECT_EQ(texts.actionNames.back(), "Atalho personalizado");
 }
 
+TEST_F(SettingsWindowTextsTest, TheControlsThatKeepGesturesGoingInBothLanguages) {
+    const SettingsWindowTexts english = textsIn("en");
+    EXPECT_EQ(english.keepGesturesOn, "Keep gestures on");
+    EXPECT_EQ(english.openAtLogin, "Open at login");
+    EXPECT_EQ(english.resetPermissions, "Reset Permissions…");
+    EXPECT_EQ(english.openLoginItems, "Open Login Items Settings…");
+    const SettingsWindowTexts portuguese = textsIn("pt-BR");
+    EXPECT_EQ(portuguese.keepGesturesOn, "Manter gestos ativos");
+    EXPECT_EQ(portuguese.openAtLogin, "Abrir ao iniciar sessão");
+    EXPECT_EQ(portuguese.resetPermissions, "Redefinir Permissões…");
+    EXPECT_EQ(portuguese.openLoginItems, "Abrir Ajustes de Itens de Início…");
+}
+
 TEST_F(SettingsWindowTextsTest, TitleIsNotTranslated) {
     EXPECT_EQ(textsIn("pt-BR").title, textsIn("en").title);
 }

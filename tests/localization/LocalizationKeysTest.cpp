@@ -76,6 +76,12 @@ TEST(LocalizationKeysTest, SixteenKeysTakeArgumentsAndTheRestNone) {
     EXPECT_EQ(withArguments, 16U);
 }
 
+TEST(LocalizationKeysTest, KeepingGesturesOnShowsSecondsCodesAndExitStatuses) {
+    for (const std::string_view key : {"keep.cooldown", "reset.failed", "login.failed"}) {
+        EXPECT_EQ(argumentsOf(key), std::vector{integerArgument}) << key;
+    }
+}
+
 TEST(LocalizationKeysTest, UnknownKeyHasNoEntry) {
     EXPECT_FALSE(findLocalizationKey("menu.settings"));
     EXPECT_FALSE(findLocalizationKey(""));

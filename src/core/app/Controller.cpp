@@ -13,7 +13,10 @@ std::shared_ptr<Controller> Controller::create(ControllerServices services) {
 }
 
 Controller::Controller(Passkey /*unused*/, ControllerServices services)
-    : services_(std::move(services)), feedback_(services_.defaults) {
+    : services_(std::move(services)),
+      keepOn_(services_.defaults),
+      permissionMemory_(services_.defaults),
+      feedback_(services_.defaults) {
     frameFingers_.reserve(ContactFrame::capacity);
     services_.view.setLiveText(L("live", std::int64_t{0}, lastGesture_, lastAction_));
 }

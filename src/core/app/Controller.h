@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/actions/ActionIndex.h"
@@ -22,8 +23,11 @@
 #include "core/gestures/GestureDispatchContext.h"
 #include "core/gestures/GestureState.h"
 #include "core/platform/ApplicationsSheet.h"
+#include "core/keepon/KeepOn.h"
+#include "core/keepon/PermissionMemory.h"
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
+#include "core/platform/LoginItemStatus.h"
 #include "core/platform/MouseButton.h"
 #include "core/platform/StatusItemAppearance.h"
 #include "core/platform/TapEvent.h"
@@ -116,6 +120,28 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // One contact frame, on the main thread: feeds the recogniser and schedules a recognised
     // tap's action tapDelay seconds later.
     void receive(std::span<const Finger> fingers);
+
+    // --- Keeping gestures on ------------------------------------------------------------------
+
+    // A reconnect after a device arrived or left waits this long, so that a burst of device
+    // notices (and a mouse still settling) leads to one reconnect.
+    static constexpr double deviceSettle = 0.5;
+
+    // The "Keep gestures on" checkbox's action: takes its state, and the master switch's as
+    // the user's choice.
+    void toggleKeepOn();
+    // A multitouch mouse arrived or left: reconnects, deviceSettle seconds later.
+    void deviceArrived();
+    void deviceLeft();
+    // The "Open at login" checkbox's action: registers or unregisters the login item.
+    void toggleLoginItem();
+    // Opens the Login Items pane of System Settings, where a pending login item is approved.
+    void openLoginItems();
+    // Resets both permissions of this application with the system's tool, then asks for both
+    // again as access() and monitor() do. A failed reset shows the tool's exit status.
+    void resetPermissions();
+
+    const KeepOn& keepOn() const { return keepOn_; }
 
     // --- Status display ----------------------------------------------------------------------
 
@@ -257,6 +283,21 @@ class Controller : public std::enable_shared_from_this<Controller> {
     EventDisposition pressContinues(EventType type, TapEvent& event, std::int64_t button);
     void performOnRelease(const Press& press);
 
+    void afterReconnect();
+    void armIfWanted(bool announce);
+    KeepOnWait missingForGestures() const;
+    void showWait(KeepOnWait wait, const std::string& before);
+    void waitAfterFailedTick();
+    void keepOnAtRefresh(bool accessibility, bool inputMonitoring);
+    void coolDown(double seconds);
+    void scheduleWakeRetry();
+    void scheduleDeviceReconnect();
+    void syncActivity();
+    void refreshLoginItem();
+    void warnIfSecureInput();
+    std::string permissionLine(bool accessibility, bool inputMonitoring);
+    void watchDevices();
+
     bool activateOtherInstance();
     void buildWindow();
     void createStatusItem();
@@ -305,6 +346,18 @@ class Controller : public std::enable_shared_from_this<Controller> {
     std::string frontmostBundleID_;
     std::string frontmostName_;          // what the user calls that application
     std::optional<Uuid> editedProfile_;  // the applications sheet's profile while it is open
+
+    KeepOn keepOn_;
+    PermissionMemory permissionMemory_;
+    // Above zero while the program itself pauses or switches gestures on (launch, wake,
+    // reconnect, quit, keeping gestures on): then the switch's state is not the user's choice.
+    int programActions_ = 0;
+    int pausing_ = 0;
+    bool activityHeld_ = false;
+    bool deviceReconnectPending_ = false;
+    std::string sensorText_;
+    std::optional<std::pair<bool, bool>> lastPermissions_;
+    std::optional<LoginItemStatus> loginStatus_;
 
     bool windowBuilt_ = false;
     bool statusItemCreated_ = false;

@@ -38,6 +38,7 @@ void Controller::perform(ActionIndex action, const std::optional<SavedShortcut>&
     }
     if (const std::optional<KeyStroke> stroke = catalogue::keyStroke(action)) {
         sendKeys(stroke->keyCode, stroke->flags);
+        warnIfSecureInput();
     }
 }
 
@@ -70,6 +71,13 @@ void Controller::performShortcut(const std::optional<SavedShortcut>& shortcut) {
     sendKeys(shortcut->keyCode, shortcut->flags);
     lastAction_ = "· " + shortcut->label;
     refresh();
+    warnIfSecureInput();
+}
+
+void Controller::warnIfSecureInput() {
+    if (services_.secureInput.enabled()) {
+        services_.view.setStatusText(L("secure.input"));
+    }
 }
 
 void Controller::notifyDock(ActionIndex action, bool showDesktop) {

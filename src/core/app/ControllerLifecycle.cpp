@@ -7,6 +7,7 @@
 #include "core/app/Controller.h"
 #include "core/app/SettingsWindowTexts.h"
 #include "core/localization/Localizer.h"
+#include "core/support/ScopedCount.h"
 
 namespace tactora {
 
@@ -31,6 +32,7 @@ void Controller::applicationDidFinishLaunching() {
     observeFrontmostApplication();
     frontmostApplicationChanged(services_.workspace.frontmostProcessID(),
                                 services_.workspace.frontmostBundleID());
+    watchDevices();
     show();
 }
 
@@ -43,6 +45,8 @@ void Controller::applicationDidResignActive() {
 }
 
 void Controller::applicationWillTerminate() {
+    // The program's pause: the user's choice is kept for the next launch.
+    const ScopedCount program(programActions_);
     pause();
     services_.sensor.stop();
 }
@@ -65,27 +69,41 @@ void Controller::quit() {
 }
 
 void Controller::pause() {
+    if (programActions_ == 0) {
+        keepOn_.userChose(false);
+    }
     cancelPendingActions();
     services_.view.setEnabledOn(false);
+    const ScopedCount inPause(pausing_);
     toggle();
 }
 
 void Controller::toggle() {
+    const bool byUser = programActions_ == 0 && pausing_ == 0;
+    if (byUser) {
+        keepOn_.userChose(services_.view.isEnabledOn());
+    }
     cancelPendingActions();
     if (!services_.view.isEnabledOn()) {
         releasePresses();
         if (services_.tap.exists()) {
             services_.tap.setEnabled(false);
         }
+        syncActivity();
         return;
     }
     // Tested in this order so that no tap is attempted without both permissions.
     if (ready_ && services_.permissions.accessibilityTrusted() &&
         services_.permissions.inputMonitoringGranted() && installTap()) {
+        syncActivity();
         return;
     }
     services_.view.setEnabledOn(false);
     services_.view.setStatusText(L("error.enable"));
+    syncActivity();
+    if (byUser && keepOn_.shouldArm()) {
+        waitAfterFailedTick();
+    }
 }
 
 void Controller::access() {
@@ -122,6 +140,7 @@ void Controller::buildWindow() {
             self->surfaceVisibilityChanged(visible);
         }
     });
+    services_.view.setKeepOnChecked(keepOn_.enabled());
     refreshProfileUI();
 }
 

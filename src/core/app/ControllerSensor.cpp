@@ -6,20 +6,28 @@
 #include "core/localization/Localizer.h"
 #include "core/profiles/GestureSlot.h"
 #include "core/support/Fatal.h"
+#include "core/support/ScopedCount.h"
 
 namespace tactora {
 
 void Controller::reconnect() {
-    pause();
-    gesture_.reset();
-    lastFrame_ = 0;
-    ready_ = services_.sensor.start(&Controller::frameCallback);
-    const std::int64_t error = services_.sensor.statusError();
-    services_.view.setStatusText(L(services_.sensor.status(), error));
-    refresh();
+    {
+        const ScopedCount program(programActions_);
+        pause();
+        gesture_.reset();
+        lastFrame_ = 0;
+        ready_ = services_.sensor.start(&Controller::frameCallback);
+        const std::int64_t error = services_.sensor.statusError();
+        sensorText_ = L(services_.sensor.status(), error);
+        services_.view.setStatusText(sensorText_);
+        refresh();
+    }
+    afterReconnect();
 }
 
 void Controller::woke() {
+    keepOn_.woke();
+    const ScopedCount program(programActions_);
     pause();
     reconnect();
 }

@@ -4,12 +4,17 @@
 
 #include "core/platform/AppShell.h"
 #include "core/platform/Clock.h"
+#include "core/platform/DeviceWatcher.h"
 #include "core/platform/Dialogs.h"
 #include "core/platform/EventPoster.h"
 #include "core/platform/EventTap.h"
+#include "core/platform/LoginItem.h"
 #include "core/platform/MainQueue.h"
+#include "core/platform/PermissionResetTool.h"
 #include "core/platform/Permissions.h"
+#include "core/platform/ProcessActivity.h"
 #include "core/platform/ProfileFiles.h"
+#include "core/platform/SecureInput.h"
 #include "core/platform/Sensor.h"
 #include "core/platform/SettingsView.h"
 #include "core/platform/SurfaceView.h"
@@ -37,6 +42,13 @@ struct ControllerServices {
     SurfaceView& surface;
     // Where profiles are exported to and imported from.
     ProfileFiles& files;
+    // What keeps gestures working by themselves: devices coming and going, the login item,
+    // the activity that keeps the process from napping, secure input and the permission reset.
+    DeviceWatcher& devices;
+    LoginItem& loginItem;
+    ProcessActivity& activity;
+    SecureInput& secureInput;
+    PermissionResetTool& resetTool;
 };
 
 }  // namespace tactora

@@ -17,9 +17,10 @@ std::string permissionState(bool granted) {
 }  // namespace
 
 void Controller::refresh() {
-    services_.view.setPermissionText(
-        L("permissions", permissionState(services_.permissions.accessibilityTrusted()),
-          permissionState(services_.permissions.inputMonitoringGranted())));
+    const bool accessibility = services_.permissions.accessibilityTrusted();
+    const bool inputMonitoring = services_.permissions.inputMonitoringGranted();
+    permissionMemory_.observe(accessibility, inputMonitoring);
+    services_.view.setPermissionText(permissionLine(accessibility, inputMonitoring));
     const bool fresh = services_.clock.uptime() - lastFrame_ < liveContact;
     const std::int64_t fingers = fresh ? gesture_.count : 0;
     services_.view.setLiveText(L("live", fingers, lastGesture_, lastAction_));
@@ -27,6 +28,21 @@ void Controller::refresh() {
         showSurface();
     }
     updateMenuIcon();
+    refreshLoginItem();
+    keepOnAtRefresh(accessibility, inputMonitoring);
+}
+
+std::string Controller::permissionLine(bool accessibility, bool inputMonitoring) {
+    std::string line =
+        L("permissions", permissionState(accessibility), permissionState(inputMonitoring));
+    const bool stale = permissionMemory_.accessibilityStale(accessibility) ||
+                       permissionMemory_.inputMonitoringStale(inputMonitoring);
+    if (stale) {
+        line += " · " + L("permission.stale");
+    }
+    // A tap the system refuses although both are granted is the other face of a stale grant.
+    services_.view.setResetPermissionsVisible(stale || keepOn_.waiting() == KeepOnWait::eventTap);
+    return line;
 }
 
 void Controller::updateMenuIcon() {

@@ -73,6 +73,13 @@ void Controller::tapDisabled() {
     releasePresses();
     services_.view.setEnabledOn(false);
     services_.view.setStatusText(L("error.paused"));
+    syncActivity();
+    if (!keepOn_.enabled() || !keepOn_.wanted()) {
+        return;
+    }
+    if (const std::optional<double> seconds = keepOn_.tapDisabled(services_.clock.uptime())) {
+        coolDown(*seconds);
+    }
 }
 
 bool Controller::isFromMouse(const TapEvent& event) {

@@ -30,6 +30,10 @@ SettingsWindowTexts settingsWindowTexts() {
         .recordHint = L("record.hint"),
         .testDesktop = L("test.desktop"),
         .footer = L("footer"),
+        .keepGesturesOn = L("keep.enable"),
+        .openAtLogin = L("login.open"),
+        .resetPermissions = L("permission.reset"),
+        .openLoginItems = L("login.settings"),
     };
 }
 

@@ -36,6 +36,11 @@ struct SettingsWindowTexts {
     std::string recordHint;
     std::string testDesktop;
     std::string footer;
+    // Beside the master switch, and in the permission row.
+    std::string keepGesturesOn;
+    std::string openAtLogin;
+    std::string resetPermissions;
+    std::string openLoginItems;
 
     bool operator==(const SettingsWindowTexts&) const = default;
 };

@@ -145,6 +145,24 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("key.delete"),
     LocalizationKey("key.escape"),
     LocalizationKey("key.forwarddelete"),
+    // Keeping gestures on by themselves: the checkboxes and buttons, what it waits for, the
+    // event tap's cool-down in seconds, a stale grant, the permission reset with the tool's exit
+    // status, the login item with the system's error code, and secure input.
+    LocalizationKey("keep.enable"),
+    LocalizationKey("login.open"),
+    LocalizationKey("permission.reset"),
+    LocalizationKey("login.settings"),
+    LocalizationKey("keep.wait.sensor"),
+    LocalizationKey("keep.wait.accessibility"),
+    LocalizationKey("keep.wait.monitoring"),
+    LocalizationKey("keep.wait.tap"),
+    LocalizationKey("keep.cooldown", {integerArgument}),
+    LocalizationKey("permission.stale"),
+    LocalizationKey("reset.failed", {integerArgument}),
+    LocalizationKey("reset.done"),
+    LocalizationKey("login.approval"),
+    LocalizationKey("login.failed", {integerArgument}),
+    LocalizationKey("secure.input"),
 });
 
 // The entry for `key`, or nothing when the program never looks it up.

@@ -34,6 +34,17 @@ class SettingsView {
     virtual bool isEnabledOn() const = 0;
     virtual void setEnabledOn(bool on) = 0;
 
+    // The "Keep gestures on" checkbox; the user's clicking it reaches toggleKeepOn().
+    virtual bool isKeepOnChecked() const = 0;
+    virtual void setKeepOnChecked(bool on) = 0;
+    // The "Open at login" checkbox; the user's clicking it reaches toggleLoginItem().
+    virtual bool isLoginItemChecked() const = 0;
+    virtual void setLoginItemChecked(bool on) = 0;
+    // The permission row's "Reset Permissions…" and "Open Login Items Settings…" buttons,
+    // hidden until they are needed.
+    virtual void setResetPermissionsVisible(bool visible) = 0;
+    virtual void setLoginItemsSettingsVisible(bool visible) = 0;
+
     // Replaces every item of the profile pop-up.
     virtual void setProfileItems(const std::vector<ProfileMenuItem>& items) = 0;
     // Selects the profile pop-up's item at `index`.

@@ -24,6 +24,13 @@ class FakeSettingsView final : public SettingsView {
     bool isEnabledOn() const override { return enabled; }
     void setEnabledOn(bool on) override { enabled = on; }
 
+    bool isKeepOnChecked() const override { return keepOn; }
+    void setKeepOnChecked(bool on) override { keepOn = on; }
+    bool isLoginItemChecked() const override { return loginItem; }
+    void setLoginItemChecked(bool on) override { loginItem = on; }
+    void setResetPermissionsVisible(bool visible) override { resetVisible = visible; }
+    void setLoginItemsSettingsVisible(bool visible) override { loginItemsVisible = visible; }
+
     void setProfileItems(const std::vector<ProfileMenuItem>& items) override {
         profileItems = items;
         selectedProfile.reset();
@@ -63,6 +70,10 @@ class FakeSettingsView final : public SettingsView {
     std::string permission;
     std::string live;
     bool enabled = false;
+    bool keepOn = false;
+    bool loginItem = false;
+    bool resetVisible = false;
+    bool loginItemsVisible = false;
     std::vector<ProfileMenuItem> profileItems;
     std::optional<std::size_t> selectedProfile;
     std::optional<std::string> profileChoice;  // the user's pick, overriding the selection

@@ -1,0 +1,34 @@
+#ifndef TACTORA_BRIDGE_DEVICEWATCH_H
+#define TACTORA_BRIDGE_DEVICEWATCH_H
+
+/*
+ * Watches the IOKit registry for multitouch devices that pass the bridge's mouse test arriving
+ * and leaving, through matching notifications whose run-loop source is on the main run loop (in
+ * the common modes). Devices present when watching starts are taken as known, not reported.
+ * On systems without the IOKit registry watching is unavailable: TAWatchDevices returns NULL.
+ *
+ * Threads: everything, the callback included, runs on the main thread.
+ */
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Called once per mouse that arrived (`arrived` 1) or left (`arrived` 0). */
+typedef void (*TADeviceChange)(void* context, int32_t arrived);
+
+typedef struct TADeviceWatch TADeviceWatch;
+
+/* Starts watching; NULL when watching is unavailable or the system refused. */
+TADeviceWatch* TAWatchDevices(TADeviceChange change, void* context);
+
+/* Stops watching and frees everything TAWatchDevices made; NULL is ignored. */
+void TAStopWatchingDevices(TADeviceWatch* watch);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,139 @@
+#ifdef __APPLE__
+
+#include "bridge/DeviceWatch.h"
+
+#include <CoreFoundation/CoreFoundation.h>
+#include <IOKit/IOKitLib.h>
+#include <stdbool.h>
+#include <stdlib.h>
+
+#include "bridge/DeviceRegistry.h"
+
+/* More mice than anyone connects at once; further ones are still reported when they arrive. */
+enum { knownCapacity = 16 };
+
+struct TADeviceWatch {
+    TADeviceChange change;
+    void* context;
+    IONotificationPortRef port;
+    io_iterator_t arrivals;
+    io_iterator_t removals;
+    /* Registry entry ids of the mice seen: a removed service can no longer be asked whether it
+     * was a mouse, so a removal is reported only for an id seen arriving. */
+    uint64_t known[knownCapacity];
+    int32_t knownCount;
+};
+
+static uint64_t entryID(io_service_t service) {
+    uint64_t id = 0;
+    if (IORegistryEntryGetRegistryEntryID(service, &id) != KERN_SUCCESS) {
+        return 0;
+    }
+    return id;
+}
+
+static void remember(TADeviceWatch* watch, uint64_t id) {
+    for (int32_t i = 0; i < watch->knownCount; ++i) {
+        if (watch->known[i] == id) {
+            return;
+        }
+    }
+    if (id != 0 && watch->knownCount < knownCapacity) {
+        watch->known[watch->knownCount++] = id;
+    }
+}
+
+static bool forget(TADeviceWatch* watch, uint64_t id) {
+    for (int32_t i = 0; i < watch->knownCount; ++i) {
+        if (watch->known[i] == id) {
+            watch->known[i] = watch->known[--watch->knownCount];
+            return true;
+        }
+    }
+    return false;
+}
+
+/* Walks the new arrivals; `report` is false for the devices present at the start. */
+static void takeArrivals(TADeviceWatch* watch, bool report) {
+    io_service_t service;
+    while ((service = IOIteratorNext(watch->arrivals)) != IO_OBJECT_NULL) {
+        if (TAIsMouseService(service)) {
+            remember(watch, entryID(service));
+            if (report) {
+                watch->change(watch->context, 1);
+            }
+        }
+        IOObjectRelease(service);
+    }
+}
+
+static void takeRemovals(TADeviceWatch* watch, bool report) {
+    io_service_t service;
+    while ((service = IOIteratorNext(watch->removals)) != IO_OBJECT_NULL) {
+        if (forget(watch, entryID(service)) && report) {
+            watch->change(watch->context, 0);
+        }
+        IOObjectRelease(service);
+    }
+}
+
+static void arrived(void* refcon, io_iterator_t iterator) {
+    (void)iterator;
+    takeArrivals(refcon, true);
+}
+
+static void removed(void* refcon, io_iterator_t iterator) {
+    (void)iterator;
+    takeRemovals(refcon, true);
+}
+
+TADeviceWatch* TAWatchDevices(TADeviceChange change, void* context) {
+    TADeviceWatch* watch = calloc(1, sizeof(TADeviceWatch));
+    if (watch == NULL) {
+        return NULL;
+    }
+    watch->change = change;
+    watch->context = context;
+    watch->port = IONotificationPortCreate(kIOMainPortDefault);
+    if (watch->port == NULL) {
+        TAStopWatchingDevices(watch);
+        return NULL;
+    }
+    CFRunLoopAddSource(CFRunLoopGetMain(), IONotificationPortGetRunLoopSource(watch->port),
+                       kCFRunLoopCommonModes);
+    /* Each call consumes its matching dictionary. */
+    kern_return_t first = IOServiceAddMatchingNotification(
+        watch->port, kIOFirstMatchNotification, IOServiceMatching("AppleMultitouchDevice"), arrived,
+        watch, &watch->arrivals);
+    kern_return_t terminated = IOServiceAddMatchingNotification(
+        watch->port, kIOTerminatedNotification, IOServiceMatching("AppleMultitouchDevice"), removed,
+        watch, &watch->removals);
+    if (first != KERN_SUCCESS || terminated != KERN_SUCCESS) {
+        TAStopWatchingDevices(watch);
+        return NULL;
+    }
+    /* Emptying both iterators arms the notifications. */
+    takeArrivals(watch, false);
+    takeRemovals(watch, false);
+    return watch;
+}
+
+void TAStopWatchingDevices(TADeviceWatch* watch) {
+    if (watch == NULL) {
+        return;
+    }
+    if (watch->arrivals != IO_OBJECT_NULL) {
+        IOObjectRelease(watch->arrivals);
+    }
+    if (watch->removals != IO_OBJECT_NULL) {
+        IOObjectRelease(watch->removals);
+    }
+    if (watch->port != NULL) {
+        CFRunLoopRemoveSource(CFRunLoopGetMain(), IONotificationPortGetRunLoopSource(watch->port),
+                              kCFRunLoopCommonModes);
+        IONotificationPortDestroy(watch->port);
+    }
+    free(watch);
+}
+
+#endif

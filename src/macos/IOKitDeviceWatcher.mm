@@ -1,0 +1,24 @@
+#include "macos/IOKitDeviceWatcher.h"
+
+#include <utility>
+
+namespace tactora::macos {
+
+bool IOKitDeviceWatcher::watch(std::function<void()> arrived, std::function<void()> left) {
+    arrived_ = std::move(arrived);
+    left_ = std::move(left);
+    // The bridge calls back with this object as its context, on the main thread, for as long
+    // as watch_ lives; watch_ is destroyed with this object.
+    watch_.reset(TAWatchDevices(&IOKitDeviceWatcher::changed, this));
+    return watch_ != nullptr;
+}
+
+void IOKitDeviceWatcher::changed(void* context, std::int32_t arrived) {
+    auto* self = static_cast<IOKitDeviceWatcher*>(context);
+    const std::function<void()>& handler = arrived != 0 ? self->arrived_ : self->left_;
+    if (handler) {
+        handler();
+    }
+}
+
+}  // namespace tactora::macos
