@@ -4,10 +4,6 @@
 
 namespace tactora {
 
-void FingerOrigins::insert(std::int64_t id, Origin origin) {
-    entries_.push_back(Entry{id, origin});
-}
-
 bool FingerOrigins::operator==(const FingerOrigins& other) const {
     if (size() != other.size()) {
         return false;

@@ -33,7 +33,7 @@ class FingerOrigins {
     }
 
     // Records the origin of an id that find() does not know.
-    void insert(std::int64_t id, Origin origin);
+    void insert(std::int64_t id, Origin origin) { entries_.push_back(Entry{id, origin}); }
 
     std::size_t size() const { return entries_.size(); }
     bool empty() const { return entries_.empty(); }
