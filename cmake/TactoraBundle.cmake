@@ -2,8 +2,22 @@
 # its resources the same way everywhere:
 #   Tactora.app/Contents/Info.plist
 #   Tactora.app/Contents/MacOS/<executable>
-#   Tactora.app/Contents/Resources/Tactora.icns, <language>.lproj/Localizable.strings
-set(TACTORA_LOCALIZATIONS en pt-BR)
+#   Tactora.app/Contents/Resources/Tactora.icns, <language>.lproj/Localizable.strings and,
+#   where a language has counted texts, <language>.lproj/Localizable.stringsdict
+# The development language comes first.
+set(TACTORA_LOCALIZATIONS en de es fr it ja pt-BR zh-Hans)
+# A language added to resources/ but not to this list would pass the tests and yet be missing
+# from the application.
+file(GLOB tactora_found_localizations LIST_DIRECTORIES true
+     RELATIVE "${PROJECT_SOURCE_DIR}/resources" "${PROJECT_SOURCE_DIR}/resources/*.lproj")
+list(TRANSFORM tactora_found_localizations REPLACE "\\.lproj$" "")
+set(tactora_listed_localizations ${TACTORA_LOCALIZATIONS})
+list(SORT tactora_found_localizations)
+list(SORT tactora_listed_localizations)
+if(NOT tactora_found_localizations STREQUAL tactora_listed_localizations)
+    message(FATAL_ERROR "resources/ holds the localisations ${tactora_found_localizations}, "
+                        "but TACTORA_LOCALIZATIONS lists ${tactora_listed_localizations}")
+endif()
 set(TACTORA_BUNDLE_DIR "${CMAKE_BINARY_DIR}/Tactora.app")
 set(TACTORA_BUNDLE_IDENTIFIER "app.tactora.Tactora")
 if(APPLE)
@@ -30,12 +44,17 @@ function(tactora_bundle target)
                        DEPENDS "${icon}" VERBATIM)
     list(APPEND outputs "${contents}/Resources/Tactora.icns")
     foreach(language IN LISTS TACTORA_LOCALIZATIONS)
-        set(table "${PROJECT_SOURCE_DIR}/resources/${language}.lproj/Localizable.strings")
-        set(copy "${contents}/Resources/${language}.lproj/Localizable.strings")
-        add_custom_command(OUTPUT "${copy}"
-                           COMMAND ${CMAKE_COMMAND} -E copy "${table}" "${copy}"
-                           DEPENDS "${table}" VERBATIM)
-        list(APPEND outputs "${copy}")
+        foreach(file IN ITEMS Localizable.strings Localizable.stringsdict)
+            set(table "${PROJECT_SOURCE_DIR}/resources/${language}.lproj/${file}")
+            if(NOT EXISTS "${table}")
+                continue()
+            endif()
+            set(copy "${contents}/Resources/${language}.lproj/${file}")
+            add_custom_command(OUTPUT "${copy}"
+                               COMMAND ${CMAKE_COMMAND} -E copy "${table}" "${copy}"
+                               DEPENDS "${table}" VERBATIM)
+            list(APPEND outputs "${copy}")
+        endforeach()
     endforeach()
     add_custom_target(${target}_resources DEPENDS ${outputs})
     add_dependencies(${target} ${target}_resources)

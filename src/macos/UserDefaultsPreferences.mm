@@ -11,7 +11,9 @@ id UserDefaultsPreferences::object(const std::string& key) const {
 }
 
 // The typed getters of NSUserDefaults convert between strings and numbers; a value of the wrong
-// type must read as absent instead, so the object's class is checked here.
+// type must read as absent instead, so the object's class is checked here. Where text is to be
+// read as a number the way integerForKey: reads it (legacy gesture values written with
+// `defaults write`), the core's defaultsInteger does so, identically on every system.
 
 std::optional<Bytes> UserDefaultsPreferences::data(const std::string& key) const {
     id value = object(key);

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
+#include <numbers>
+#include <random>
 #include <vector>
 
 namespace tactora {
@@ -125,6 +128,38 @@ TEST(GestureState, DisplacementJustBeyondToleranceIsMovement) {
     state.update(Frame{finger(1, 0.0, 0.5)}, 1.0);
     state.update(Frame{finger(1, 0.0451, 0.5)}, 1.05);
     EXPECT_TRUE(state.moved);
+}
+
+// The hypotenuse decides, to the last bit, however the distance is computed: displacements a
+// few units in the last place either side of the tolerance, in every direction, from origins
+// anywhere on the surface.
+TEST(GestureState, MovementNearTheToleranceIsDecidedByTheHypotenuse) {
+    std::mt19937_64 random(45);
+    std::uniform_real_distribution<double> angle(0.0, 2 * std::numbers::pi);
+    std::uniform_real_distribution<double> place(0.0, 1.0);
+    std::uniform_int_distribution<int> ulps(-8, 8);
+    int moves = 0;
+    for (int i = 0; i < 20000; ++i) {
+        double length = GestureState::movementTolerance;
+        for (int step = ulps(random); step != 0; step += step > 0 ? -1 : 1) {
+            length = std::nextafter(length, step > 0 ? 1.0 : 0.0);
+        }
+        const double direction = angle(random);
+        const Finger origin = finger(1, place(random), place(random));
+        const Finger moved = finger(1, origin.x + length * std::cos(direction),
+                                    origin.y + length * std::sin(direction));
+        GestureState state;
+        state.update(Frame{origin}, 1.0);
+        state.update(Frame{moved}, 1.05);
+        const bool expected =
+            std::hypot(moved.x - origin.x, moved.y - origin.y) > GestureState::movementTolerance;
+        ASSERT_EQ(state.moved, expected)
+            << "displacement " << moved.x - origin.x << ", " << moved.y - origin.y;
+        moves += expected ? 1 : 0;
+    }
+    // Both outcomes occur, so the boundary was really probed.
+    EXPECT_GT(moves, 1000);
+    EXPECT_LT(moves, 19000);
 }
 
 TEST(GestureState, MovementIsEuclidean) {

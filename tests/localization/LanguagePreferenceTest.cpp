@@ -115,6 +115,51 @@ TEST(LanguagePreferenceTest, WithoutTheDevelopmentLanguageTheFirstAvailableIsTak
     EXPECT_EQ(chooseLocalization(Names{"fr", "pt-BR"}, Names{"de"}), "fr");
 }
 
+const Names allShipped = {"de", "en", "es", "fr", "it", "ja", "pt-BR", "zh-Hans"};
+
+std::optional<std::string> chosenFor(std::map<std::string, std::string, std::less<>> variables) {
+    return chooseLocalization(allShipped, preferredLanguages(environmentOf(std::move(variables))));
+}
+
+TEST(LanguagePreferenceTest, EachShippedLanguageIsChosenFromItsLocaleNames) {
+    EXPECT_EQ(chosenFor({{"LANG", "es_ES.UTF-8"}}), "es");
+    EXPECT_EQ(chosenFor({{"LANG", "es_MX.UTF-8"}}), "es");
+    EXPECT_EQ(chosenFor({{"LC_ALL", "fr_CA"}}), "fr");
+    EXPECT_EQ(chosenFor({{"LANG", "fr_FR.UTF-8"}}), "fr");
+    EXPECT_EQ(chosenFor({{"LANG", "de_AT"}}), "de");
+    EXPECT_EQ(chosenFor({{"LANG", "de_DE.UTF-8"}}), "de");
+    EXPECT_EQ(chosenFor({{"LANG", "it_IT"}}), "it");
+    EXPECT_EQ(chosenFor({{"LANG", "ja_JP.UTF-8"}}), "ja");
+    EXPECT_EQ(chosenFor({{"LANG", "pt_BR.UTF-8"}}), "pt-BR");
+    EXPECT_EQ(chosenFor({{"LANG", "en_GB.UTF-8"}}), "en");
+}
+
+TEST(LanguagePreferenceTest, ChineseOfChinaAndSingaporeReadsSimplified) {
+    EXPECT_EQ(chosenFor({{"LANG", "zh_CN.UTF-8"}}), "zh-Hans");
+    EXPECT_EQ(chosenFor({{"LANG", "zh_SG.UTF-8"}}), "zh-Hans");
+    EXPECT_EQ(chosenFor({{"LANG", "zh_Hans"}}), "zh-Hans");
+    EXPECT_EQ(chosenFor({{"LANG", "zh_Hans_CN.UTF-8"}}), "zh-Hans");
+    EXPECT_EQ(chosenFor({{"LANGUAGE", "zh"}}), "zh-Hans");
+}
+
+TEST(LanguagePreferenceTest, TraditionalChineseDoesNotGetSimplified) {
+    EXPECT_EQ(chosenFor({{"LANG", "zh_TW.UTF-8"}}), "en");
+    EXPECT_EQ(chosenFor({{"LANG", "zh_HK.UTF-8"}}), "en");
+    EXPECT_EQ(chosenFor({{"LANG", "zh_MO"}}), "en");
+    EXPECT_EQ(chosenFor({{"LANG", "zh_Hant_TW"}}), "en");
+    EXPECT_EQ(chooseLocalization(Names{"en", "zh"}, Names{"zh-TW"}), "en");
+}
+
+TEST(LanguagePreferenceTest, TraditionalChineseFallsToTheNextPreference) {
+    EXPECT_EQ(chosenFor({{"LANGUAGE", "zh_TW:ja"}}), "ja");
+    EXPECT_EQ(chosenFor({{"LANGUAGE", "zh_TW"}, {"LANG", "zh_CN.UTF-8"}}), "zh-Hans");
+}
+
+TEST(LanguagePreferenceTest, TraditionalChineseGetsATraditionalTable) {
+    EXPECT_EQ(chooseLocalization(Names{"en", "zh-Hans", "zh-Hant"}, Names{"zh-TW"}), "zh-Hant");
+    EXPECT_EQ(chooseLocalization(Names{"en", "zh-Hans", "zh-Hant"}, Names{"zh-CN"}), "zh-Hans");
+}
+
 TEST(LanguagePreferenceTest, NothingAvailableChoosesNothing) {
     EXPECT_EQ(chooseLocalization(Names{}, Names{"en"}), std::nullopt);
 }

@@ -22,10 +22,70 @@ std::filesystem::path tablePath(const std::string& localization) {
     return shippedResourcesDirectory() / (localization + ".lproj") / "Localizable.strings";
 }
 
-TEST(ShippedTablesTest, EnglishAndBrazilianPortugueseShip) {
-    const std::vector<std::string> available = availableLocalizations(shippedResourcesDirectory());
-    EXPECT_NE(std::ranges::find(available, "en"), available.end());
-    EXPECT_NE(std::ranges::find(available, "pt-BR"), available.end());
+TEST(ShippedTablesTest, EightLanguagesShip) {
+    EXPECT_EQ(availableLocalizations(shippedResourcesDirectory()),
+              (std::vector<std::string>{"de", "en", "es", "fr", "it", "ja", "pt-BR", "zh-Hans"}));
+}
+
+// The names macOS itself gives, in each language, to the places and features a text sends the
+// user to, so that what the user reads is what they find.
+struct SystemNames {
+    std::string localization;
+    std::string systemSettings;
+    std::string accessibility;
+    std::string inputMonitoring;
+    std::string missionControl;
+    std::string showDesktop;
+};
+
+TEST(ShippedTablesTest, TextsUseTheNamesMacOSUses) {
+    const std::vector<SystemNames> languages = {
+        {"de", "Systemeinstellungen", "Bedienungshilfen", "Eingabeüberwachung", "Mission Control",
+         "Schreibtisch anzeigen"},
+        {"es", "Ajustes del Sistema", "Accesibilidad", "Monitorización de entrada",
+         "Mission Control", "Mostrar escritorio"},
+        {"fr", "Réglages Système", "Accessibilité", "Surveillance de l’entrée", "Mission Control",
+         "Afficher le bureau"},
+        {"it", "Impostazioni di Sistema", "Accessibilità", "Monitoraggio input", "Mission Control",
+         "Mostra scrivania"},
+        {"ja", "システム設定", "アクセシビリティ", "入力監視", "Mission Control",
+         "デスクトップを表示"},
+        {"zh-Hans", "系统设置", "辅助功能", "输入监控", "调度中心", "显示桌面"},
+    };
+    for (const SystemNames& names : languages) {
+        const auto table = StringsTable::load(tablePath(names.localization));
+        ASSERT_NE(table, nullptr) << names.localization;
+        const auto text = [&](std::string_view key) { return table->lookup(key).value_or(""); };
+        EXPECT_EQ(text("action.mission"), names.missionControl) << names.localization;
+        EXPECT_EQ(text("action.desktop"), names.showDesktop) << names.localization;
+        EXPECT_NE(text("test.desktop").find(names.showDesktop), std::string::npos);
+        for (const std::string& name :
+             {names.systemSettings, names.accessibility, names.inputMonitoring}) {
+            EXPECT_NE(text("error.enable").find(name), std::string::npos)
+                << names.localization << ": " << name;
+        }
+        EXPECT_NE(text("permissions").find(names.accessibility), std::string::npos);
+        EXPECT_NE(text("permissions").find(names.inputMonitoring), std::string::npos);
+        EXPECT_NE(text("permission.access").find(names.accessibility), std::string::npos)
+            << names.localization;
+    }
+}
+
+// Buttons that other texts tell the user to click are named there exactly as they are labelled.
+TEST(ShippedTablesTest, TextsNameTheButtonsAsTheyAreLabelled) {
+    for (const std::string& localization : availableLocalizations(shippedResourcesDirectory())) {
+        const auto table = StringsTable::load(tablePath(localization));
+        ASSERT_NE(table, nullptr) << localization;
+        const auto text = [&](std::string_view key) { return table->lookup(key).value_or(""); };
+        EXPECT_NE(text("shortcut.missing").find(text("record.button")), std::string::npos)
+            << localization;
+        EXPECT_NE(text("record.hint").find(text("record.button")), std::string::npos)
+            << localization;
+        EXPECT_NE(text("record.hint").find(text("action.custom")), std::string::npos)
+            << localization;
+        EXPECT_NE(text("sensor.missing").find(text("reconnect")), std::string::npos)
+            << localization;
+    }
 }
 
 TEST(ShippedTablesTest, EveryTableHasExactlyTheKeysWithMatchingConversions) {
@@ -101,6 +161,62 @@ TEST_F(ShippedTablesLocalizerTest, PortugueseLinesReadAsIntended) {
               "Magic Mouse encontrado, mas não foi possível iniciá-lo (erro 42).");
     EXPECT_EQ(L("finger.many", 3), "3 dedos");
     EXPECT_EQ(L("action.desktop"), "Mostrar Mesa");
+}
+
+TEST_F(ShippedTablesLocalizerTest, GermanLinesReadAsIntended) {
+    use("de");
+    EXPECT_EQ(L("permissions", L("ok"), L("pending")),
+              "Bedienungshilfen: Erlaubt · Eingabeüberwachung: Nicht erlaubt");
+    EXPECT_EQ(L("sensor.blocked", 42),
+              "Magic Mouse gefunden, sie konnte aber nicht gestartet werden (Fehler 42).");
+    EXPECT_EQ(L("finger.many", 3), "3 Finger");
+    EXPECT_EQ(L("error.action", L("action.desktop"), 7),
+              "„Schreibtisch anzeigen“ konnte nicht ausgeführt werden (Fehler 7).");
+}
+
+TEST_F(ShippedTablesLocalizerTest, SpanishLinesReadAsIntended) {
+    use("es");
+    EXPECT_EQ(L("permissions", L("ok"), L("pending")),
+              "Accesibilidad: Permitido · Monitorización de entrada: No permitido");
+    EXPECT_EQ(L("live", 2, L("gesture.tap", 2), L("action.copy")),
+              "Dedos: 2 · Último gesto: Toque con 2 dedos · Última acción: Copiar");
+    EXPECT_EQ(L("finger.many", 4), "4 dedos");
+}
+
+// French sets a no-break space before a colon and inside guillemets.
+TEST_F(ShippedTablesLocalizerTest, FrenchLinesReadAsIntended) {
+    use("fr");
+    EXPECT_EQ(L("permissions", L("ok"), L("pending")),
+              "Accessibilité\u00a0: Autorisé · Surveillance de l’entrée\u00a0: Non autorisé");
+    EXPECT_EQ(L("error.action", L("action.mission"), 3),
+              "Impossible d’exécuter «\u00a0Mission Control\u00a0» (erreur 3).");
+    EXPECT_EQ(L("finger.many", 2), "2 doigts");
+}
+
+TEST_F(ShippedTablesLocalizerTest, ItalianLinesReadAsIntended) {
+    use("it");
+    EXPECT_EQ(L("permissions", L("ok"), L("pending")),
+              "Accessibilità: Consentito · Monitoraggio input: Non consentito");
+    EXPECT_EQ(L("finger.many", 3), "3 dita");
+    EXPECT_EQ(L("gesture.click", 4), "Clic con 4 dita");
+}
+
+TEST_F(ShippedTablesLocalizerTest, JapaneseLinesReadAsIntended) {
+    use("ja");
+    EXPECT_EQ(L("permissions", L("ok"), L("pending")),
+              "アクセシビリティ：許可済み · 入力監視：未許可");
+    EXPECT_EQ(L("gesture.tap", 1), "1本指でタップ");
+    EXPECT_EQ(L("finger.many", 3), "3本指");
+    EXPECT_EQ(L("sensor.blocked", 42),
+              "Magic Mouseが見つかりましたが、開始できませんでした（エラー 42）。");
+}
+
+TEST_F(ShippedTablesLocalizerTest, SimplifiedChineseLinesReadAsIntended) {
+    use("zh-Hans");
+    EXPECT_EQ(L("permissions", L("ok"), L("pending")), "辅助功能：已允许 · 输入监控：未允许");
+    EXPECT_EQ(L("gesture.click", 2), "2 指点按");
+    EXPECT_EQ(L("finger.many", 4), "4 个手指");
+    EXPECT_EQ(L("menu.quit"), "退出 Tactora");
 }
 
 }  // namespace

@@ -67,9 +67,42 @@ TEST_F(ProfileStoreTest, LegacyValuesOutOfRangeAndLegacyCustomMigrateAsDefault) 
     defaults->setInteger("gesture.2", 14);
     defaults->setInteger("gesture.3", std::numeric_limits<std::int64_t>::max());
     defaults->setInteger("gesture.4", 12);
-    defaults->setString("gesture.5", "3");
+    defaults->setString("gesture.5", "15");
     const ProfileStore store(defaults, "Default");
     EXPECT_EQ(store.current().actions, (std::vector<ActionIndex>{0, 0, 0, 0, 12, 0, 0, 0}));
+}
+
+// `defaults write app.tactora.Tactora gesture.2 13` stores text, which the system's defaults
+// read back as the integer it begins with.
+TEST_F(ProfileStoreTest, LegacyValuesStoredAsTextMigrateAsTheirLeadingInteger) {
+    defaults->setString("gesture.0", "13");
+    defaults->setString("gesture.1", " 12");
+    defaults->setString("gesture.2", "5abc");
+    defaults->setString("gesture.3", "3.7");
+    defaults->setString("gesture.4", "1e2");
+    defaults->setString("gesture.5", "+6");
+    defaults->setString("gesture.6", "abc");
+    defaults->setString("gesture.7", "");
+    const ProfileStore store(defaults, "Default");
+    EXPECT_EQ(store.current().actions, (std::vector<ActionIndex>{13, 12, 5, 3, 1, 6, 0, 0}));
+}
+
+TEST_F(ProfileStoreTest, LegacyTextOutOfRangeOrCustomMigratesAsDefault) {
+    defaults->setString("gesture.0", "-3");
+    defaults->setString("gesture.1", "14");
+    defaults->setString("gesture.2", "99999999999999999999999");
+    defaults->setData("gesture.3", Bytes{'1', '2'});
+    const ProfileStore store(defaults, "Default");
+    EXPECT_EQ(store.current().actions, (std::vector<ActionIndex>{0, 0, 0, 0, 0, 0, 0, 0}));
+}
+
+TEST_F(ProfileStoreTest, LegacyTextMigratesFromFilePreferences) {
+    const TemporaryDirectory directory;
+    FilePreferenceSuites suites(directory.path());
+    suites.standard()->setString("gesture.2", "13");
+    suites.standard()->setString("gesture.4", "7 ");
+    const ProfileStore store(suites.standard(), "Default");
+    EXPECT_EQ(store.current().actions, (std::vector<ActionIndex>{0, 0, 13, 0, 7, 0, 0, 0}));
 }
 
 TEST_F(ProfileStoreTest, LegacyKeysAreNeitherWrittenNorRemoved) {

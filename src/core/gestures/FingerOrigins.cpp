@@ -4,16 +4,6 @@
 
 namespace tactora {
 
-const FingerOrigins::Origin* FingerOrigins::find(std::int64_t id) const {
-    const auto entry =
-        std::find_if(entries_.begin(), entries_.end(), [id](const Entry& e) { return e.id == id; });
-    return entry == entries_.end() ? nullptr : &entry->origin;
-}
-
-void FingerOrigins::insert(std::int64_t id, Origin origin) {
-    entries_.push_back(Entry{id, origin});
-}
-
 bool FingerOrigins::operator==(const FingerOrigins& other) const {
     if (size() != other.size()) {
         return false;

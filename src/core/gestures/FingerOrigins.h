@@ -21,11 +21,19 @@ class FingerOrigins {
         bool operator==(const Origin&) const = default;
     };
 
-    // The origin of `id`, or null when the id has not been seen in this sequence.
-    const Origin* find(std::int64_t id) const;
+    // The origin of `id`, or null when the id has not been seen in this sequence. Defined here,
+    // so that the recogniser's per-finger lookup is inlined.
+    const Origin* find(std::int64_t id) const {
+        for (const Entry& entry : entries_) {
+            if (entry.id == id) {
+                return &entry.origin;
+            }
+        }
+        return nullptr;
+    }
 
     // Records the origin of an id that find() does not know.
-    void insert(std::int64_t id, Origin origin);
+    void insert(std::int64_t id, Origin origin) { entries_.push_back(Entry{id, origin}); }
 
     std::size_t size() const { return entries_.size(); }
     bool empty() const { return entries_.empty(); }

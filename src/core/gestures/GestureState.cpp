@@ -12,6 +12,25 @@ bool isTapDuration(double duration) {
     return duration >= GestureState::shortestTap && duration <= GestureState::longestTap;
 }
 
+// Whether a finger that moved by (dx, dy) is farther than the tolerance from its origin, decided
+// exactly as comparing std::hypot(dx, dy) with it would be. The squared distance is within a few
+// units in the last place of the square of that hypotenuse, so away from the boundary it decides
+// alone, without hypot's careful and slow scaling; near the boundary, and for a distance that
+// is not a number, hypot decides.
+bool isBeyondTolerance(double dx, double dy) {
+    constexpr double limit = GestureState::movementTolerance * GestureState::movementTolerance;
+    constexpr double margin = 1e-9;
+    const double squared = dx * dx + dy * dy;
+    if (squared < limit * (1 - margin)) {
+        return false;
+    }
+    if (squared > limit * (1 + margin)) {
+        return true;
+    }
+    // A NaN distance compares false and so never counts as movement.
+    return std::hypot(dx, dy) > GestureState::movementTolerance;
+}
+
 }  // namespace
 
 std::optional<std::int64_t> GestureState::update(std::span<const Finger> frame, double time) {
@@ -40,8 +59,7 @@ std::optional<std::int64_t> GestureState::update(std::span<const Finger> frame, 
             origins.insert(finger.id, {finger.x, finger.y});
             continue;
         }
-        // A NaN distance compares false and so never counts as movement.
-        if (std::hypot(finger.x - origin->x, finger.y - origin->y) > movementTolerance) {
+        if (isBeyondTolerance(finger.x - origin->x, finger.y - origin->y)) {
             moved = true;
         }
     }

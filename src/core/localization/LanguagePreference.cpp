@@ -78,6 +78,35 @@ std::string languageOf(std::string_view name) {
     return folded.substr(0, folded.find('-'));
 }
 
+// The script a name is written in, folded: its script subtag, or for Chinese the one its
+// region implies (Traditional in Taiwan, Hong Kong and Macao, Simplified elsewhere). Nothing
+// for a name of another language without a script subtag.
+std::optional<std::string> scriptOf(std::string_view name) {
+    const std::string folded = comparable(name);
+    const std::vector<std::string_view> parts = split(folded, "-");
+    for (const std::string_view subtag : std::span(parts).subspan(1)) {
+        if (subtag.size() == 4 && allOf(subtag, isAsciiLetter)) {
+            return std::string(subtag);
+        }
+    }
+    if (parts.front() != "zh") {
+        return std::nullopt;
+    }
+    constexpr std::array<std::string_view, 3> traditionalRegions = {"tw", "hk", "mo"};
+    const bool traditional = std::ranges::any_of(parts, [&](std::string_view subtag) {
+        return std::ranges::find(traditionalRegions, subtag) != traditionalRegions.end();
+    });
+    return traditional ? "hant" : "hans";
+}
+
+// Whether a reader of `wanted` can read `name`, which is of the same language: not when both
+// scripts are known and differ (a reader of Traditional Chinese gets no Simplified table).
+bool sameScript(std::string_view wanted, std::string_view name) {
+    const std::optional<std::string> wantedScript = scriptOf(wanted);
+    const std::optional<std::string> nameScript = scriptOf(name);
+    return !wantedScript || !nameScript || *wantedScript == *nameScript;
+}
+
 std::optional<std::string> matchOne(std::span<const std::string> available,
                                     const std::string& wanted) {
     const std::string folded = comparable(wanted);
@@ -87,13 +116,15 @@ std::optional<std::string> matchOne(std::span<const std::string> available,
         return *exact;
     }
     const std::string language = languageOf(wanted);
-    const auto bare = std::ranges::find_if(
-        available, [&](const std::string& name) { return comparable(name) == language; });
+    const auto bare = std::ranges::find_if(available, [&](const std::string& name) {
+        return comparable(name) == language && sameScript(wanted, name);
+    });
     if (bare != available.end()) {
         return *bare;
     }
-    const auto sibling = std::ranges::find_if(
-        available, [&](const std::string& name) { return languageOf(name) == language; });
+    const auto sibling = std::ranges::find_if(available, [&](const std::string& name) {
+        return languageOf(name) == language && sameScript(wanted, name);
+    });
     if (sibling != available.end()) {
         return *sibling;
     }

@@ -33,10 +33,12 @@ std::vector<std::string> preferredLanguages(const EnvironmentLookup& environment
 // Picks one of `available` (localisation names, such as the bundle's *.lproj folders) for a
 // user who prefers `preferred`, best first. For each preferred language in turn: an available
 // name equal to it, ignoring case and "_" versus "-"; else one of the same language with no
-// region, or else with another region ("pt-PT" gets "pt-BR" when that is the only Portuguese).
-// When no preferred language matches: the development localisation if available, else the
-// first available one. Nothing only when `available` is empty. Returns the name as spelt in
-// `available`.
+// region, or else with another region ("pt-PT" gets "pt-BR" when that is the only Portuguese),
+// but never one in another script: Chinese of mainland China and Singapore ("zh-CN", "zh-SG",
+// plain "zh") reads Simplified ("zh-Hans"), of Taiwan, Hong Kong and Macao Traditional, so
+// "zh-TW" does not get "zh-Hans". When no preferred language matches: the development localisation
+// if available, else the first available one. Nothing only when `available` is empty. Returns the
+// name as spelt in `available`.
 std::optional<std::string> chooseLocalization(std::span<const std::string> available,
                                               std::span<const std::string> preferred);
 

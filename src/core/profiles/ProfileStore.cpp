@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/profiles/DefaultsInteger.h"
 #include "core/profiles/GestureSlot.h"
 #include "core/profiles/ProfileJson.h"
 #include "core/support/Fatal.h"
@@ -75,7 +76,7 @@ WorkProfile migratedProfile(const Preferences& defaults, std::string name) {
     actions.reserve(slot::count);
     for (std::size_t i = 0; i < slot::count; ++i) {
         const auto key = ProfileStore::legacyKeyPrefix + std::to_string(i);
-        actions.push_back(defaults.integer(key).value_or(action::defaultAction));
+        actions.push_back(defaultsInteger(defaults, key));
     }
     WorkProfile profile(std::move(name), std::move(actions));
     profile.sanitize();
