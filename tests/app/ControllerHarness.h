@@ -17,6 +17,7 @@
 #include "app/fakes/FakeSensor.h"
 #include "app/fakes/FakeSettingsView.h"
 #include "app/fakes/FakeTapEvent.h"
+#include "app/fakes/FakeTraceSink.h"
 #include "app/fakes/FakeWorkspace.h"
 #include "core/app/ApplicationController.h"
 #include "core/app/Controller.h"
@@ -56,7 +57,7 @@ class ControllerHarness {
         setStringTable(testTable());
         initializeGlobals();
         controller = Controller::create({clock, queue, workspace, permissions, poster, eventTap,
-                                         sensor, shell, view, dialogs, defaults});
+                                         sensor, shell, view, dialogs, traceSink, defaults});
         setApplicationController(controller);
     }
     ~ControllerHarness() {
@@ -126,6 +127,7 @@ class ControllerHarness {
     FakeAppShell shell{log};
     FakeSettingsView view{log};
     FakeDialogs dialogs{log};
+    FakeTraceSink traceSink;
     std::shared_ptr<MemoryPreferences> defaults = std::make_shared<MemoryPreferences>();
     std::shared_ptr<Controller> controller;
 };

@@ -114,6 +114,8 @@ TEST_F(ControllerLifecycleTest, MenusOpenPauseAndQuit) {
                                                         {"menu.quit", MenuCommand::quit, "q"}}));
     EXPECT_EQ(h.shell.statusMenu, (std::vector<MenuEntry>{{"menu.open", MenuCommand::show, ""},
                                                           {"menu.pause", MenuCommand::pause, ""},
+                                                          {"menu.trace.start",
+                                                           MenuCommand::recordTouches, ""},
                                                           {"", MenuCommand::separator, ""},
                                                           {"menu.exit", MenuCommand::quit, "q"}}));
 }

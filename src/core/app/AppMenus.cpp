@@ -11,10 +11,12 @@ std::vector<MenuEntry> mainMenuItems() {
     };
 }
 
-std::vector<MenuEntry> statusMenuItems() {
+std::vector<MenuEntry> statusMenuItems(bool recordingTouches) {
     return {
         {L("menu.open"), MenuCommand::show, ""},
         {L("menu.pause"), MenuCommand::pause, ""},
+        {L(recordingTouches ? "menu.trace.stop" : "menu.trace.start"), MenuCommand::recordTouches,
+         ""},
         {"", MenuCommand::separator, ""},
         {L("menu.exit"), MenuCommand::quit, "q"},
     };

@@ -13,6 +13,7 @@
 #include "core/actions/ActionIndex.h"
 #include "core/actions/Press.h"
 #include "core/app/ContactFrame.h"
+#include "core/app/ControllerObserver.h"
 #include "core/app/ControllerServices.h"
 #include "core/app/NamingMode.h"
 #include "core/gestures/Finger.h"
@@ -24,6 +25,8 @@
 #include "core/platform/TapEvent.h"
 #include "core/profiles/ProfileStore.h"
 #include "core/profiles/SavedShortcut.h"
+#include "core/trace/TraceLine.h"
+#include "core/trace/TraceRecorder.h"
 
 namespace tactora {
 
@@ -168,6 +171,17 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void duplicateProfile();
     void nameProfile(NamingMode mode);
 
+    // --- Touch traces ------------------------------------------------------------------------
+
+    // The status menu's "Record Touches…" item: starts writing a trace of everything the
+    // controller receives, or stops the one under way. Off until the user chooses it.
+    void recordTouches();
+    bool recordingTouches() const { return trace_.isRecording(); }
+
+    // Tells `observer` (not owned; it must outlive the controller, or be taken away with null)
+    // what is recognised and performed from now on.
+    void setObserver(ControllerObserver* observer) { observer_ = observer; }
+
     // --- State, for the status display and for tests -----------------------------------------
 
     const GestureState& gesture() const { return gesture_; }
@@ -206,6 +220,15 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void observeWake();
     void dropPendingWork();
 
+    void applySwitch();
+    void noteTapEvent(EventType type, const TapEvent& event);
+    void startTrace();
+    void stopTrace();
+    void noteTrace(double now, TraceEvent event);
+    void noteFrontApplication(double now);
+    void noteGestures();
+    void showStatusMenu();
+
     ActionIndex actionAt(std::int64_t slot);
     const std::optional<SavedShortcut>& shortcutAt(std::int64_t slot);
 
@@ -227,6 +250,12 @@ class Controller : public std::enable_shared_from_this<Controller> {
     bool windowBuilt_ = false;
     bool statusItemCreated_ = false;
     std::vector<Finger> frameFingers_;  // reused for every frame, so frames allocate nothing
+
+    TraceRecorder trace_;
+    std::string tracePath_;
+    std::optional<TraceFrontApplication> tracedFront_;
+    std::optional<bool> tracedGestures_;
+    ControllerObserver* observer_ = nullptr;  // not owned
 };
 
 }  // namespace tactora

@@ -21,7 +21,7 @@ void Controller::applicationDidFinishLaunching() {
     buildWindow();
     createStatusItem();
     updateMenuIcon();
-    services_.shell.buildStatusMenu(statusMenuItems());
+    services_.shell.buildStatusMenu(statusMenuItems(trace_.isRecording()));
     reconnect();
     startRefreshTimer();
     observeWake();
@@ -29,14 +29,17 @@ void Controller::applicationDidFinishLaunching() {
 }
 
 void Controller::applicationDidBecomeActive() {
+    noteTrace(services_.clock.uptime(), TraceActive{true});
     dropPendingWork();
 }
 
 void Controller::applicationDidResignActive() {
+    noteTrace(services_.clock.uptime(), TraceActive{false});
     dropPendingWork();
 }
 
 void Controller::applicationWillTerminate() {
+    stopTrace();
     pause();
     services_.sensor.stop();
 }
@@ -57,6 +60,11 @@ void Controller::pause() {
 }
 
 void Controller::toggle() {
+    applySwitch();
+    noteGestures();
+}
+
+void Controller::applySwitch() {
     cancelPendingActions();
     if (!services_.view.isEnabledOn()) {
         releasePresses();

@@ -77,6 +77,7 @@ void Controller::selectProfile() {
     if (!id) {
         return;
     }
+    noteTrace(services_.clock.uptime(), TraceProfileSelected{id->text()});
     dropPendingWork();
     profiles().select(*id);
     lastGesture_ = "—";

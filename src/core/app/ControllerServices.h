@@ -11,6 +11,7 @@
 #include "core/platform/Permissions.h"
 #include "core/platform/Sensor.h"
 #include "core/platform/SettingsView.h"
+#include "core/platform/TraceSink.h"
 #include "core/platform/Workspace.h"
 #include "core/profiles/Preferences.h"
 
@@ -29,6 +30,8 @@ struct ControllerServices {
     AppShell& shell;
     SettingsView& view;
     Dialogs& dialogs;
+    // Where recorded touch traces are written.
+    TraceSink& traceSink;
     // The domain the work profiles are kept in (the standard user defaults).
     std::shared_ptr<Preferences> defaults;
 };

@@ -12,12 +12,20 @@ std::string permissionState(bool granted) {
 }  // namespace
 
 void Controller::refresh() {
+    if (trace_.expired(services_.clock.uptime())) {
+        stopTrace();
+        return;  // stopping refreshes
+    }
     services_.view.setPermissionText(
         L("permissions", permissionState(services_.permissions.accessibilityTrusted()),
           permissionState(services_.permissions.inputMonitoringGranted())));
     const bool fresh = services_.clock.uptime() - lastFrame_ < liveContact;
     const std::int64_t fingers = fresh ? gesture_.count : 0;
-    services_.view.setLiveText(L("live", fingers, lastGesture_, lastAction_));
+    std::string live = L("live", fingers, lastGesture_, lastAction_);
+    if (trace_.isRecording()) {
+        live += " · " + L("trace.live");
+    }
+    services_.view.setLiveText(live);
     updateMenuIcon();
 }
 

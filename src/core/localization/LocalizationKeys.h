@@ -12,7 +12,7 @@ namespace tactora {
 // Every key the program looks up through L, with the arguments its callers pass, in order.
 // Each table must hold exactly these keys, and each text exactly the conversions its shown
 // arguments need (LocalizationAudit checks it).
-inline constexpr std::array<LocalizationKey, 69> localizationKeys = {
+inline constexpr std::array<LocalizationKey, 90> localizationKeys = {
     // The action catalogue, in index order.
     LocalizationKey("action.default"),
     LocalizationKey("action.left"),
@@ -86,6 +86,30 @@ inline constexpr std::array<LocalizationKey, 69> localizationKeys = {
     LocalizationKey("profile.name"),
     LocalizationKey("profile.save"),
     LocalizationKey("cancel"),
+    // Touch traces: the status menu's item, the live line's note, where a recording went.
+    LocalizationKey("menu.trace.start"),
+    LocalizationKey("menu.trace.stop"),
+    LocalizationKey("trace.live"),
+    LocalizationKey("trace.started", {stringArgument}),
+    LocalizationKey("trace.saved", {stringArgument}),
+    LocalizationKey("trace.failed"),
+    // What is wrong with a trace that can't be replayed; each gets the line's number.
+    LocalizationKey("trace.error.header", {integerArgument}),
+    LocalizationKey("trace.error.version", {integerArgument}),
+    LocalizationKey("trace.error.time", {integerArgument}),
+    LocalizationKey("trace.error.back", {integerArgument}),
+    LocalizationKey("trace.error.event", {integerArgument}),
+    LocalizationKey("trace.error.contact", {integerArgument}),
+    LocalizationKey("trace.error.button", {integerArgument}),
+    LocalizationKey("trace.error.source", {integerArgument}),
+    LocalizationKey("trace.error.profile", {integerArgument}),
+    LocalizationKey("trace.error.process", {integerArgument}),
+    LocalizationKey("trace.error.switch", {integerArgument}),
+    LocalizationKey("trace.error.extra", {integerArgument}),
+    // The replay's own failures; the argument is the file's path.
+    LocalizationKey("replay.usage"),
+    LocalizationKey("replay.unreadable", {stringArgument}),
+    LocalizationKey("replay.profiles", {stringArgument}),
     // Key names in shortcut labels.
     LocalizationKey("key.space"),
     LocalizationKey("key.return"),

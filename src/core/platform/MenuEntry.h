@@ -5,11 +5,12 @@
 namespace tactora {
 
 // What choosing a menu item does; the shell sends it to the controller operation of the same
-// name (show(), pause(), quit()).
+// name (show(), pause(), quit(), recordTouches()).
 enum class MenuCommand {
     show,
     pause,
     quit,
+    recordTouches,
     separator,  // not an item: a separator line
 };
 

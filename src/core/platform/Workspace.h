@@ -16,6 +16,10 @@ class Workspace {
     // The process id of the frontmost application, or nothing when there is none.
     virtual std::optional<std::int32_t> frontmostProcessID() const = 0;
 
+    // The bundle identifier of the frontmost application, or nothing when there is none or it
+    // has no identifier.
+    virtual std::optional<std::string> frontmostBundleIdentifier() const = 0;
+
     // Whether this application is the active one.
     virtual bool isActive() const = 0;
 

@@ -16,6 +16,7 @@ class FakeWorkspace final : public Workspace {
     explicit FakeWorkspace(CallLog& log) : log_(log) {}
 
     std::optional<std::int32_t> frontmostProcessID() const override { return frontmost; }
+    std::optional<std::string> frontmostBundleIdentifier() const override { return frontmostBundle; }
     bool isActive() const override { return active; }
 
     std::vector<std::int32_t> instanceProcessIDs() const override {
@@ -39,6 +40,7 @@ class FakeWorkspace final : public Workspace {
     }
 
     std::optional<std::int32_t> frontmost = 42;
+    std::optional<std::string> frontmostBundle = "com.example.Editor";
     bool active = false;
     std::int32_t own = 7;
     std::vector<std::int32_t> instances{7};  // this process alone
