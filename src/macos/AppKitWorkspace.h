@@ -22,6 +22,7 @@ class AppKitWorkspace final : public Workspace {
     AppKitWorkspace& operator=(const AppKitWorkspace&) = delete;
 
     std::optional<std::int32_t> frontmostProcessID() const override;
+    std::optional<std::string> frontmostBundleIdentifier() const override;
     bool isActive() const override;
     std::vector<std::int32_t> instanceProcessIDs() const override;
     std::int32_t ownProcessID() const override;

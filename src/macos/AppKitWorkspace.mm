@@ -20,6 +20,14 @@ std::optional<std::int32_t> AppKitWorkspace::frontmostProcessID() const {
     return frontmost.processIdentifier;
 }
 
+std::optional<std::string> AppKitWorkspace::frontmostBundleIdentifier() const {
+    NSString* identifier = NSWorkspace.sharedWorkspace.frontmostApplication.bundleIdentifier;
+    if (identifier == nil) {
+        return std::nullopt;
+    }
+    return toStdString(identifier);
+}
+
 bool AppKitWorkspace::isActive() const {
     return NSApp.isActive;
 }

@@ -11,6 +11,7 @@
 #include "macos/AppKitWorkspace.h"
 #include "macos/CGEventPoster.h"
 #include "macos/DispatchMainQueue.h"
+#include "macos/FileTraceSink.h"
 #include "macos/MachPortEventTap.h"
 #include "macos/SystemPermissions.h"
 #import "macos/TAApplicationDelegate.h"
@@ -41,6 +42,7 @@ class MacApplication {
     CGEventPoster poster_;
     MachPortEventTap tap_;
     AppKitDialogs dialogs_;
+    FileTraceSink traceSink_;
     TASettingsControls* __strong controls_;
     TAApplicationDelegate* __strong delegate_;
     AppKitSettingsView view_;

@@ -14,6 +14,8 @@ SEL selectorFor(MenuCommand command) {
             return @selector(pause);
         case MenuCommand::quit:
             return @selector(quit);
+        case MenuCommand::recordTouches:
+            return @selector(recordTouches);
         case MenuCommand::separator:
             break;
     }
