@@ -27,12 +27,9 @@ class CountingSink final : public TraceSink {
     std::string last;
 };
 
-TraceLine bigFrame(double time) {
-    TraceFrame frame;
-    for (int i = 0; i < 2000; ++i) {
-        frame.fingers.emplace_back(1000000 + i, 0.123456789F, 0.987654321F);
-    }
-    return {time, std::move(frame)};
+// A line of about a megabyte.
+TraceLine longLine(double time) {
+    return {time, TraceFrontApplication{1, std::string(std::size_t{1} << 20U, 'x')}};
 }
 
 TEST(TraceRecorder, IdleItWritesNothing) {
@@ -72,11 +69,11 @@ TEST(TraceRecorder, NeverGrowsPastFiftyMegabytes) {
     TraceRecorder recorder;
     recorder.start(sink, 0.0);
     double time = 0;
-    while (recorder.note(bigFrame(time))) {
+    while (recorder.note(longLine(time))) {
         time += 0.001;
     }
     EXPECT_LE(sink.bytes, TraceRecorder::largest);
-    EXPECT_GT(sink.bytes + 60000, TraceRecorder::largest);
+    EXPECT_GT(sink.bytes + (std::size_t{1} << 20U) + 64, TraceRecorder::largest);
     EXPECT_TRUE(recorder.isRecording());  // the caller stops it
 }
 

@@ -1,6 +1,8 @@
 #include "core/trace/VirtualMainQueue.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace tactora {
@@ -24,11 +26,22 @@ void VirtualMainQueue::advanceTo(double time) {
         items_.pop();
         now_ = std::max(now_, item.due);
         if (item.interval > 0) {
-            add(item.due + item.interval, item.interval, item.work);
+            add(nextDue(item, target), item.interval, item.work);
         }
         item.work();
     }
     now_ = target;
+}
+
+// A repeating item that would fall due again before `target` fires once for all those times,
+// as a timer that missed its firings does, so that a long quiet stretch costs nothing.
+double VirtualMainQueue::nextDue(const Item& item, double target) {
+    double next = item.due + item.interval;
+    if (next <= target) {
+        next = item.due + item.interval * (std::floor((target - item.due) / item.interval) + 1);
+    }
+    // Far from zero an interval can be smaller than the spacing of the numbers themselves.
+    return next > target ? next : std::nextafter(target, std::numeric_limits<double>::infinity());
 }
 
 void VirtualMainQueue::add(double due, double interval, std::function<void()> work) {

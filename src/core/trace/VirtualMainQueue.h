@@ -12,7 +12,8 @@ namespace tactora {
 
 // A main queue on virtual time, and the clock it keeps: nothing runs until advanceTo() moves
 // time on, and then each item runs at the moment it falls due, ties in the order they were
-// given. Single-threaded: the replay owns it.
+// given. A repeating item runs at most once per advanceTo(), as a timer that missed firings
+// fires once for them. Single-threaded: the replay owns it.
 class VirtualMainQueue final : public MainQueue, public Clock {
   public:
     explicit VirtualMainQueue(double start) : now_(start) {}
@@ -41,6 +42,7 @@ class VirtualMainQueue final : public MainQueue, public Clock {
     };
 
     void add(double due, double interval, std::function<void()> work);
+    static double nextDue(const Item& item, double target);
 
     double now_;
     std::uint64_t nextSequence_ = 0;
