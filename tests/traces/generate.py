@@ -281,7 +281,7 @@ def realistic():
 
 def session():
     demo = Trace("session",
-                 "A minute's worth of use, made as the surface reports it (about 90 frames a",
+                 "Ten seconds of use, made as the surface reports it (about 90 frames a",
                  "second, jitter, staggered fingers, slow drift): one- to four-finger taps, a",
                  "two-finger click rewritten to the right button, a resting palm, a scroll, a",
                  "long press, and a tap cut short by a click. scripts/run replays this one.")
