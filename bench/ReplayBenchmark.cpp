@@ -32,8 +32,7 @@ std::vector<TraceLine> tenMinutes() {
         for (double t = 0; t < length; t += frameInterval) {
             TraceFrame frame;
             for (std::int64_t id = 1; id <= fingers; ++id) {
-                frame.fingers.emplace_back(id, 0.3 + 0.1 * static_cast<double>(id),
-                                           0.5 + t * 0.01);
+                frame.fingers.emplace_back(id, 0.3 + 0.1 * static_cast<double>(id), 0.5 + t * 0.01);
             }
             lines.push_back({start + t, std::move(frame)});
         }

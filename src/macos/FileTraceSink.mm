@@ -22,7 +22,8 @@ NSString* traceFileName() {
     NSDateFormatter* formatter = [[NSDateFormatter alloc] init];
     formatter.locale = [NSLocale localeWithLocaleIdentifier:@"en_US_POSIX"];
     formatter.dateFormat = @"yyyy-MM-dd 'at' HH.mm.ss";
-    return [NSString stringWithFormat:@"Touches %@.trace", [formatter stringFromDate:[NSDate date]]];
+    return
+        [NSString stringWithFormat:@"Touches %@.trace", [formatter stringFromDate:[NSDate date]]];
 }
 
 }  // namespace
@@ -36,10 +37,10 @@ FileTraceSink::~FileTraceSink() {
     // Whatever was queued is written and the file closed before the sink goes.
     std::shared_ptr<File> file = file_;
     dispatch_sync(queue_, ^{
-      if (file->handle != nullptr) {
-          std::fclose(file->handle);
-          file->handle = nullptr;
-      }
+        if (file->handle != nullptr) {
+            std::fclose(file->handle);
+            file->handle = nullptr;
+        }
     });
 }
 
@@ -52,17 +53,17 @@ std::optional<std::string> FileTraceSink::begin() {
     const std::string path = url.fileSystemRepresentation;
     std::shared_ptr<File> file = file_;
     dispatch_async(queue_, ^{
-      [NSFileManager.defaultManager createDirectoryAtURL:folder
-                             withIntermediateDirectories:YES
-                                              attributes:nil
-                                                   error:nil];
-      if (file->handle != nullptr) {
-          std::fclose(file->handle);
-      }
-      file->handle = std::fopen(path.c_str(), "w");
-      if (file->handle == nullptr) {
-          NSLog(@"Tactora can't write the touch trace %s", path.c_str());
-      }
+        [NSFileManager.defaultManager createDirectoryAtURL:folder
+                               withIntermediateDirectories:YES
+                                                attributes:nil
+                                                     error:nil];
+        if (file->handle != nullptr) {
+            std::fclose(file->handle);
+        }
+        file->handle = std::fopen(path.c_str(), "w");
+        if (file->handle == nullptr) {
+            NSLog(@"Tactora can't write the touch trace %s", path.c_str());
+        }
     });
     return path;
 }
@@ -71,20 +72,20 @@ void FileTraceSink::write(std::string text) {
     std::shared_ptr<File> file = file_;
     auto batch = std::make_shared<std::string>(std::move(text));
     dispatch_async(queue_, ^{
-      if (file->handle != nullptr) {
-          std::fwrite(batch->data(), 1, batch->size(), file->handle);
-          std::fflush(file->handle);
-      }
+        if (file->handle != nullptr) {
+            std::fwrite(batch->data(), 1, batch->size(), file->handle);
+            std::fflush(file->handle);
+        }
     });
 }
 
 void FileTraceSink::end() {
     std::shared_ptr<File> file = file_;
     dispatch_async(queue_, ^{
-      if (file->handle != nullptr) {
-          std::fclose(file->handle);
-          file->handle = nullptr;
-      }
+        if (file->handle != nullptr) {
+            std::fclose(file->handle);
+            file->handle = nullptr;
+        }
     });
 }
 

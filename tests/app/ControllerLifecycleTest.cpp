@@ -112,12 +112,12 @@ TEST_F(ControllerLifecycleTest, MenusOpenPauseAndQuit) {
 
     EXPECT_EQ(h.shell.mainMenu, (std::vector<MenuEntry>{{"menu.open", MenuCommand::show, ""},
                                                         {"menu.quit", MenuCommand::quit, "q"}}));
-    EXPECT_EQ(h.shell.statusMenu, (std::vector<MenuEntry>{{"menu.open", MenuCommand::show, ""},
-                                                          {"menu.pause", MenuCommand::pause, ""},
-                                                          {"menu.trace.start",
-                                                           MenuCommand::recordTouches, ""},
-                                                          {"", MenuCommand::separator, ""},
-                                                          {"menu.exit", MenuCommand::quit, "q"}}));
+    EXPECT_EQ(h.shell.statusMenu,
+              (std::vector<MenuEntry>{{"menu.open", MenuCommand::show, ""},
+                                      {"menu.pause", MenuCommand::pause, ""},
+                                      {"menu.trace.start", MenuCommand::recordTouches, ""},
+                                      {"", MenuCommand::separator, ""},
+                                      {"menu.exit", MenuCommand::quit, "q"}}));
 }
 
 TEST_F(ControllerLifecycleTest, RefreshTimerRunsEveryFifthOfASecondWhileTheControllerLives) {

@@ -45,7 +45,8 @@ TEST_F(ControllerTracesTest, NothingIsRecordedUntilTheUserAsks) {
     h.queue.advance(1);
     EXPECT_TRUE(h.traceSink.files.empty());
     EXPECT_FALSE(h.c().recordingTouches());
-    EXPECT_EQ(h.shell.statusMenu.at(2), (MenuEntry{"menu.trace.start", MenuCommand::recordTouches, ""}));
+    EXPECT_EQ(h.shell.statusMenu.at(2),
+              (MenuEntry{"menu.trace.start", MenuCommand::recordTouches, ""}));
 }
 
 TEST_F(ControllerTracesTest, StartingWritesTheHeaderAndTheStateAReplayStartsFrom) {
@@ -55,7 +56,8 @@ TEST_F(ControllerTracesTest, StartingWritesTheHeaderAndTheStateAReplayStartsFrom
     EXPECT_EQ(traced(), (std::vector<std::string>{"tactora-trace 1", "1000.0 gestures on",
                                                   "1000.0 active off", "1000.0 " + profileLine(),
                                                   "1000.0 front 42 com.example.Editor"}));
-    EXPECT_EQ(h.shell.statusMenu.at(2), (MenuEntry{"menu.trace.stop", MenuCommand::recordTouches, ""}));
+    EXPECT_EQ(h.shell.statusMenu.at(2),
+              (MenuEntry{"menu.trace.stop", MenuCommand::recordTouches, ""}));
     EXPECT_EQ(h.view.status, "trace.started");
     EXPECT_TRUE(h.view.live.ends_with(" · trace.live")) << h.view.live;
 }
@@ -98,18 +100,18 @@ TEST_F(ControllerTracesTest, RecordsWhatTheControllerReceives) {
     h.c().pause();
     const std::vector<std::string> lines = traced();
     ASSERT_GE(lines.size(), header);
-    EXPECT_EQ(std::vector<std::string>(lines.begin() + static_cast<std::ptrdiff_t>(header),
-                                       lines.end()),
-              (std::vector<std::string>{
-                  "1000.0 frame 1:0.25,0.5 2:0.25,0.5",
-                  "1000.0 left-down 0 mouse",
-                  "1000.0 right-up 1 other",
-                  "1000.0 scroll mouse",
-                  "1000.5 front 77 -",
-                  "1000.5 frame",
-                  "1000.5 active on",
-                  "1000.5 gestures off",
-              }));
+    EXPECT_EQ(
+        std::vector<std::string>(lines.begin() + static_cast<std::ptrdiff_t>(header), lines.end()),
+        (std::vector<std::string>{
+            "1000.0 frame 1:0.25,0.5 2:0.25,0.5",
+            "1000.0 left-down 0 mouse",
+            "1000.0 right-up 1 other",
+            "1000.0 scroll mouse",
+            "1000.5 front 77 -",
+            "1000.5 frame",
+            "1000.5 active on",
+            "1000.5 gestures off",
+        }));
 }
 
 TEST_F(ControllerTracesTest, ASelectedProfileIsRecorded) {
@@ -173,6 +175,24 @@ TEST_F(ControllerTracesTest, ReplayingARecordingDecidesWhatTheLiveControllerDid)
               "1000.600 action action.right button 1\n"
               "1001.400 tap 2\n"
               "summary taps=2 clicks=1 actions=2 frames=6 mouse-events=3 seconds=1.430\n");
+}
+
+// Nothing tells the controller when another application comes to the front; the recording
+// notes it when the waiting tap looks, and the replay applies it before that tap runs.
+TEST_F(ControllerTracesTest, AnApplicationSwitchInTheWaitIsReplayedAsLive) {
+    h.assign(5, action::copy);
+    h.c().recordTouches();
+    h.tap(2);
+    h.queue.advance(0.05);
+    h.workspace.frontmost = 77;
+    h.queue.advance(0.05);
+    h.c().recordTouches();
+    EXPECT_TRUE(h.poster.keyEvents().empty());
+
+    const TraceReading reading = readTrace(h.traceSink.files.back());
+    ASSERT_FALSE(reading.error);
+    const std::string replayed = TraceReplay::run(reading.lines, h.c().profiles().profiles());
+    EXPECT_EQ(replayed.substr(0, replayed.find("summary")), "1000.100 tap 2\n");
 }
 
 }  // namespace

@@ -76,9 +76,8 @@ INSTANTIATE_TEST_SUITE_P(Traces, GoldenTrace, ::testing::ValuesIn(traceNames()),
 TEST(GoldenTraces, CoverTheSelfCheckTheFlowsAndRealisticSequences) {
     const std::vector<std::string> names = traceNames();
     const auto count = [&](const std::string& prefix) {
-        return std::ranges::count_if(names, [&](const std::string& name) {
-            return name.starts_with(prefix);
-        });
+        return std::ranges::count_if(
+            names, [&](const std::string& name) { return name.starts_with(prefix); });
     };
     EXPECT_EQ(count("selfcheck-"), 7);
     EXPECT_EQ(count("flow-"), 4);

@@ -30,9 +30,9 @@ TEST(TraceFormat, WritesEveryEventAsDocumented) {
               "2.25 right-drag 1 other");
     EXPECT_EQ(trace::formatLine({2.25, TraceMouseEvent{event::scrollWheel, 0, true}}),
               "2.25 scroll mouse");
-    EXPECT_EQ(trace::formatLine(
-                  {3.0, TraceProfileSelected{"6F1C2A10-0000-4000-8000-00000000000A"}}),
-              "3.0 profile 6F1C2A10-0000-4000-8000-00000000000A");
+    EXPECT_EQ(
+        trace::formatLine({3.0, TraceProfileSelected{"6F1C2A10-0000-4000-8000-00000000000A"}}),
+        "3.0 profile 6F1C2A10-0000-4000-8000-00000000000A");
     EXPECT_EQ(trace::formatLine({4.0, TraceFrontApplication{812, "com.example.Editor"}}),
               "4.0 front 812 com.example.Editor");
     EXPECT_EQ(trace::formatLine({4.0, TraceFrontApplication{812, ""}}), "4.0 front 812 -");
@@ -103,9 +103,9 @@ TEST(TraceReader, AnEmptyTraceIsOnlyItsHeader) {
 }
 
 TEST(TraceReader, NamesTheHeaderWhenItIsMissingOrWrong) {
-    for (const char* text : {"", "\n1.0 frame\n", "tactora-trace\n", "tactora-trace one\n",
-                             "tactora-trace 0\n", "tactora-trace 1 extra\n", "other-trace 1\n",
-                             "# tactora-trace 1\n"}) {
+    for (const char* text :
+         {"", "\n1.0 frame\n", "tactora-trace\n", "tactora-trace one\n", "tactora-trace 0\n",
+          "tactora-trace 1 extra\n", "other-trace 1\n", "# tactora-trace 1\n"}) {
         const TraceReading reading = readTrace(text);
         EXPECT_EQ(reading.error, (TraceError{1, TraceProblem::header})) << text;
     }

@@ -46,10 +46,10 @@ class TraceReplayTest : public ::testing::Test {
     }
 
     std::string file(const std::string& name, const std::string& text) {
-        const auto path = std::filesystem::temp_directory_path() /
-                          ("tactora-replay-" + std::to_string(::testing::UnitTest::GetInstance()
-                                                                  ->random_seed()) +
-                           "-" + name);
+        const auto path =
+            std::filesystem::temp_directory_path() /
+            ("tactora-replay-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+             "-" + name);
         std::ofstream(path, std::ios::binary) << text;
         files_.push_back(path);
         return path.string();
@@ -82,20 +82,26 @@ TEST_F(TraceReplayTest, AnEmptyTraceGivesOnlyTheSummary) {
 }
 
 TEST_F(TraceReplayTest, ClicksOfOtherDevicesAndWithoutFingersAreNotGestures) {
-    const std::string output = TraceReplay::run(
-        {frame(1.0, 2), mouse(1.05, event::leftMouseDown, false),
-         mouse(1.06, event::leftMouseUp, false), frame(1.5, 0), mouse(2.0, event::leftMouseDown),
-         mouse(2.1, event::leftMouseUp)},
-        std::nullopt);
+    const std::string output =
+        TraceReplay::run({frame(1.0, 2), mouse(1.05, event::leftMouseDown, false),
+                          mouse(1.06, event::leftMouseUp, false), frame(1.5, 0),
+                          mouse(2.0, event::leftMouseDown), mouse(2.1, event::leftMouseUp)},
+                         std::nullopt);
     EXPECT_EQ(output, "summary taps=0 clicks=0 actions=0 frames=2 mouse-events=4 seconds=1.100\n");
 }
 
 TEST_F(TraceReplayTest, GesturesSwitchedOffOrTheAppInFrontPerformNothing) {
-    const std::string output = TraceReplay::run(
-        {{1.0, TraceGestures{false}}, frame(1.0, 1), frame(1.1, 0), {2.0, TraceGestures{true}},
-         {2.0, TraceActive{true}}, frame(2.0, 1), frame(2.1, 0), {3.0, TraceActive{false}},
-         frame(3.0, 1), frame(3.1, 0)},
-        std::nullopt);
+    const std::string output = TraceReplay::run({{1.0, TraceGestures{false}},
+                                                 frame(1.0, 1),
+                                                 frame(1.1, 0),
+                                                 {2.0, TraceGestures{true}},
+                                                 {2.0, TraceActive{true}},
+                                                 frame(2.0, 1),
+                                                 frame(2.1, 0),
+                                                 {3.0, TraceActive{false}},
+                                                 frame(3.0, 1),
+                                                 frame(3.1, 0)},
+                                                std::nullopt);
     EXPECT_EQ(output,
               "1.100 tap 1\n"
               "2.100 tap 1\n"
@@ -108,20 +114,21 @@ TEST_F(TraceReplayTest, AnotherApplicationComingToTheFrontInTheWaitDropsTheTap) 
     const std::string output = TraceReplay::run(
         {frame(1.0, 1), frame(1.1, 0), {1.15, TraceFrontApplication{77, "com.example.Other"}}},
         std::nullopt);
-    EXPECT_EQ(output, "1.100 tap 1\nsummary taps=1 clicks=0 actions=0 frames=2 mouse-events=0 "
-                      "seconds=0.150\n");
+    EXPECT_EQ(output,
+              "1.100 tap 1\nsummary taps=1 clicks=0 actions=0 frames=2 mouse-events=0 "
+              "seconds=0.150\n");
 }
 
 TEST_F(TraceReplayTest, ReplaysAFileWithAProfileList) {
     const std::string trace = file("a.trace", "tactora-trace 1\n1.0 frame 1:0.5,0.5\n1.1 frame\n");
-    const std::string profiles =
-        file("p.json",
-             R"([{"id":"6F1C2A10-0000-4000-8000-00000000000A","name":"P","actions":[0,0,0,0,)"
-             R"(5,0,0,0],"shortcuts":[null,null,null,null,null,null,null,null]}])");
+    const std::string profiles = file(
+        "p.json", R"([{"id":"6F1C2A10-0000-4000-8000-00000000000A","name":"P","actions":[0,0,0,0,)"
+                  R"(5,0,0,0],"shortcuts":[null,null,null,null,null,null,null,null]}])");
     EXPECT_EQ(replay({"tactora", "--replay", trace, "--profile", profiles}), 0);
-    EXPECT_EQ(out.str(), "1.100 tap 1\n1.180 action action.copy\n"
-                         "summary taps=1 clicks=0 actions=1 frames=2 mouse-events=0 "
-                         "seconds=0.100\n");
+    EXPECT_EQ(out.str(),
+              "1.100 tap 1\n1.180 action action.copy\n"
+              "summary taps=1 clicks=0 actions=1 frames=2 mouse-events=0 "
+              "seconds=0.100\n");
     EXPECT_EQ(err.str(), "");
 }
 

@@ -5,8 +5,6 @@
 
 #include "core/trace/TraceLine.h"
 
-namespace tactora {
-
 // The trace format: plain text, one line per event, UTF-8, lines ending in "\n".
 //
 //   tactora-trace 1                          the first line: the format's name and version
@@ -25,7 +23,7 @@ namespace tactora {
 // one or more spaces. Numbers are written so that they read back exactly (see TraceNumbers.h).
 // A reader accepts every version up to its own; later versions add event words, never change
 // the meaning of existing ones.
-namespace trace {
+namespace tactora::trace {
 
 inline constexpr std::string_view formatName = "tactora-trace";
 inline constexpr int formatVersion = 1;
@@ -40,6 +38,4 @@ std::string formatLine(const TraceLine& line);
 // the event tap does not listen to.
 std::string_view mouseEventWord(EventType type);
 
-}  // namespace trace
-
-}  // namespace tactora
+}  // namespace tactora::trace

@@ -3,8 +3,11 @@
 #include <array>
 #include <cctype>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
+#include <iomanip>
+#include <locale>
+#include <sstream>
+#include <utility>
 
 namespace tactora::trace {
 
@@ -70,15 +73,22 @@ std::optional<std::array<char, longestNumber + 1>> terminated(std::string_view t
 
 }  // namespace
 
+std::string formatFixed(double value, int decimals) {
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << std::fixed << std::setprecision(decimals) << value;
+    return std::move(text).str();
+}
+
 std::string formatSeconds(double seconds) {
-    std::array<char, 512> buffer{};
+    std::string text;
     for (int decimals = 1; decimals <= maxSecondsDecimals; ++decimals) {
-        std::snprintf(buffer.data(), buffer.size(), "%.*f", decimals, seconds);
-        if (std::strtod(buffer.data(), nullptr) == seconds) {
+        text = formatFixed(seconds, decimals);
+        if (std::strtod(text.c_str(), nullptr) == seconds) {
             break;
         }
     }
-    return buffer.data();
+    return text;
 }
 
 std::string formatPosition(float position) {
@@ -88,14 +98,17 @@ std::string formatPosition(float position) {
     if (std::isinf(position)) {
         return position > 0 ? "inf" : "-inf";
     }
-    std::array<char, 64> buffer{};
+    std::string text;
     for (int digits = 1; digits <= maxPositionDigits; ++digits) {
-        std::snprintf(buffer.data(), buffer.size(), "%.*g", digits, static_cast<double>(position));
-        if (std::strtof(buffer.data(), nullptr) == position) {
+        std::ostringstream stream;
+        stream.imbue(std::locale::classic());
+        stream << std::setprecision(digits) << position;
+        text = std::move(stream).str();
+        if (std::strtof(text.c_str(), nullptr) == position) {
             break;
         }
     }
-    return buffer.data();
+    return text;
 }
 
 std::optional<double> parseSeconds(std::string_view text) {

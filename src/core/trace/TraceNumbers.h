@@ -11,6 +11,9 @@ namespace tactora::trace {
 // read in the C locale's form (a point before the fraction), which the program never changes.
 // Pure; any thread.
 
+// `value` with exactly `decimals` digits after the point, e.g. "1042.015".
+std::string formatFixed(double value, int decimals);
+
 // A time stamp: fixed-point seconds without an exponent, e.g. "1042.0153".
 std::string formatSeconds(double seconds);
 

@@ -154,7 +154,8 @@ Parsed parseFront(Words& words) {
     if (!processID || !bundle) {
         return failed(TraceProblem::process);
     }
-    return {TraceFrontApplication{processID, *bundle == "-" ? std::string() : std::string(*bundle)}};
+    return {
+        TraceFrontApplication{processID, *bundle == "-" ? std::string() : std::string(*bundle)}};
 }
 
 Parsed parseSwitch(std::string_view name, Words& words) {

@@ -11,7 +11,7 @@ namespace tactora {
 
 // A whole trace read, or where and why it could not be.
 struct TraceReading {
-    std::vector<TraceLine> lines;      // empty when there is an error
+    std::vector<TraceLine> lines;  // empty when there is an error
     std::optional<TraceError> error;
 };
 

@@ -1,7 +1,5 @@
 #include "core/trace/TraceReplay.h"
 
-#include <array>
-#include <cstdio>
 #include <memory>
 #include <type_traits>
 
@@ -11,6 +9,7 @@
 #include "core/profiles/ProfileJson.h"
 #include "core/profiles/ProfileStore.h"
 #include "core/trace/ReplayPlatform.h"
+#include "core/trace/TraceNumbers.h"
 #include "core/trace/VirtualMainQueue.h"
 
 namespace tactora {
@@ -18,9 +17,7 @@ namespace tactora {
 namespace {
 
 std::string seconds(double time) {
-    std::array<char, 64> buffer{};
-    std::snprintf(buffer.data(), buffer.size(), "%.3f", time);
-    return buffer.data();
+    return trace::formatFixed(time, 3);
 }
 
 std::string actionKey(ActionIndex action) {
@@ -59,8 +56,8 @@ struct Stage {
     // The one place where another application coming to the front reaches the controller.
     void frontApplication(const TraceFrontApplication& front) {
         workspace.frontmost = front.processID;
-        workspace.bundleID = front.bundleID.empty() ? std::nullopt
-                                                    : std::optional<std::string>(front.bundleID);
+        workspace.bundleID =
+            front.bundleID.empty() ? std::nullopt : std::optional<std::string>(front.bundleID);
     }
 
     void apply(const TraceFrame& frame) { controller->receive(frame.fingers); }
@@ -115,7 +112,9 @@ std::string TraceReplay::run(const std::vector<TraceLine>& lines,
     stage.launch();
     stage.controller->setObserver(&replay);
     for (const TraceLine& line : lines) {
-        stage.queue.advanceTo(line.time);
+        // A line comes before work due at its very moment: a recording notes a change of the
+        // application in front when the waiting work looks at it, just before that work runs.
+        stage.queue.advanceUpTo(line.time);
         std::visit(
             [&](const auto& event) {
                 using Event = std::decay_t<decltype(event)>;

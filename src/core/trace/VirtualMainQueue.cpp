@@ -20,8 +20,20 @@ void VirtualMainQueue::every(double seconds, std::function<void()> work) {
 }
 
 void VirtualMainQueue::advanceTo(double time) {
-    const double target = std::max(time, now_);
-    while (!items_.empty() && items_.top().due <= target) {
+    runDue(time, true);
+}
+
+void VirtualMainQueue::advanceUpTo(double time) {
+    runDue(time, false);
+}
+
+void VirtualMainQueue::runDue(double until, bool inclusive) {
+    const double target = std::max(until, now_);
+    const auto due = [&] {
+        return !items_.empty() &&
+               (items_.top().due < target || (inclusive && items_.top().due == target));
+    };
+    while (due()) {
         Item item = items_.top();
         items_.pop();
         now_ = std::max(now_, item.due);

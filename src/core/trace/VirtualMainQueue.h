@@ -27,6 +27,8 @@ class VirtualMainQueue final : public MainQueue, public Clock {
     // Runs everything due by `time` (work that it queues included), each at its own moment,
     // then sets the clock to `time`. A time in the past runs what is due now.
     void advanceTo(double time);
+    // The same, but work due at `time` itself stays queued.
+    void advanceUpTo(double time);
 
   private:
     struct Item {
@@ -43,6 +45,7 @@ class VirtualMainQueue final : public MainQueue, public Clock {
 
     void add(double due, double interval, std::function<void()> work);
     static double nextDue(const Item& item, double target);
+    void runDue(double until, bool inclusive);
 
     double now_;
     std::uint64_t nextSequence_ = 0;

@@ -16,7 +16,9 @@ class FakeWorkspace final : public Workspace {
     explicit FakeWorkspace(CallLog& log) : log_(log) {}
 
     std::optional<std::int32_t> frontmostProcessID() const override { return frontmost; }
-    std::optional<std::string> frontmostBundleIdentifier() const override { return frontmostBundle; }
+    std::optional<std::string> frontmostBundleIdentifier() const override {
+        return frontmostBundle;
+    }
     bool isActive() const override { return active; }
 
     std::vector<std::int32_t> instanceProcessIDs() const override {
