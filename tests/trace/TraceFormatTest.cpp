@@ -96,6 +96,12 @@ TEST(TraceReader, SkipsCommentsAndBlankLinesAndTakesWindowsLineEnds) {
     EXPECT_EQ(reading.lines[0], (TraceLine{1.5, TraceFrame{{Finger(1, 0.5, 0.5)}}}));
 }
 
+TEST(TraceReader, SkipsAByteOrderMark) {
+    const TraceReading reading = readTrace("\xEF\xBB\xBFtactora-trace 1\n1.0 frame\n");
+    EXPECT_FALSE(reading.error);
+    EXPECT_EQ(reading.lines.size(), 1U);
+}
+
 TEST(TraceReader, AnEmptyTraceIsOnlyItsHeader) {
     const TraceReading reading = readTrace("tactora-trace 1\n");
     EXPECT_FALSE(reading.error);

@@ -240,6 +240,10 @@ TraceReading failure(std::size_t line, TraceProblem problem) {
 }  // namespace
 
 TraceReading readTrace(std::string_view text) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (text.starts_with(byteOrderMark)) {
+        text.remove_prefix(byteOrderMark.size());
+    }
     Lines lines(text);
     const auto first = lines.next();
     const std::optional<int> version = first ? headerVersion(*first) : std::nullopt;

@@ -16,8 +16,8 @@ struct TraceReading {
 };
 
 // Reads a trace in the format of TraceFormat.h, of any version up to the current one. Stops at
-// the first line that is wrong; then nothing of the trace is kept. Accepts "\r\n" line ends
-// and a missing final line break. Never throws; pure; any thread.
+// the first line that is wrong; then nothing of the trace is kept. Accepts a leading byte
+// order mark, "\r\n" line ends and a missing final line break. Never throws; pure; any thread.
 TraceReading readTrace(std::string_view text);
 
 }  // namespace tactora
