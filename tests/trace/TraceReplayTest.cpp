@@ -119,6 +119,13 @@ TEST_F(TraceReplayTest, AnotherApplicationComingToTheFrontInTheWaitDropsTheTap) 
               "seconds=0.150\n");
 }
 
+TEST_F(TraceReplayTest, AnHourOfSilenceOrAnAgeOfItIsCrossedInOneStep) {
+    const std::string output = TraceReplay::run(
+        {frame(1.0, 1), frame(1.1, 0), frame(1e15, 1), frame(1e15 + 0.125, 0)}, std::nullopt);
+    EXPECT_NE(output.find("\nsummary taps=2 clicks=0 actions=2 frames=4 "), std::string::npos)
+        << output;
+}
+
 TEST_F(TraceReplayTest, ReplaysAFileWithAProfileList) {
     const std::string trace = file("a.trace", "tactora-trace 1\n1.0 frame 1:0.5,0.5\n1.1 frame\n");
     const std::string profiles = file(
