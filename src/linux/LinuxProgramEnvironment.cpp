@@ -30,7 +30,8 @@ std::optional<std::vector<std::int64_t>> LinuxProgramEnvironment::appIconPixelWi
 
 void LinuxProgramEnvironment::runApplication() {
     std::cerr << "Tactora's interactive application needs macOS; here it runs as "
-                 "tactora --self-test, tactora --check-localization or tactora --probe.\n";
+                 "tactora --self-test, tactora --check-localization, tactora --probe or "
+                 "tactora --replay FILE [--profile FILE].\n";
 }
 
 }  // namespace tactora

@@ -13,6 +13,7 @@
 #include "macos/AppKitWorkspace.h"
 #include "macos/CGEventPoster.h"
 #include "macos/DispatchMainQueue.h"
+#include "macos/FileTraceSink.h"
 #include "macos/IOKitDeviceWatcher.h"
 #include "macos/MachPortEventTap.h"
 #include "macos/ServiceManagementLoginItem.h"
@@ -54,6 +55,7 @@ class MacApplication {
     SystemProcessActivity activity_;
     SystemSecureInput secureInput_;
     TccutilResetTool resetTool_;
+    FileTraceSink traceSink_;
     TASettingsControls* __strong controls_;
     TAApplicationDelegate* __strong delegate_;
     AppKitSettingsView view_;

@@ -33,6 +33,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
           .shell = shell_,
           .view = view_,
           .dialogs = dialogs_,
+          .traceSink = traceSink_,
           .defaults = std::move(defaults),
           .surface = surface_,
           .files = files_,

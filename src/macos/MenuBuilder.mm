@@ -32,6 +32,8 @@ SEL selectorFor(MenuCommand command) {
             return @selector(selectAll:);
         case MenuCommand::closeWindow:
             return @selector(performClose:);
+        case MenuCommand::recordTouches:
+            return @selector(recordTouches);
         case MenuCommand::separator:
             break;
     }
@@ -41,7 +43,8 @@ SEL selectorFor(MenuCommand command) {
 // The controller's own commands; the others travel the responder chain from the focus.
 bool goesToController(MenuCommand command) {
     return command == MenuCommand::show || command == MenuCommand::pause ||
-           command == MenuCommand::quit || command == MenuCommand::toggleMenuBarFeedback;
+           command == MenuCommand::quit || command == MenuCommand::toggleMenuBarFeedback ||
+           command == MenuCommand::recordTouches;
 }
 
 }  // namespace

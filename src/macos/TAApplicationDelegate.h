@@ -21,6 +21,7 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)show;
 - (void)quit;
 - (void)pause;
+- (void)recordTouches;
 - (void)toggle;
 - (void)access;
 - (void)monitor;

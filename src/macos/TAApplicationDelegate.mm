@@ -50,6 +50,10 @@
     _controller->pause();
 }
 
+- (void)recordTouches {
+    _controller->recordTouches();
+}
+
 - (void)toggle {
     _controller->toggle();
 }

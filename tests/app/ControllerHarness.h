@@ -25,6 +25,7 @@
 #include "app/fakes/FakeSettingsView.h"
 #include "app/fakes/FakeSurfaceView.h"
 #include "app/fakes/FakeTapEvent.h"
+#include "app/fakes/FakeTraceSink.h"
 #include "app/fakes/FakeWorkspace.h"
 #include "core/app/ApplicationController.h"
 #include "core/app/Controller.h"
@@ -73,8 +74,9 @@ class ControllerHarness {
         setStringTable(testTable());
         initializeGlobals();
         controller = Controller::create({clock, queue, workspace, permissions, poster, eventTap,
-                                         sensor, shell, view, dialogs, defaults, surface, files,
-                                         devices, loginItem, activity, secureInput, resetTool});
+                                         sensor, shell, view, dialogs, traceSink, defaults, surface,
+                                         files, devices, loginItem, activity, secureInput,
+                                         resetTool});
         setApplicationController(controller);
     }
     ~ControllerHarness() {
@@ -144,6 +146,7 @@ class ControllerHarness {
     FakeAppShell shell{log};
     FakeSettingsView view{log};
     FakeDialogs dialogs{log};
+    FakeTraceSink traceSink;
     FakeSurfaceView surface;
     std::shared_ptr<MemoryPreferences> defaults;
     FakeProfileFiles files{log};

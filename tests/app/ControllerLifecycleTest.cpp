@@ -122,6 +122,7 @@ TEST_F(ControllerLifecycleTest, MenusOpenPauseAndQuit) {
               (std::vector<MenuEntry>{{"menu.open", MenuCommand::show, ""},
                                       {"menu.pause", MenuCommand::pause, ""},
                                       {"menu.feedback", MenuCommand::toggleMenuBarFeedback, ""},
+                                      {"menu.trace.start", MenuCommand::recordTouches, ""},
                                       {"", MenuCommand::separator, ""},
                                       {"menu.exit", MenuCommand::quit, "q"}}));
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -62,6 +64,29 @@ TEST_F(ProgramTest, ProbeRunsWhenItIsTheOnlyFlag) {
     EXPECT_EQ(run({"tactora", "--probe"}), 0);
     EXPECT_EQ(environment.fakeSensor.starts, 1);
     EXPECT_EQ(output.rfind("Sensor: 0 · ", 0), 0U);
+}
+
+TEST_F(ProgramTest, TheProbeWinsOverAReplay) {
+    EXPECT_EQ(run({"tactora", "--replay", "/nonexistent.trace", "--probe"}), 0);
+    EXPECT_EQ(environment.fakeSensor.starts, 1);
+}
+
+TEST_F(ProgramTest, AReplayThatCannotReadItsTraceEndsWithStatusOne) {
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(run({"tactora", "--replay", "/nonexistent.trace"}), 1);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "replay.unreadable\n");
+    EXPECT_EQ(output, "");
+    EXPECT_EQ(environment.applicationRuns, 0);
+    EXPECT_EQ(environment.fakeSensor.starts, 0);
+}
+
+TEST_F(ProgramTest, AReplayPrintsWhatTheTraceMakesTheControllerDo) {
+    const auto path = std::filesystem::temp_directory_path() / "tactora-program-test.trace";
+    std::ofstream(path) << "tactora-trace 1\n7.0 frame 1:0.5,0.5\n7.1 frame\n";
+    EXPECT_EQ(run({"tactora", "--replay", path.string()}), 0);
+    std::filesystem::remove(path);
+    EXPECT_EQ(output.rfind("7.100 tap 1\n7.180 action action.default\nsummary ", 0), 0U);
+    EXPECT_EQ(environment.applicationRuns, 0);
 }
 
 TEST_F(ProgramTest, GlobalsHoldTheMarkerAndTheLocalisedActionNames) {

@@ -11,11 +11,13 @@ std::vector<MenuEntry> mainMenuItems() {
     };
 }
 
-std::vector<MenuEntry> statusMenuItems(bool menuBarFeedback) {
+std::vector<MenuEntry> statusMenuItems(bool menuBarFeedback, bool recordingTouches) {
     return {
         {L("menu.open"), MenuCommand::show, ""},
         {L("menu.pause"), MenuCommand::pause, ""},
         {L("menu.feedback"), MenuCommand::toggleMenuBarFeedback, "", menuBarFeedback},
+        {L(recordingTouches ? "menu.trace.stop" : "menu.trace.start"), MenuCommand::recordTouches,
+         ""},
         {"", MenuCommand::separator, ""},
         {L("menu.exit"), MenuCommand::quit, "q"},
     };

@@ -11,8 +11,9 @@ namespace tactora {
 std::vector<MenuEntry> mainMenuItems();
 
 // The status item's menu: open the settings, pause, show gestures in the menu bar (checked
-// when `menuBarFeedback` is on), a separator, exit (⌘Q).
-std::vector<MenuEntry> statusMenuItems(bool menuBarFeedback);
+// when `menuBarFeedback` is on), record touches (which reads "Stop Recording" while a
+// recording is under way), a separator, exit (⌘Q).
+std::vector<MenuEntry> statusMenuItems(bool menuBarFeedback, bool recordingTouches);
 
 // The menu bar's Edit menu, so that text fields take the usual keys: Undo (⌘Z), Redo (⇧⌘Z), a
 // separator, Cut (⌘X), Copy (⌘C), Paste (⌘V), Select All (⌘A).

@@ -37,6 +37,9 @@ GestureDispatchContext Controller::dispatchContext() {
 }
 
 bool Controller::mayDispatch(const GestureDispatchContext& context) {
+    if (trace_.isRecording()) {
+        noteFrontApplication(services_.clock.uptime());
+    }
     const bool configuring = recording_ || services_.workspace.isActive();
     return context.isCurrent(actionGeneration_, profiles().activeID(),
                              services_.workspace.frontmostProcessID(), services_.view.isEnabledOn(),

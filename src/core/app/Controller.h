@@ -14,6 +14,7 @@
 #include "core/actions/ActionIndex.h"
 #include "core/actions/Press.h"
 #include "core/app/ContactFrame.h"
+#include "core/app/ControllerObserver.h"
 #include "core/app/ControllerServices.h"
 #include "core/app/GestureKind.h"
 #include "core/app/MenuBarFeedback.h"
@@ -33,6 +34,8 @@
 #include "core/platform/TapEvent.h"
 #include "core/profiles/ProfileStore.h"
 #include "core/profiles/SavedShortcut.h"
+#include "core/trace/TraceLine.h"
+#include "core/trace/TraceRecorder.h"
 
 namespace tactora {
 
@@ -248,6 +251,17 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // The status menu's item that shows gestures in the menu bar: turns the preference over.
     void toggleMenuBarFeedback();
 
+    // --- Touch traces ------------------------------------------------------------------------
+
+    // The status menu's "Record Touches…" item: starts writing a trace of everything the
+    // controller receives, or stops the one under way. Off until the user chooses it.
+    void recordTouches();
+    bool recordingTouches() const { return trace_.isRecording(); }
+
+    // Tells `observer` (not owned; it must outlive the controller, or be taken away with null)
+    // what is recognised and performed from now on.
+    void setObserver(ControllerObserver* observer) { observer_ = observer; }
+
     // --- State, for the status display and for tests -----------------------------------------
 
     const GestureState& gesture() const { return gesture_; }
@@ -325,6 +339,14 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void followFrontmost();
     ApplicationsSheet applicationsSheet();
     std::string applicationName(const std::string& bundleID) const;
+    void applySwitch(bool byUser);
+    void noteTapEvent(EventType type, const TapEvent& event);
+    void startTrace();
+    void stopTrace();
+    void noteTrace(double now, TraceEvent event);
+    void noteFrontApplication(double now);
+    void noteGestures();
+    void showStatusMenu();
 
     ActionIndex actionAt(std::int64_t slot);
     const std::optional<SavedShortcut>& shortcutAt(std::int64_t slot);
@@ -368,6 +390,11 @@ class Controller : public std::enable_shared_from_this<Controller> {
     TouchSurface surface_;
     bool surfaceVisible_ = false;
     MenuBarFeedback feedback_;
+    TraceRecorder trace_;
+    std::string tracePath_;
+    std::optional<TraceFrontApplication> tracedFront_;
+    std::optional<bool> tracedGestures_;
+    ControllerObserver* observer_ = nullptr;  // not owned
 };
 
 }  // namespace tactora

@@ -20,6 +20,9 @@ const std::string& actionName(ActionIndex action) {
 }  // namespace
 
 void Controller::perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut) {
+    if (observer_ != nullptr) {
+        observer_->actionPerformed(action);
+    }
     if (action == action::custom) {
         performShortcut(shortcut);
         return;

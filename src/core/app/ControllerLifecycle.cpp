@@ -24,7 +24,7 @@ void Controller::applicationDidFinishLaunching() {
     buildWindow();
     createStatusItem();
     updateMenuIcon();
-    services_.shell.buildStatusMenu(statusMenuItems(feedback_.isOn()));
+    showStatusMenu();
     reconnect();
     startRefreshTimer();
     observeWake();
@@ -37,14 +37,17 @@ void Controller::applicationDidFinishLaunching() {
 }
 
 void Controller::applicationDidBecomeActive() {
+    noteTrace(services_.clock.uptime(), TraceActive{true});
     dropPendingWork();
 }
 
 void Controller::applicationDidResignActive() {
+    noteTrace(services_.clock.uptime(), TraceActive{false});
     dropPendingWork();
 }
 
 void Controller::applicationWillTerminate() {
+    stopTrace();
     // The program's pause: the user's choice is kept for the next launch.
     const ScopedCount program(programActions_);
     pause();
@@ -83,6 +86,12 @@ void Controller::toggle() {
     if (byUser) {
         keepOn_.userChose(services_.view.isEnabledOn());
     }
+    applySwitch(byUser);
+    noteGestures();
+}
+
+// Applies the switch's state; `byUser` when the user ticked it, not the program.
+void Controller::applySwitch(bool byUser) {
     cancelPendingActions();
     if (!services_.view.isEnabledOn()) {
         releasePresses();

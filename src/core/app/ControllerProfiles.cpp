@@ -82,6 +82,7 @@ void Controller::selectProfile() {
     if (!id) {
         return;
     }
+    noteTrace(services_.clock.uptime(), TraceProfileSelected{id->text()});
     switchProfile(*id, ProfileSwitch::chosen);
 }
 

@@ -67,6 +67,10 @@ void Controller::receive(const ContactFrame& frame) {
 void Controller::receive(std::span<const Finger> fingers) {
     const double now = services_.clock.uptime();
     lastFrame_ = now;
+    if (trace_.isRecording()) {
+        noteFrontApplication(now);
+        noteTrace(now, TraceFrame{{fingers.begin(), fingers.end()}});
+    }
     const std::optional<std::int64_t> count = gesture_.update(fingers, now);
     if (surfaceVisible_) {
         surface_.frame(fingers, now);
@@ -79,6 +83,9 @@ void Controller::receive(std::span<const Finger> fingers) {
     }
     lastGesture_ = L("gesture.tap", *count);
     noteGesture(GestureKind::tap, *count, now);
+    if (observer_ != nullptr) {
+        observer_->tapRecognised(*count);
+    }
     const std::int64_t slot = slot::forTap(*count);
     const ActionIndex action = actionAt(slot);
     const std::optional<SavedShortcut> shortcut = shortcutAt(slot);

@@ -18,6 +18,7 @@
 #include "core/platform/Sensor.h"
 #include "core/platform/SettingsView.h"
 #include "core/platform/SurfaceView.h"
+#include "core/platform/TraceSink.h"
 #include "core/platform/Workspace.h"
 #include "core/profiles/Preferences.h"
 
@@ -36,6 +37,8 @@ struct ControllerServices {
     AppShell& shell;
     SettingsView& view;
     Dialogs& dialogs;
+    // Where recorded touch traces are written.
+    TraceSink& traceSink;
     // The domain the work profiles are kept in (the standard user defaults).
     std::shared_ptr<Preferences> defaults;
     // The settings window's live view of the touch surface.

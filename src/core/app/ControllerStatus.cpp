@@ -17,13 +17,21 @@ std::string permissionState(bool granted) {
 }  // namespace
 
 void Controller::refresh() {
+    if (trace_.expired(services_.clock.uptime())) {
+        stopTrace();
+        return;  // stopping refreshes
+    }
     const bool accessibility = services_.permissions.accessibilityTrusted();
     const bool inputMonitoring = services_.permissions.inputMonitoringGranted();
     permissionMemory_.observe(accessibility, inputMonitoring);
     services_.view.setPermissionText(permissionLine(accessibility, inputMonitoring));
     const bool fresh = services_.clock.uptime() - lastFrame_ < liveContact;
     const std::int64_t fingers = fresh ? gesture_.count : 0;
-    services_.view.setLiveText(L("live", fingers, lastGesture_, lastAction_));
+    std::string live = L("live", fingers, lastGesture_, lastAction_);
+    if (trace_.isRecording()) {
+        live += " · " + L("trace.live");
+    }
+    services_.view.setLiveText(live);
     if (surfaceVisible_) {
         showSurface();
     }

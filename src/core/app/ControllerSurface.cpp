@@ -37,7 +37,7 @@ void Controller::surfaceVisibilityChanged(bool visible) {
 
 void Controller::toggleMenuBarFeedback() {
     feedback_.setOn(!feedback_.isOn());
-    services_.shell.buildStatusMenu(statusMenuItems(feedback_.isOn()));
+    showStatusMenu();
     updateMenuIcon();
 }
 

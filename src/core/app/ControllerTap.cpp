@@ -4,6 +4,7 @@
 #include "core/app/Globals.h"
 #include "core/localization/Localizer.h"
 #include "core/profiles/GestureSlot.h"
+#include "core/trace/TraceFormat.h"
 
 namespace tactora {
 
@@ -35,8 +36,13 @@ EventDisposition Controller::handle(EventType type, TapEvent& event) {
         tapDisabled();
         return EventDisposition::pass;
     }
-    if (!canRunGestures() || event.integerField(event::sourceUserData) == marker ||
-        !isFromMouse(event)) {
+    if (event.integerField(event::sourceUserData) == marker) {
+        return EventDisposition::pass;
+    }
+    if (trace_.isRecording()) {
+        noteTapEvent(type, event);
+    }
+    if (!canRunGestures() || !isFromMouse(event)) {
         return EventDisposition::pass;
     }
     const double now = services_.clock.uptime();
@@ -74,12 +80,23 @@ void Controller::tapDisabled() {
     services_.view.setEnabledOn(false);
     services_.view.setStatusText(L("error.paused"));
     syncActivity();
+    noteGestures();
     if (!keepOn_.enabled() || !keepOn_.wanted()) {
         return;
     }
     if (const std::optional<double> seconds = keepOn_.tapDisabled(services_.clock.uptime())) {
         coolDown(*seconds);
     }
+}
+
+void Controller::noteTapEvent(EventType type, const TapEvent& event) {
+    if (trace::mouseEventWord(type).empty()) {
+        return;
+    }
+    const double now = services_.clock.uptime();
+    const bool fromMouse = isFromMouse(event);
+    noteFrontApplication(now);
+    noteTrace(now, TraceMouseEvent{type, event.integerField(event::buttonNumber), fromMouse});
 }
 
 bool Controller::isFromMouse(const TapEvent& event) {
@@ -100,6 +117,9 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
     }
     lastGesture_ = L("gesture.click", fingers);
     noteGesture(GestureKind::click, fingers, now);
+    if (observer_ != nullptr) {
+        observer_->clickRecognised(fingers);
+    }
     const std::int64_t slot = slot::forClick(fingers);
     const ActionIndex action = actionAt(slot);
     if (action == action::defaultAction) {
@@ -113,6 +133,9 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
     }
     // A rewritten press does its action now; a swallowed one does it on release.
     noteAction(action, press.shortcut, now);
+    if (observer_ != nullptr) {
+        observer_->pressRewritten(action, *press.button);
+    }
     rewrite(event, *press.button, true, false);
     return EventDisposition::pass;
 }

@@ -1,10 +1,12 @@
 #include "core/app/Program.h"
 
 #include <algorithm>
+#include <iostream>
 #include <string_view>
 
 #include "core/app/Globals.h"
 #include "core/console/ConsoleModes.h"
+#include "core/console/ReplayMode.h"
 
 namespace tactora {
 
@@ -22,6 +24,8 @@ int runProgram(std::span<const std::string> arguments, ProgramEnvironment& envir
         runLocalizationCheck(environment);
     } else if (contains(arguments, "--probe")) {
         runProbe(environment);
+    } else if (contains(arguments, "--replay")) {
+        return runReplay(arguments, std::cout, std::cerr);
     } else {
         environment.runApplication();
     }

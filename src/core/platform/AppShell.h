@@ -37,7 +37,7 @@ class AppShell {
     // Creates the status-bar item, variable length, with no menu yet.
     virtual void createStatusItem() = 0;
 
-    // Attaches a menu holding `items` to the status item.
+    // Attaches a menu holding `items` to the status item, replacing the one it had.
     virtual void buildStatusMenu(const std::vector<MenuEntry>& items) = 0;
 
     // Brings the settings window to the front and makes it key.

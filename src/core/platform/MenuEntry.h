@@ -4,14 +4,15 @@
 
 namespace tactora {
 
-// What choosing a menu item does. The shell sends show, pause, quit and toggleMenuBarFeedback to
-// the controller operation of the same name; the editing and window commands go, as the
-// system's standard actions, to whatever control or window has the keyboard focus.
+// What choosing a menu item does. The shell sends show, pause, quit, toggleMenuBarFeedback and
+// recordTouches to the controller operation of the same name; the editing and window commands
+// go, as the system's standard actions, to whatever control or window has the keyboard focus.
 enum class MenuCommand {
     show,
     pause,
     quit,
     toggleMenuBarFeedback,
+    recordTouches,
     separator,  // not an item: a separator line
     undo,
     redo,

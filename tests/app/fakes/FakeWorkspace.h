@@ -66,6 +66,7 @@ class FakeWorkspace final : public Workspace {
     }
 
     std::optional<std::int32_t> frontmost = 42;
+    std::string frontmostBundle = "com.example.Editor";
     bool active = false;
     std::int32_t own = 7;
     std::vector<std::int32_t> instances{7};  // this process alone
@@ -74,7 +75,6 @@ class FakeWorkspace final : public Workspace {
     std::function<void()> wake;
     std::vector<std::int32_t> showRequests;
     std::function<void()> showRequested;
-    std::string frontmostBundle;
     std::function<void(std::optional<std::int32_t>, std::string)> frontmostChanged;
     std::vector<RunningApplication> running;
     std::map<std::string, std::string> names;  // bundle id to name, for applicationName()

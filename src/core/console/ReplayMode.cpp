@@ -1,0 +1,102 @@
+#include "core/console/ReplayMode.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <ostream>
+#include <set>
+#include <sstream>
+#include <string_view>
+#include <vector>
+
+#include "core/localization/Localizer.h"
+#include "core/profiles/ProfileJson.h"
+#include "core/trace/TraceReader.h"
+#include "core/trace/TraceReplay.h"
+
+namespace tactora {
+
+namespace {
+
+// The argument after `flag`: nothing when the flag is absent, empty when it ends the list.
+std::optional<std::string> valueAfter(std::span<const std::string> arguments,
+                                      std::string_view flag) {
+    const auto found = std::ranges::find(arguments, flag);
+    if (found == arguments.end()) {
+        return std::nullopt;
+    }
+    const auto value = std::next(found);
+    return value == arguments.end() ? std::string() : *value;
+}
+
+std::optional<std::string> contents(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        return std::nullopt;
+    }
+    std::ostringstream text;
+    text << file.rdbuf();
+    if (file.bad()) {
+        return std::nullopt;
+    }
+    return std::move(text).str();
+}
+
+bool hasDistinctIDs(const std::vector<WorkProfile>& profiles) {
+    std::set<Uuid> ids;
+    for (const WorkProfile& profile : profiles) {
+        ids.insert(profile.id);
+    }
+    return ids.size() == profiles.size();
+}
+
+// The profile list in `path`, sanitised as the store would; nothing when it is not one.
+std::optional<std::vector<WorkProfile>> profileList(const std::string& text) {
+    std::optional<std::vector<WorkProfile>> profiles = decodeProfiles(text);
+    if (!profiles || profiles->empty() || !hasDistinctIDs(*profiles)) {
+        return std::nullopt;
+    }
+    for (WorkProfile& profile : *profiles) {
+        profile.sanitize();
+    }
+    return profiles;
+}
+
+int fail(std::ostream& err, const std::string& message) {
+    err << message << '\n' << std::flush;
+    return 1;
+}
+
+}  // namespace
+
+int runReplay(std::span<const std::string> arguments, std::ostream& out, std::ostream& err) {
+    const std::optional<std::string> tracePath = valueAfter(arguments, "--replay");
+    const std::optional<std::string> profilePath = valueAfter(arguments, "--profile");
+    if (!tracePath || tracePath->empty() || (profilePath && profilePath->empty())) {
+        return fail(err, L("replay.usage"));
+    }
+    const std::optional<std::string> trace = contents(*tracePath);
+    if (!trace) {
+        return fail(err, L("replay.unreadable", *tracePath));
+    }
+    TraceReading reading = readTrace(*trace);
+    if (reading.error) {
+        return fail(err, *tracePath + ": " + describeTraceError(*reading.error));
+    }
+    std::optional<std::vector<WorkProfile>> profiles;
+    if (profilePath) {
+        const std::optional<std::string> json = contents(*profilePath);
+        if (!json) {
+            return fail(err, L("replay.unreadable", *profilePath));
+        }
+        profiles = profileList(*json);
+        if (!profiles) {
+            return fail(err, L("replay.profiles", *profilePath));
+        }
+    }
+    out << TraceReplay::run(reading.lines, profiles) << std::flush;
+    return 0;
+}
+
+}  // namespace tactora

@@ -1,0 +1,283 @@
+#include "core/trace/TraceReader.h"
+
+#include <charconv>
+#include <cstdint>
+#include <string>
+#include <system_error>
+
+#include "core/profiles/Uuid.h"
+#include "core/trace/TraceFormat.h"
+#include "core/trace/TraceNumbers.h"
+
+namespace tactora {
+
+namespace {
+
+// The words of one line, taken one at a time.
+class Words {
+  public:
+    explicit Words(std::string_view line) : rest_(line) {}
+
+    // The next word, or nothing at the end of the line.
+    std::optional<std::string_view> next() {
+        const std::size_t start = rest_.find_first_not_of(' ');
+        if (start == std::string_view::npos) {
+            rest_ = {};
+            return std::nullopt;
+        }
+        rest_.remove_prefix(start);
+        const std::size_t end = std::min(rest_.find(' '), rest_.size());
+        const std::string_view word = rest_.substr(0, end);
+        rest_.remove_prefix(end);
+        return word;
+    }
+
+    bool atEnd() const { return rest_.find_first_not_of(' ') == std::string_view::npos; }
+
+  private:
+    std::string_view rest_;
+};
+
+template <typename Integer>
+std::optional<Integer> parseInteger(std::string_view text) {
+    Integer value{};
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (text.empty() || error != std::errc() || stop != end) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+// Either the event or the problem with it.
+struct Parsed {
+    std::optional<TraceEvent> event;
+    TraceProblem problem = TraceProblem::event;
+};
+
+Parsed failed(TraceProblem problem) {
+    return {std::nullopt, problem};
+}
+
+std::optional<Finger> parseContact(std::string_view text) {
+    const std::size_t colon = text.find(':');
+    const std::size_t comma = text.find(',');
+    if (colon == std::string_view::npos || comma == std::string_view::npos || comma < colon) {
+        return std::nullopt;
+    }
+    const auto id = parseInteger<std::int64_t>(text.substr(0, colon));
+    const auto x = trace::parsePosition(text.substr(colon + 1, comma - colon - 1));
+    const auto y = trace::parsePosition(text.substr(comma + 1));
+    if (!id || !x || !y) {
+        return std::nullopt;
+    }
+    return Finger(*id, static_cast<double>(*x), static_cast<double>(*y));
+}
+
+Parsed parseFrame(Words& words) {
+    TraceFrame frame;
+    while (const auto contact = words.next()) {
+        const std::optional<Finger> finger = parseContact(*contact);
+        if (!finger) {
+            return failed(TraceProblem::contact);
+        }
+        frame.fingers.push_back(*finger);
+    }
+    return {frame};
+}
+
+std::optional<bool> parseSource(std::optional<std::string_view> word) {
+    if (word == "mouse") {
+        return true;
+    }
+    if (word == "other") {
+        return false;
+    }
+    return std::nullopt;
+}
+
+std::optional<bool> parseOnOff(std::optional<std::string_view> word) {
+    if (word == "on") {
+        return true;
+    }
+    if (word == "off") {
+        return false;
+    }
+    return std::nullopt;
+}
+
+std::optional<EventType> mouseEventType(std::string_view word) {
+    for (const EventType type :
+         {event::leftMouseDown, event::leftMouseUp, event::leftMouseDragged, event::rightMouseDown,
+          event::rightMouseUp, event::rightMouseDragged, event::scrollWheel}) {
+        if (trace::mouseEventWord(type) == word) {
+            return type;
+        }
+    }
+    return std::nullopt;
+}
+
+Parsed parseMouseEvent(EventType type, Words& words) {
+    TraceMouseEvent mouse{type, 0, true};
+    if (type != event::scrollWheel) {
+        const auto word = words.next();
+        const auto button = word ? parseInteger<std::int64_t>(*word) : std::nullopt;
+        if (!button) {
+            return failed(TraceProblem::button);
+        }
+        mouse.button = *button;
+    }
+    const std::optional<bool> fromMouse = parseSource(words.next());
+    if (!fromMouse) {
+        return failed(TraceProblem::source);
+    }
+    mouse.fromMouse = *fromMouse;
+    return {mouse};
+}
+
+Parsed parseProfile(Words& words) {
+    const auto word = words.next();
+    const std::optional<Uuid> id = word ? Uuid::parse(std::string(*word)) : std::nullopt;
+    if (!id) {
+        return failed(TraceProblem::profile);
+    }
+    return {TraceProfileSelected{id->text()}};
+}
+
+Parsed parseFront(Words& words) {
+    const auto word = words.next();
+    if (word == "none") {
+        return {TraceFrontApplication{}};
+    }
+    const auto processID = word ? parseInteger<std::int32_t>(*word) : std::nullopt;
+    const auto bundle = words.next();
+    if (!processID || !bundle) {
+        return failed(TraceProblem::process);
+    }
+    return {
+        TraceFrontApplication{processID, *bundle == "-" ? std::string() : std::string(*bundle)}};
+}
+
+Parsed parseSwitch(std::string_view name, Words& words) {
+    const std::optional<bool> on = parseOnOff(words.next());
+    if (!on) {
+        return failed(TraceProblem::onOff);
+    }
+    if (name == "gestures") {
+        return {TraceGestures{*on}};
+    }
+    return {TraceActive{*on}};
+}
+
+Parsed parseEvent(Words& words) {
+    const auto name = words.next();
+    if (!name) {
+        return failed(TraceProblem::event);
+    }
+    Parsed parsed = failed(TraceProblem::event);
+    if (*name == "frame") {
+        parsed = parseFrame(words);
+    } else if (const std::optional<EventType> type = mouseEventType(*name)) {
+        parsed = parseMouseEvent(*type, words);
+    } else if (*name == "profile") {
+        parsed = parseProfile(words);
+    } else if (*name == "front") {
+        parsed = parseFront(words);
+    } else if (*name == "gestures" || *name == "active") {
+        parsed = parseSwitch(*name, words);
+    }
+    if (parsed.event && !words.atEnd()) {
+        return failed(TraceProblem::extra);
+    }
+    return parsed;
+}
+
+// The version the header names, or nothing when it is not a header.
+std::optional<int> headerVersion(std::string_view line) {
+    Words words(line);
+    if (words.next() != trace::formatName) {
+        return std::nullopt;
+    }
+    const auto word = words.next();
+    const auto version = word ? parseInteger<int>(*word) : std::nullopt;
+    if (!version || *version < 1 || !words.atEnd()) {
+        return std::nullopt;
+    }
+    return version;
+}
+
+bool isSkipped(std::string_view line) {
+    const std::size_t start = line.find_first_not_of(' ');
+    return start == std::string_view::npos || line[start] == '#';
+}
+
+// Splits `text` into lines, dropping each line's "\r" before its "\n".
+class Lines {
+  public:
+    explicit Lines(std::string_view text) : rest_(text) {}
+
+    std::optional<std::string_view> next() {
+        if (rest_.empty()) {
+            return std::nullopt;
+        }
+        const std::size_t end = std::min(rest_.find('\n'), rest_.size());
+        std::string_view line = rest_.substr(0, end);
+        rest_.remove_prefix(std::min(end + 1, rest_.size()));
+        if (!line.empty() && line.back() == '\r') {
+            line.remove_suffix(1);
+        }
+        return line;
+    }
+
+  private:
+    std::string_view rest_;
+};
+
+TraceReading failure(std::size_t line, TraceProblem problem) {
+    return {{}, TraceError{line, problem}};
+}
+
+}  // namespace
+
+TraceReading readTrace(std::string_view text) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (text.starts_with(byteOrderMark)) {
+        text.remove_prefix(byteOrderMark.size());
+    }
+    Lines lines(text);
+    const auto first = lines.next();
+    const std::optional<int> version = first ? headerVersion(*first) : std::nullopt;
+    if (!version) {
+        return failure(1, TraceProblem::header);
+    }
+    if (*version > trace::formatVersion) {
+        return failure(1, TraceProblem::version);
+    }
+    TraceReading reading;
+    std::size_t number = 1;
+    double previous = 0;
+    while (const auto line = lines.next()) {
+        ++number;
+        if (isSkipped(*line)) {
+            continue;
+        }
+        Words words(*line);
+        const auto stamp = words.next();
+        const std::optional<double> time = stamp ? trace::parseSeconds(*stamp) : std::nullopt;
+        if (!time) {
+            return failure(number, TraceProblem::time);
+        }
+        if (*time < previous) {
+            return failure(number, TraceProblem::timeBack);
+        }
+        previous = *time;
+        Parsed parsed = parseEvent(words);
+        if (!parsed.event) {
+            return failure(number, parsed.problem);
+        }
+        reading.lines.push_back({*time, std::move(*parsed.event)});
+    }
+    return reading;
+}
+
+}  // namespace tactora

@@ -1,0 +1,179 @@
+#include "core/trace/TraceReplay.h"
+
+#include <memory>
+#include <type_traits>
+
+#include "core/app/Controller.h"
+#include "core/app/Globals.h"
+#include "core/profiles/MemoryPreferences.h"
+#include "core/profiles/ProfileJson.h"
+#include "core/profiles/ProfileStore.h"
+#include "core/trace/ReplayPlatform.h"
+#include "core/trace/TraceNumbers.h"
+#include "core/trace/VirtualMainQueue.h"
+
+namespace tactora {
+
+namespace {
+
+std::string seconds(double time) {
+    return trace::formatFixed(time, 3);
+}
+
+std::string actionKey(ActionIndex action) {
+    if (action < 0 || static_cast<std::size_t>(action) >= actionKeys.size()) {
+        return std::to_string(action);
+    }
+    return std::string(actionKeys[static_cast<std::size_t>(action)]);
+}
+
+std::shared_ptr<MemoryPreferences> defaultsWith(
+    const std::optional<std::vector<WorkProfile>>& profiles) {
+    auto defaults = std::make_shared<MemoryPreferences>();
+    if (profiles && !profiles->empty()) {
+        if (const std::optional<std::string> json = encodeProfiles(*profiles)) {
+            defaults->setData(ProfileStore::profilesKey, Bytes(json->begin(), json->end()));
+            defaults->setString(ProfileStore::activeKey, profiles->front().id.text());
+        }
+    }
+    return defaults;
+}
+
+// The stand-in platform and the controller running on it.
+struct Stage {
+    explicit Stage(double start, std::shared_ptr<MemoryPreferences> defaults)
+        : queue(start),
+          controller(Controller::create({queue, queue, workspace, permissions, poster, tap, sensor,
+                                         shell, view, dialogs, traceSink, std::move(defaults),
+                                         surface, files, devices, loginItem, activity,
+                                         secureInput, resetTool})) {}
+
+    // Launched, with gestures switched on as the user would.
+    void launch() {
+        controller->applicationDidFinishLaunching();
+        view.enabled = true;
+        controller->toggle();
+    }
+
+    // The one place where another application coming to the front reaches the controller.
+    void frontApplication(const TraceFrontApplication& front) {
+        workspace.frontmost = front.processID;
+        workspace.bundleID = front.bundleID;
+        controller->frontmostApplicationChanged(front.processID, front.bundleID);
+    }
+
+    void apply(const TraceFrame& frame) { controller->receive(frame.fingers); }
+
+    void apply(const TraceMouseEvent& mouse) {
+        replay::TapEvent event(mouse.button, mouse.fromMouse);
+        controller->handle(mouse.type, event);
+    }
+
+    void apply(const TraceProfileSelected& profile) {
+        view.profileChoice = profile.id;
+        controller->selectProfile();
+    }
+
+    void apply(const TraceFrontApplication& front) { frontApplication(front); }
+
+    void apply(const TraceGestures& gestures) {
+        view.enabled = gestures.on;
+        controller->toggle();
+    }
+
+    void apply(const TraceActive& active) {
+        workspace.active = active.active;
+        if (active.active) {
+            controller->applicationDidBecomeActive();
+        } else {
+            controller->applicationDidResignActive();
+        }
+    }
+
+    VirtualMainQueue queue;
+    replay::Workspace workspace;
+    replay::Permissions permissions;
+    replay::EventPoster poster;
+    replay::EventTap tap;
+    replay::Sensor sensor;
+    replay::AppShell shell;
+    replay::SettingsView view;
+    replay::Dialogs dialogs;
+    replay::TraceSink traceSink;
+    replay::SurfaceView surface;
+    replay::ProfileFiles files;
+    replay::DeviceWatcher devices;
+    replay::LoginItem loginItem;
+    replay::ProcessActivity activity;
+    replay::SecureInput secureInput;
+    replay::PermissionResetTool resetTool;
+    std::shared_ptr<Controller> controller;
+};
+
+}  // namespace
+
+std::string TraceReplay::run(const std::vector<TraceLine>& lines,
+                             const std::optional<std::vector<WorkProfile>>& profiles) {
+    const double start = lines.empty() ? 0 : lines.front().time;
+    TraceReplay replay;
+    Stage stage(start, defaultsWith(profiles));
+    replay.clock_ = &stage.queue;
+    stage.launch();
+    stage.controller->setObserver(&replay);
+    for (const TraceLine& line : lines) {
+        // A line comes before work due at its very moment: a recording notes a change of the
+        // application in front when the waiting work looks at it, just before that work runs.
+        stage.queue.advanceUpTo(line.time);
+        std::visit(
+            [&](const auto& event) {
+                using Event = std::decay_t<decltype(event)>;
+                if constexpr (std::is_same_v<Event, TraceFrame>) {
+                    ++replay.frames_;
+                } else if constexpr (std::is_same_v<Event, TraceMouseEvent>) {
+                    ++replay.mouseEvents_;
+                }
+                stage.apply(event);
+            },
+            line.event);
+        stage.queue.advanceTo(line.time);  // what the line queued to run at once
+    }
+    const double end = lines.empty() ? start : lines.back().time;
+    stage.queue.advanceTo(end + settle);
+    stage.controller->setObserver(nullptr);
+    replay.output_ += replay.summary(end - start);
+    return replay.output_;
+}
+
+void TraceReplay::tapRecognised(std::int64_t fingers) {
+    ++taps_;
+    print("tap " + std::to_string(fingers));
+}
+
+void TraceReplay::clickRecognised(std::int64_t fingers) {
+    ++clicks_;
+    print("click " + std::to_string(fingers));
+}
+
+void TraceReplay::actionPerformed(ActionIndex action) {
+    ++actions_;
+    print("action " + actionKey(action));
+}
+
+void TraceReplay::pressRewritten(ActionIndex action, MouseButton button) {
+    ++actions_;
+    print("action " + actionKey(action) + " button " +
+          std::to_string(static_cast<std::uint32_t>(button)));
+}
+
+void TraceReplay::print(const std::string& what) {
+    output_ += seconds(clock_->uptime()) + ' ' + what + '\n';
+}
+
+std::string TraceReplay::summary(double seconds) const {
+    return "summary taps=" + std::to_string(taps_) + " clicks=" + std::to_string(clicks_) +
+           " actions=" + std::to_string(actions_) + " frames=" + std::to_string(frames_) +
+           " mouse-events=" + std::to_string(mouseEvents_) +
+           " seconds=" + tactora::seconds(seconds) + '\n';
+}
+
+}  // namespace tactora

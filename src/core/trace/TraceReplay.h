@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/app/ControllerObserver.h"
+#include "core/platform/Clock.h"
+#include "core/profiles/WorkProfile.h"
+#include "core/trace/TraceLine.h"
+
+namespace tactora {
+
+// Replays a trace through the real controller on virtual time and a stand-in platform, and
+// writes down what it decides. The output, one line per decision, then a summary:
+//
+//   <t> tap <fingers>                          a tap was recognised
+//   <t> click <fingers>                        a physical click with resting fingers
+//   <t> action <action key>                    an action was performed
+//   <t> action <action key> button <number>    a physical press was rewritten into that button
+//   summary taps=<n> clicks=<n> actions=<n> frames=<n> mouse-events=<n> seconds=<s>
+//
+// <t> is the virtual uptime in seconds with three decimals. Main thread only; the string table
+// must be installed (the controller's texts are looked up, though none is printed).
+class TraceReplay final : private ControllerObserver {
+  public:
+    // Scheduled work still runs this long after the trace's last line.
+    static constexpr double settle = 1.0;
+
+    // `profiles`: the profile list to decide with, its first profile active; without it, the
+    // default profile, every action 0.
+    static std::string run(const std::vector<TraceLine>& lines,
+                           const std::optional<std::vector<WorkProfile>>& profiles);
+
+  private:
+    TraceReplay() = default;
+
+    void tapRecognised(std::int64_t fingers) override;
+    void clickRecognised(std::int64_t fingers) override;
+    void actionPerformed(ActionIndex action) override;
+    void pressRewritten(ActionIndex action, MouseButton button) override;
+
+    void print(const std::string& what);
+    std::string summary(double seconds) const;
+
+    const Clock* clock_ = nullptr;
+    std::string output_;
+    std::size_t taps_ = 0;
+    std::size_t clicks_ = 0;
+    std::size_t actions_ = 0;
+    std::size_t frames_ = 0;
+    std::size_t mouseEvents_ = 0;
+};
+
+}  // namespace tactora

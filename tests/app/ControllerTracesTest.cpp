@@ -1,0 +1,199 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "app/ControllerHarness.h"
+#include "core/app/Globals.h"
+#include "core/trace/TraceReader.h"
+#include "core/trace/TraceReplay.h"
+
+namespace tactora {
+namespace {
+
+using testing::ControllerHarness;
+using testing::FakeTapEvent;
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+class ControllerTracesTest : public ::testing::Test {
+  protected:
+    void SetUp() override { h.launchAndSwitchOn(); }
+
+    std::vector<std::string> traced() const {
+        return h.traceSink.files.empty() ? std::vector<std::string>{}
+                                         : linesOf(h.traceSink.files.back());
+    }
+
+    std::string profileLine() { return "profile " + h.c().profiles().activeID().text(); }
+
+    ControllerHarness h;
+};
+
+TEST_F(ControllerTracesTest, NothingIsRecordedUntilTheUserAsks) {
+    h.tap(2);
+    auto down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+    h.queue.advance(1);
+    EXPECT_TRUE(h.traceSink.files.empty());
+    EXPECT_FALSE(h.c().recordingTouches());
+    EXPECT_EQ(h.shell.statusMenu.at(2),
+              (MenuEntry{"menu.trace.start", MenuCommand::recordTouches, ""}));
+}
+
+TEST_F(ControllerTracesTest, StartingWritesTheHeaderAndTheStateAReplayStartsFrom) {
+    h.c().recordTouches();
+    EXPECT_TRUE(h.c().recordingTouches());
+    EXPECT_TRUE(h.traceSink.open);
+    EXPECT_EQ(traced(), (std::vector<std::string>{"tactora-trace 1", "1000.0 gestures on",
+                                                  "1000.0 active off", "1000.0 " + profileLine(),
+                                                  "1000.0 front 42 com.example.Editor"}));
+    EXPECT_EQ(h.shell.statusMenu.at(2),
+              (MenuEntry{"menu.trace.stop", MenuCommand::recordTouches, ""}));
+    EXPECT_EQ(h.view.status, "trace.started");
+    EXPECT_TRUE(h.view.live.ends_with(" · trace.live")) << h.view.live;
+}
+
+TEST_F(ControllerTracesTest, StoppingClosesTheFileAndPutsTheMenuBack) {
+    h.c().recordTouches();
+    h.c().recordTouches();
+    EXPECT_FALSE(h.c().recordingTouches());
+    EXPECT_FALSE(h.traceSink.open);
+    EXPECT_EQ(h.view.status, "trace.saved");
+    EXPECT_EQ(h.shell.statusMenu.at(2).title, "menu.trace.start");
+    EXPECT_FALSE(h.view.live.ends_with("trace.live"));
+}
+
+TEST_F(ControllerTracesTest, WithNowhereToWriteNothingStarts) {
+    h.traceSink.path.reset();
+    h.c().recordTouches();
+    EXPECT_FALSE(h.c().recordingTouches());
+    EXPECT_EQ(h.view.status, "trace.failed");
+    EXPECT_EQ(h.shell.statusMenu.at(2).title, "menu.trace.start");
+}
+
+TEST_F(ControllerTracesTest, RecordsWhatTheControllerReceives) {
+    h.c().recordTouches();
+    const std::size_t header = traced().size();
+    h.frame(2, 0.25F);
+    auto down = h.mouseEvent(event::leftMouseDown);
+    h.send(down);
+    auto other = FakeTapEvent(event::rightMouseUp, 1, testing::otherSender);
+    h.send(other);
+    auto own = FakeTapEvent(event::leftMouseUp, 0, testing::mouseSender, marker);
+    h.send(own);
+    auto scroll = h.mouseEvent(event::scrollWheel);
+    h.send(scroll);
+    h.queue.advance(0.5);
+    h.workspace.frontmost = 77;
+    h.workspace.frontmostBundle.clear();
+    h.frame(0);
+    h.c().applicationDidBecomeActive();
+    h.c().pause();
+    const std::vector<std::string> lines = traced();
+    ASSERT_GE(lines.size(), header);
+    EXPECT_EQ(
+        std::vector<std::string>(lines.begin() + static_cast<std::ptrdiff_t>(header), lines.end()),
+        (std::vector<std::string>{
+            "1000.0 frame 1:0.25,0.5 2:0.25,0.5",
+            "1000.0 left-down 0 mouse",
+            "1000.0 right-up 1 other",
+            "1000.0 scroll mouse",
+            "1000.5 front 77 -",
+            "1000.5 frame",
+            "1000.5 active on",
+            "1000.5 gestures off",
+        }));
+}
+
+TEST_F(ControllerTracesTest, ASelectedProfileIsRecorded) {
+    h.c().profiles().add("Second", false);
+    const std::string second = h.c().profiles().activeID().text();
+    h.c().recordTouches();
+    h.view.profileChoice = second;
+    h.c().selectProfile();
+    EXPECT_EQ(traced().back(), "1000.0 profile " + second);
+}
+
+TEST_F(ControllerTracesTest, StopsByItselfAfterTenMinutes) {
+    h.c().recordTouches();
+    h.queue.advance(599.9);
+    EXPECT_TRUE(h.c().recordingTouches());
+    h.queue.advance(0.2);
+    EXPECT_FALSE(h.c().recordingTouches());
+    EXPECT_FALSE(h.traceSink.open);
+    EXPECT_EQ(h.view.status, "trace.saved");
+    EXPECT_EQ(h.shell.statusMenu.at(2).title, "menu.trace.start");
+}
+
+TEST_F(ControllerTracesTest, QuittingStopsTheRecording) {
+    h.c().recordTouches();
+    h.c().applicationWillTerminate();
+    EXPECT_FALSE(h.c().recordingTouches());
+    EXPECT_FALSE(h.traceSink.open);
+}
+
+// What the controller did live, it does again when its own trace is replayed.
+TEST_F(ControllerTracesTest, ReplayingARecordingDecidesWhatTheLiveControllerDid) {
+    h.assign(5, action::copy);
+    h.assign(1, action::right);
+    h.c().recordTouches();
+    h.tap(2);  // performed 0.08 s later
+    h.queue.advance(0.5);
+    h.rest(2);
+    auto down = h.mouseEvent(event::leftMouseDown);
+    EXPECT_EQ(h.send(down), EventDisposition::pass);
+    EXPECT_EQ(down.button(), 1);
+    auto up = h.mouseEvent(event::leftMouseUp);
+    h.send(up);
+    h.queue.advance(0.2);
+    h.frame(0);
+    h.queue.advance(0.5);
+    h.tap(2);  // vetoed by the click that follows
+    h.queue.advance(0.03);
+    auto late = h.mouseEvent(event::leftMouseDown);
+    h.send(late);
+    h.queue.advance(1);
+    h.c().recordTouches();
+    EXPECT_EQ(h.poster.keyEvents().size(), 2U);  // one copy: down and up
+
+    const TraceReading reading = readTrace(h.traceSink.files.back());
+    ASSERT_FALSE(reading.error);
+    const std::string replayed = TraceReplay::run(reading.lines, h.c().profiles().profiles());
+    EXPECT_EQ(replayed,
+              "1000.100 tap 2\n"
+              "1000.180 action action.copy\n"
+              "1000.600 click 2\n"
+              "1000.600 action action.right button 1\n"
+              "1001.400 tap 2\n"
+              "summary taps=2 clicks=1 actions=2 frames=6 mouse-events=3 seconds=1.430\n");
+}
+
+// Nothing tells the controller when another application comes to the front; the recording
+// notes it when the waiting tap looks, and the replay applies it before that tap runs.
+TEST_F(ControllerTracesTest, AnApplicationSwitchInTheWaitIsReplayedAsLive) {
+    h.assign(5, action::copy);
+    h.c().recordTouches();
+    h.tap(2);
+    h.queue.advance(0.05);
+    h.workspace.frontmost = 77;
+    h.queue.advance(0.05);
+    h.c().recordTouches();
+    EXPECT_TRUE(h.poster.keyEvents().empty());
+
+    const TraceReading reading = readTrace(h.traceSink.files.back());
+    ASSERT_FALSE(reading.error);
+    const std::string replayed = TraceReplay::run(reading.lines, h.c().profiles().profiles());
+    EXPECT_EQ(replayed.substr(0, replayed.find("summary")), "1000.100 tap 2\n");
+}
+
+}  // namespace
+}  // namespace tactora

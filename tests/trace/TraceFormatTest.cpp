@@ -1,0 +1,150 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include "core/trace/TraceFormat.h"
+#include "core/trace/TraceNumbers.h"
+#include "core/trace/TraceReader.h"
+
+namespace tactora {
+namespace {
+
+TraceReading read(const std::string& body) {
+    return readTrace("tactora-trace 1\n" + body);
+}
+
+TraceError errorOf(const std::string& body) {
+    const TraceReading reading = read(body);
+    EXPECT_TRUE(reading.lines.empty());
+    return reading.error.value_or(TraceError{0, TraceProblem::header});
+}
+
+TEST(TraceFormat, WritesEveryEventAsDocumented) {
+    EXPECT_EQ(trace::header(), "tactora-trace 1");
+    EXPECT_EQ(trace::formatLine({1042.5, TraceFrame{{Finger(3, 0.5, 0.25), Finger(-1, 1, 0)}}}),
+              "1042.5 frame 3:0.5,0.25 -1:1,0");
+    EXPECT_EQ(trace::formatLine({1.0, TraceFrame{}}), "1.0 frame");
+    EXPECT_EQ(trace::formatLine({2.25, TraceMouseEvent{event::rightMouseDragged, 1, false}}),
+              "2.25 right-drag 1 other");
+    EXPECT_EQ(trace::formatLine({2.25, TraceMouseEvent{event::scrollWheel, 0, true}}),
+              "2.25 scroll mouse");
+    EXPECT_EQ(
+        trace::formatLine({3.0, TraceProfileSelected{"6F1C2A10-0000-4000-8000-00000000000A"}}),
+        "3.0 profile 6F1C2A10-0000-4000-8000-00000000000A");
+    EXPECT_EQ(trace::formatLine({4.0, TraceFrontApplication{812, "com.example.Editor"}}),
+              "4.0 front 812 com.example.Editor");
+    EXPECT_EQ(trace::formatLine({4.0, TraceFrontApplication{812, ""}}), "4.0 front 812 -");
+    EXPECT_EQ(trace::formatLine({4.0, TraceFrontApplication{}}), "4.0 front none");
+    EXPECT_EQ(trace::formatLine({5.0, TraceGestures{true}}), "5.0 gestures on");
+    EXPECT_EQ(trace::formatLine({5.0, TraceActive{false}}), "5.0 active off");
+}
+
+TEST(TraceFormat, TimesAndPositionsReadBackExactly) {
+    for (const double time : {0.0, 0.1, 1234.56789, 98765.123456789012, 1.0 / 3.0}) {
+        const std::string text = trace::formatSeconds(time);
+        EXPECT_EQ(text.find('e'), std::string::npos) << text;
+        EXPECT_EQ(trace::parseSeconds(text), time) << text;
+    }
+    for (const float position : {0.0F, 0.1F, 0.123456789F, 1e-7F, -0.5F, 3.4e38F}) {
+        EXPECT_EQ(trace::parsePosition(trace::formatPosition(position)), position);
+    }
+    EXPECT_EQ(trace::formatPosition(0.1F), "0.1");
+    EXPECT_EQ(trace::formatPosition(std::numeric_limits<float>::infinity()), "inf");
+    EXPECT_TRUE(std::isnan(*trace::parsePosition(trace::formatPosition(std::nanf("")))));
+}
+
+TEST(TraceFormat, RejectsNumbersNotWrittenAsTheFormatWritesThem) {
+    for (const char* text : {"", "-1.0", "1e3", "0x10", "1.", ".5", "1.5.2", " 1", "inf", "nan"}) {
+        EXPECT_FALSE(trace::parseSeconds(text)) << text;
+    }
+    for (const char* text : {"", "0x1p3", "1.", "+1", "1e", "infinity", "NaN", "0,5"}) {
+        EXPECT_FALSE(trace::parsePosition(text)) << text;
+    }
+}
+
+TEST(TraceReader, ReadsWhatTheWriterWrites) {
+    const std::vector<TraceLine> lines = {
+        {10.0, TraceGestures{true}},
+        {10.0, TraceActive{false}},
+        {10.0, TraceProfileSelected{"6F1C2A10-0000-4000-8000-00000000000A"}},
+        {10.0, TraceFrontApplication{42, "com.example.Editor"}},
+        {10.0111, TraceFrame{{Finger(1, 0.5, 0.5), Finger(2, 0.25F, 0.75F)}}},
+        {10.02, TraceMouseEvent{event::leftMouseDown, 0, true}},
+        {10.03, TraceMouseEvent{event::leftMouseDragged, 0, true}},
+        {10.04, TraceMouseEvent{event::leftMouseUp, 0, true}},
+        {10.05, TraceMouseEvent{event::rightMouseDown, 1, false}},
+        {10.05, TraceMouseEvent{event::scrollWheel, 0, false}},
+        {10.1, TraceFrame{}},
+        {10.2, TraceFrontApplication{}},
+    };
+    std::string text = trace::header() + "\n";
+    for (const TraceLine& line : lines) {
+        text += trace::formatLine(line) + "\n";
+    }
+    const TraceReading reading = readTrace(text);
+    EXPECT_FALSE(reading.error);
+    EXPECT_EQ(reading.lines, lines);
+}
+
+TEST(TraceReader, SkipsCommentsAndBlankLinesAndTakesWindowsLineEnds) {
+    const TraceReading reading =
+        readTrace("tactora-trace 1\r\n# a comment\r\n\r\n   # indented\r\n1.5  frame   1:0.5,0.5");
+    ASSERT_FALSE(reading.error);
+    ASSERT_EQ(reading.lines.size(), 1U);
+    EXPECT_EQ(reading.lines[0], (TraceLine{1.5, TraceFrame{{Finger(1, 0.5, 0.5)}}}));
+}
+
+TEST(TraceReader, SkipsAByteOrderMark) {
+    const TraceReading reading = readTrace("\xEF\xBB\xBFtactora-trace 1\n1.0 frame\n");
+    EXPECT_FALSE(reading.error);
+    EXPECT_EQ(reading.lines.size(), 1U);
+}
+
+TEST(TraceReader, AnEmptyTraceIsOnlyItsHeader) {
+    const TraceReading reading = readTrace("tactora-trace 1\n");
+    EXPECT_FALSE(reading.error);
+    EXPECT_TRUE(reading.lines.empty());
+}
+
+TEST(TraceReader, NamesTheHeaderWhenItIsMissingOrWrong) {
+    for (const char* text :
+         {"", "\n1.0 frame\n", "tactora-trace\n", "tactora-trace one\n", "tactora-trace 0\n",
+          "tactora-trace 1 extra\n", "other-trace 1\n", "# tactora-trace 1\n"}) {
+        const TraceReading reading = readTrace(text);
+        EXPECT_EQ(reading.error, (TraceError{1, TraceProblem::header})) << text;
+    }
+}
+
+TEST(TraceReader, RefusesAVersionNewerThanItKnows) {
+    EXPECT_EQ(readTrace("tactora-trace 2\n1.0 frame\n").error,
+              (TraceError{1, TraceProblem::version}));
+}
+
+TEST(TraceReader, NamesTheLineAndTheProblem) {
+    EXPECT_EQ(errorOf("frame\n"), (TraceError{2, TraceProblem::time}));
+    EXPECT_EQ(errorOf("# c\n1.0 frame\n-1.0 frame\n"), (TraceError{4, TraceProblem::time}));
+    EXPECT_EQ(errorOf("2.0 frame\n1.0 frame\n"), (TraceError{3, TraceProblem::timeBack}));
+    EXPECT_EQ(errorOf("1.0\n"), (TraceError{2, TraceProblem::event}));
+    EXPECT_EQ(errorOf("1.0 wave\n"), (TraceError{2, TraceProblem::event}));
+    EXPECT_EQ(errorOf("1.0 frame 1:0.5\n"), (TraceError{2, TraceProblem::contact}));
+    EXPECT_EQ(errorOf("1.0 frame 1,0.5:0.5\n"), (TraceError{2, TraceProblem::contact}));
+    EXPECT_EQ(errorOf("1.0 frame x:0.5,0.5\n"), (TraceError{2, TraceProblem::contact}));
+    EXPECT_EQ(errorOf("1.0 frame 1:0.5,0.5,\n"), (TraceError{2, TraceProblem::contact}));
+    EXPECT_EQ(errorOf("1.0 left-down mouse\n"), (TraceError{2, TraceProblem::button}));
+    EXPECT_EQ(errorOf("1.0 left-down 0\n"), (TraceError{2, TraceProblem::source}));
+    EXPECT_EQ(errorOf("1.0 left-up 0 pen\n"), (TraceError{2, TraceProblem::source}));
+    EXPECT_EQ(errorOf("1.0 scroll\n"), (TraceError{2, TraceProblem::source}));
+    EXPECT_EQ(errorOf("1.0 profile Default\n"), (TraceError{2, TraceProblem::profile}));
+    EXPECT_EQ(errorOf("1.0 front\n"), (TraceError{2, TraceProblem::process}));
+    EXPECT_EQ(errorOf("1.0 front 42\n"), (TraceError{2, TraceProblem::process}));
+    EXPECT_EQ(errorOf("1.0 front 99999999999 x\n"), (TraceError{2, TraceProblem::process}));
+    EXPECT_EQ(errorOf("1.0 gestures yes\n"), (TraceError{2, TraceProblem::onOff}));
+    EXPECT_EQ(errorOf("1.0 active\n"), (TraceError{2, TraceProblem::onOff}));
+    EXPECT_EQ(errorOf("1.0 scroll mouse now\n"), (TraceError{2, TraceProblem::extra}));
+    EXPECT_EQ(errorOf("1.0 front none x\n"), (TraceError{2, TraceProblem::extra}));
+}
+
+}  // namespace
+}  // namespace tactora

@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/platform/TraceSink.h"
+#include "core/trace/TraceRecorder.h"
+
+namespace tactora {
+namespace {
+
+// Counts what it is given instead of keeping it.
+class CountingSink final : public TraceSink {
+  public:
+    std::optional<std::string> begin() override { return "trace"; }
+    void write(std::string text) override {
+        bytes += text.size();
+        ++writes;
+        last = std::move(text);
+    }
+    void end() override { ++ends; }
+
+    std::size_t bytes = 0;
+    std::size_t writes = 0;
+    std::size_t ends = 0;
+    std::string last;
+};
+
+// A line of about a megabyte.
+TraceLine longLine(double time) {
+    return {time, TraceFrontApplication{1, std::string(std::size_t{1} << 20U, 'x')}};
+}
+
+TEST(TraceRecorder, IdleItWritesNothing) {
+    TraceRecorder recorder;
+    EXPECT_FALSE(recorder.isRecording());
+    EXPECT_FALSE(recorder.note({1.0, TraceFrame{}}));
+    EXPECT_FALSE(recorder.expired(1e9));
+    recorder.stop();
+}
+
+TEST(TraceRecorder, WritesTheHeaderThenOneLineAtATime) {
+    CountingSink sink;
+    TraceRecorder recorder;
+    recorder.start(sink, 5.0);
+    EXPECT_EQ(sink.last, "tactora-trace 1\n");
+    EXPECT_TRUE(recorder.note({5.5, TraceGestures{true}}));
+    EXPECT_EQ(sink.last, "5.5 gestures on\n");
+    EXPECT_EQ(recorder.size(), sink.bytes);
+    recorder.stop();
+    EXPECT_EQ(sink.ends, 1U);
+    EXPECT_FALSE(recorder.isRecording());
+}
+
+TEST(TraceRecorder, RefusesLinesFromTenMinutesOn) {
+    CountingSink sink;
+    TraceRecorder recorder;
+    recorder.start(sink, 100.0);
+    EXPECT_TRUE(recorder.note({699.9, TraceFrame{}}));
+    EXPECT_FALSE(recorder.expired(699.9));
+    EXPECT_TRUE(recorder.expired(700.0));
+    EXPECT_FALSE(recorder.note({700.0, TraceFrame{}}));
+    EXPECT_EQ(sink.writes, 2U);
+}
+
+TEST(TraceRecorder, NeverGrowsPastFiftyMegabytes) {
+    CountingSink sink;
+    TraceRecorder recorder;
+    recorder.start(sink, 0.0);
+    double time = 0;
+    while (recorder.note(longLine(time))) {
+        time += 0.001;
+    }
+    EXPECT_LE(sink.bytes, TraceRecorder::largest);
+    EXPECT_GT(sink.bytes + (std::size_t{1} << 20U) + 64, TraceRecorder::largest);
+    EXPECT_TRUE(recorder.isRecording());  // the caller stops it
+}
+
+}  // namespace
+}  // namespace tactora

@@ -1,0 +1,316 @@
+#!/usr/bin/env python3
+"""Writes the golden touch traces of this folder.
+
+Each trace is written from a fixed recipe (and, for the realistic ones, a fixed random seed),
+so running this again gives the same files. The expected replay output beside each trace
+(<name>.expected) is made with
+
+    tactora --replay <name>.trace --profile profiles.json > <name>.expected
+
+and must be checked by hand against what the recogniser and the controller are meant to do.
+
+profiles.json holds two profiles. "Every gesture" (active first) maps
+    clicks: 1 finger middle, 2 right, 3 copy, 4 Mission Control
+    taps:   1 finger left,   2 right, 3 paste, 4 Show Desktop
+and "Browsing" maps the two-finger click to right, the one- and two-finger taps to back and
+forward, and everything else to the system's own behaviour.
+"""
+
+import os
+import random
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+BROWSING = "6F1C2A10-0000-4000-8000-00000000000B"
+FRAME_INTERVAL = 1 / 90
+
+
+def seconds(t):
+    return f"{t:.4f}"
+
+
+def position(v):
+    return f"{v:.4f}".rstrip("0").rstrip(".") if v != int(v) else f"{v:.1f}"
+
+
+class Trace:
+    def __init__(self, name, *comments):
+        self.name = name
+        self.comments = comments
+        self.lines = []
+
+    def add(self, t, text):
+        self.lines.append((round(t, 4), len(self.lines), text))
+
+    def frame(self, t, contacts=()):
+        words = " ".join(f"{i}:{position(x)},{position(y)}" for i, x, y in contacts)
+        self.add(t, ("frame " + words).rstrip())
+
+    def mouse(self, t, kind, button=0, source="mouse"):
+        if kind == "scroll":
+            self.add(t, f"scroll {source}")
+        else:
+            self.add(t, f"{kind} {button} {source}")
+
+    def state(self, t, text):
+        self.add(t, text)
+
+    def write(self):
+        with open(os.path.join(HERE, self.name + ".trace"), "w", encoding="utf-8") as out:
+            out.write("tactora-trace 1\n")
+            for comment in self.comments:
+                out.write(f"# {comment}\n")
+            for t, _, text in sorted(self.lines):
+                out.write(f"{seconds(t)} {text}\n")
+
+
+def fingers(n, x=0.5):
+    """The self-check's finger(1) ... finger(n): all at (x, 0.5)."""
+    return [(i, x, 0.5) for i in range(1, n + 1)]
+
+
+# --- The recogniser's own self-check, scenario by scenario ------------------------------------
+
+
+def self_check():
+    taps = Trace("selfcheck-1-taps",
+                 "Self-check 1: taps of one to four fingers, each down for 0.15 s.",
+                 "Each is a tap of its finger count when the fingers lift, and its action",
+                 "(slots 4 to 7: left, right, paste, Show Desktop) runs 0.08 s later.")
+    for n in range(1, 5):
+        start = 1.0 + (n - 1) * 2
+        taps.frame(start, fingers(n))
+        taps.frame(start + 0.15)
+    taps.write()
+
+    click = Trace("selfcheck-2-click",
+                  "Self-check 2: a click is not also a tap. One finger lands, the button goes",
+                  "down and up while it rests, and the finger lifts 0.15 s after landing.",
+                  "The click is a one-finger click (slot 0: middle, so the press becomes",
+                  "button 2); the touch gives no tap although its length and stillness would.")
+    click.frame(2.0, fingers(1))
+    click.mouse(2.05, "left-down")
+    click.frame(2.06, fingers(1))
+    click.mouse(2.1, "left-up")
+    click.frame(2.15)
+    click.write()
+
+    movement = Trace("selfcheck-3-movement",
+                     "Self-check 3: movement. The finger slides 0.1 (more than 0.045) before",
+                     "lifting: no tap.")
+    movement.frame(1.0, fingers(1))
+    movement.frame(1.1, fingers(1, 0.6))
+    movement.frame(1.2)
+    movement.write()
+
+    duration = Trace("selfcheck-4-duration",
+                     "Self-check 4: duration. A finger resting for a whole second is not a tap.")
+    duration.frame(2.0, fingers(1))
+    duration.frame(3.0)
+    duration.write()
+
+    many = Trace("selfcheck-5-too-many",
+                 "Self-check 5: too many fingers. Five fingers for 0.1 s: no tap.")
+    many.frame(4.0, fingers(5))
+    many.frame(4.1)
+    many.write()
+
+    gradual = Trace("selfcheck-6-gradual-release",
+                    "Self-check 6: gradual release. One finger, then two, then one again; the",
+                    "touch is a two-finger tap over its whole 0.16 s, so slot 5 (right) runs.")
+    gradual.frame(5.0, fingers(1))
+    gradual.frame(5.04, fingers(2))
+    gradual.frame(5.1, fingers(1))
+    gradual.frame(5.16)
+    gradual.write()
+
+    noise = Trace("selfcheck-7-noise",
+                  "Self-check 7: noise. A touch of 0.01 s (under 0.035 s) is no tap.")
+    noise.frame(6.0, fingers(1))
+    noise.frame(6.01)
+    noise.write()
+
+
+# --- The four flows of a tap and a click ------------------------------------------------------
+
+
+def flows():
+    tap = Trace("flow-1-two-finger-tap",
+                "Flow 1: a two-finger tap. It is recognised when the fingers lift and slot 5's",
+                "action (right click) runs 0.08 s after the release.")
+    tap.frame(10.0, fingers(2))
+    tap.frame(10.05, fingers(2))
+    tap.frame(10.1)
+    tap.write()
+
+    click = Trace("flow-2-two-finger-click",
+                  "Flow 2: a two-finger click. Two fingers rest; the physical left button goes",
+                  "down, drags and comes up. Slot 1 maps it to a right click, so the down, the",
+                  "drags and the up all become the right button's (button 1); the touch that",
+                  "held the click gives no tap when the fingers lift.")
+    t = 20.0
+    while t < 20.5:
+        click.frame(t, fingers(2))
+        t += 0.02
+    click.mouse(20.2, "left-down")
+    click.mouse(20.25, "left-drag")
+    click.mouse(20.3, "left-drag")
+    click.mouse(20.35, "left-up")
+    click.frame(20.5)
+    click.write()
+
+    veto = Trace("flow-3-tap-vetoed-by-click",
+                 "Flow 3: a tap vetoed by a click. Two fingers tap, and 0.05 s after they lift",
+                 "the button goes down (no finger rests then, so it stays an ordinary click).",
+                 "The tap is recognised, but its action, due 0.08 s after the release, does",
+                 "not run: a click came within the wait.")
+    veto.frame(30.0, fingers(2))
+    veto.frame(30.05, fingers(2))
+    veto.frame(30.1)
+    veto.mouse(30.15, "left-down")
+    veto.mouse(30.2, "left-up")
+    veto.write()
+
+    switch = Trace("flow-4-profile-switch-in-wait",
+                   "Flow 4: a profile switch inside the wait. A two-finger tap is recognised,",
+                   "and 0.04 s later the user selects the Browsing profile: the waiting right",
+                   "click is dropped. The next two-finger tap runs Browsing's slot 5, forward.")
+    switch.frame(40.0, fingers(2))
+    switch.frame(40.1)
+    switch.state(40.14, f"profile {BROWSING}")
+    switch.frame(41.0, fingers(2))
+    switch.frame(41.1)
+    switch.write()
+
+
+# --- Sequences made the way the surface reports them ------------------------------------------
+
+
+class Surface:
+    """Frames at about 90 a second with jitter, for fingers that land, drift and lift."""
+
+    def __init__(self, trace, seed):
+        self.trace = trace
+        self.random = random.Random(seed)
+
+    def touch(self, start, spots, length, spread=0.008, drift=0.0, ids=None):
+        """Fingers at `spots` land within `spread` s of `start`, stay about `length` s while
+        drifting `drift` per second, and lift within `spread` s of each other. Returns the time
+        of the empty frame that ends the touch."""
+        ids = ids or list(range(1, len(spots) + 1))
+        lands = [start + self.random.uniform(0, spread) * (k > 0) for k in range(len(spots))]
+        lifts = [start + length - self.random.uniform(0, spread) * (k > 0)
+                 for k in range(len(spots))]
+        angles = [self.random.uniform(-1, 1) for _ in spots]
+        t = start
+        while True:
+            down = [k for k in range(len(spots)) if lands[k] <= t < lifts[k]]
+            if not down and t > start:
+                self.trace.frame(t)
+                return t
+            contacts = []
+            for k in down:
+                moved = drift * (t - lands[k])
+                x = spots[k][0] + moved * angles[k] + self.random.uniform(-0.0008, 0.0008)
+                y = spots[k][1] + moved * (1 - abs(angles[k])) + self.random.uniform(-0.0008, 0.0008)
+                contacts.append((ids[k], round(x, 4), round(y, 4)))
+            self.trace.frame(t, contacts)
+            t += FRAME_INTERVAL + self.random.uniform(-0.0015, 0.0015)
+
+
+def row(n, left=0.35, step=0.1, y=0.45):
+    return [(left + step * k, y + 0.02 * (k % 2)) for k in range(n)]
+
+
+def realistic():
+    taps = Trace("real-1-taps",
+                 "Realistic taps, at about 90 frames a second with jitter: fingers land and",
+                 "lift a few milliseconds apart and drift slowly. A one-, a two-, a three- and",
+                 "a four-finger tap, each recognised at its last lift; their actions (left,",
+                 "right, paste, Show Desktop) run 0.08 s later.")
+    surface = Surface(taps, 11)
+    t = 100.0
+    for n in range(1, 5):
+        end = surface.touch(t, row(n), 0.09 + 0.02 * n, spread=0.012, drift=0.02)
+        t = end + 0.6
+    taps.write()
+
+    palm = Trace("real-2-resting-palm",
+                 "A resting palm: five contacts land over 40 ms, rest for 1.2 s drifting a",
+                 "little, and lift. More than four fingers spoil the touch: nothing is",
+                 "recognised. Then a quick five-contact brush that drops to four before it",
+                 "lifts: still nothing.")
+    surface = Surface(palm, 12)
+    end = surface.touch(200.0, row(5, left=0.2, step=0.13), 1.2, spread=0.04, drift=0.01)
+    surface.touch(end + 0.5, row(5, left=0.2, step=0.13), 0.12, spread=0.03)
+    palm.write()
+
+    scroll = Trace("real-3-scrolling",
+                   "Scrolling: one finger strokes up the surface while the mouse sends scroll",
+                   "events. The stroke moves far more than 0.045, and a scroll marks the touch",
+                   "as moving anyway: no tap. The second stroke is short and barely moves, yet",
+                   "its scroll events alone keep it from being a one-finger tap.")
+    surface = Surface(scroll, 13)
+    end = surface.touch(300.0, [(0.5, 0.7)], 0.25, drift=0.4)
+    t = 300.03
+    while t < end:
+        scroll.mouse(t, "scroll")
+        t += 0.03
+    start = end + 0.4
+    surface.touch(start, [(0.5, 0.5)], 0.12, drift=0.05)
+    scroll.mouse(start + 0.04, "scroll")
+    scroll.mouse(start + 0.07, "scroll")
+    scroll.write()
+
+    press = Trace("real-4-long-press",
+                  "A long press: one finger rests for 0.8 s (too long for a tap): nothing. Then",
+                  "three fingers rest and the button is pressed and held for 0.3 s: a",
+                  "three-finger click, mapped to copy, so the press is swallowed and copy runs",
+                  "when the button comes up. The touch that held the click is no tap. A click",
+                  "from another pointing device meanwhile passes untouched.")
+    surface = Surface(press, 14)
+    end = surface.touch(400.0, [(0.5, 0.5)], 0.8, drift=0.01)
+    start = end + 0.5
+    surface.touch(start, row(3), 0.9, spread=0.01, drift=0.005)
+    press.mouse(start + 0.2, "left-down")
+    press.mouse(start + 0.3, "left-drag")
+    press.mouse(start + 0.5, "left-up")
+    press.mouse(start + 0.6, "left-down", source="other")
+    press.mouse(start + 0.65, "left-up", source="other")
+    press.write()
+
+
+def session():
+    demo = Trace("session",
+                 "Ten seconds of use, made as the surface reports it (about 90 frames a",
+                 "second, jitter, staggered fingers, slow drift): one- to four-finger taps, a",
+                 "two-finger click rewritten to the right button, a resting palm, a scroll, a",
+                 "long press, and a tap cut short by a click. scripts/run replays this one.")
+    surface = Surface(demo, 21)
+    t = 500.0
+    for n in (1, 2, 3, 4):
+        t = surface.touch(t, row(n), 0.1 + 0.015 * n, spread=0.01, drift=0.02) + 0.7
+    start = t
+    end = surface.touch(start, row(2), 0.6, spread=0.01, drift=0.005)
+    demo.mouse(start + 0.2, "left-down")
+    demo.mouse(start + 0.3, "left-drag")
+    demo.mouse(start + 0.4, "left-up")
+    t = end + 0.8
+    t = surface.touch(t, row(5, left=0.2, step=0.13), 1.0, spread=0.04, drift=0.01) + 0.8
+    scroll_start = t
+    t = surface.touch(t, [(0.5, 0.7)], 0.3, drift=0.35)
+    s = scroll_start + 0.03
+    while s < t:
+        demo.mouse(s, "scroll")
+        s += 0.03
+    t = surface.touch(t + 0.8, [(0.5, 0.5)], 0.7, drift=0.01) + 0.8
+    lift = surface.touch(t, row(2), 0.12, spread=0.01)
+    demo.mouse(lift + 0.04, "left-down")
+    demo.mouse(lift + 0.12, "left-up")
+    demo.write()
+
+
+if __name__ == "__main__":
+    self_check()
+    flows()
+    realistic()
+    session()
