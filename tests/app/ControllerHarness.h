@@ -73,10 +73,7 @@ class ControllerHarness {
         sensor.mice.insert(mouseSender);
         setStringTable(testTable());
         initializeGlobals();
-        controller = Controller::create({clock, queue, workspace, permissions, poster, eventTap,
-                                         sensor, shell, view, dialogs, traceSink, defaults, surface,
-                                         files, devices, loginItem, activity, secureInput,
-                                         resetTool});
+        controller = Controller::create(services());
         setApplicationController(controller);
     }
     ~ControllerHarness() {
@@ -89,6 +86,14 @@ class ControllerHarness {
     ControllerHarness& operator=(ControllerHarness&&) = delete;
 
     Controller& c() { return *controller; }
+
+    // Everything the controller reaches the platform through, for a second controller on the
+    // same fakes.
+    ControllerServices services() {
+        return {clock,   queue,     workspace, permissions, poster,   eventTap, sensor,
+                shell,   view,      dialogs,   traceSink,   defaults, surface,  files,
+                devices, loginItem, activity,  secureInput, resetTool};
+    }
 
     // Launches, then ticks the master switch as the user would.
     void launchAndSwitchOn() {

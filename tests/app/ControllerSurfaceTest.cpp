@@ -215,6 +215,7 @@ TEST_F(ControllerSurfaceTest, MenuBarFeedbackIsOffByDefaultAndTheTitleStaysEmpty
 }
 
 TEST_F(ControllerSurfaceTest, TheMenuItemTurnsTheFeedbackOverAndRemembersIt) {
+    h.c().applicationDidFinishLaunching();
     h.c().toggleMenuBarFeedback();
     EXPECT_TRUE(h.c().menuBarFeedbackOn());
     EXPECT_EQ(h.defaults->integer(std::string(MenuBarFeedback::preferenceKey)), 1);
@@ -229,9 +230,7 @@ TEST_F(ControllerSurfaceTest, TheMenuItemTurnsTheFeedbackOverAndRemembersIt) {
 
 TEST_F(ControllerSurfaceTest, AStoredChoiceIsReadAtStartAndAWrongTypeReadsAsOff) {
     const auto make = [this] {
-        return Controller::create({h.clock, h.queue, h.workspace, h.permissions, h.poster,
-                                   h.eventTap, h.sensor, h.shell, h.view, h.dialogs, h.defaults,
-                                   h.surface});
+        return Controller::create(h.services());
     };
     const std::string key(MenuBarFeedback::preferenceKey);
     h.defaults->setInteger(key, 1);

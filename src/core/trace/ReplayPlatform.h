@@ -181,9 +181,7 @@ class ProfileFiles final : public tactora::ProfileFiles {
     std::optional<std::string> read(const std::string& /*path*/, std::size_t /*limit*/) override {
         return std::nullopt;
     }
-    bool write(const std::string& /*path*/, const std::string& /*bytes*/) override {
-        return false;
-    }
+    bool write(const std::string& /*path*/, const std::string& /*bytes*/) override { return false; }
 };
 
 // The mouse stays as the trace found it: no device comes or goes.

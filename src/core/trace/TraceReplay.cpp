@@ -43,10 +43,10 @@ std::shared_ptr<MemoryPreferences> defaultsWith(
 struct Stage {
     explicit Stage(double start, std::shared_ptr<MemoryPreferences> defaults)
         : queue(start),
-          controller(Controller::create({queue, queue, workspace, permissions, poster, tap, sensor,
-                                         shell, view, dialogs, traceSink, std::move(defaults),
-                                         surface, files, devices, loginItem, activity,
-                                         secureInput, resetTool})) {}
+          controller(
+              Controller::create({queue, queue, workspace, permissions, poster, tap, sensor, shell,
+                                  view, dialogs, traceSink, std::move(defaults), surface, files,
+                                  devices, loginItem, activity, secureInput, resetTool})) {}
 
     // Launched, with gestures switched on as the user would.
     void launch() {
