@@ -29,9 +29,13 @@ std::optional<std::string> auditUnformatted(std::string_view text) {
     return std::nullopt;
 }
 
-bool kindMatches(ConversionType type, ArgumentKind kind) {
-    return kind == ArgumentKind::string ? type == ConversionType::string
-                                        : type == ConversionType::signedInteger;
+// An integer argument has 64 bits and a sign: "%hd" and "%hhd" would cut it short.
+bool kindMatches(const FormatConversion& conversion, ArgumentKind kind) {
+    if (kind == ArgumentKind::string) {
+        return conversion.type == ConversionType::string;
+    }
+    return conversion.type == ConversionType::signedInteger &&
+           argumentBits(conversion.lengthModifier) >= 32;
 }
 
 // Checks one argument conversion that refers to `index` (0-based) and marks it as shown.
@@ -48,7 +52,7 @@ std::optional<std::string> auditReference(std::string_view text, const FormatCon
         return written(text, conversion) + " shows argument " + number +
                ", which this key's text must not show";
     }
-    if (!kindMatches(conversion.type, argument.kind)) {
+    if (!kindMatches(conversion, argument.kind)) {
         const std::string_view expected =
             argument.kind == ArgumentKind::string ? "a string (%@)" : "a signed integer (%lld)";
         return written(text, conversion) + " does not fit argument " + number + ", " +
@@ -69,6 +73,10 @@ std::optional<std::string> auditFormatted(const LocalizationKey& key, std::strin
         }
         if (!conversion.takesArgument()) {
             return "has the unsupported conversion " + written(text, conversion);
+        }
+        if (conversion.takesFieldSizeArgument()) {
+            return written(text, conversion) +
+                   " takes its width or precision from an argument, which no caller passes";
         }
         const bool positional = conversion.position.has_value();
         if (positionalStyle.value_or(positional) != positional) {

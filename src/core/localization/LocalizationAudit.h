@@ -16,9 +16,11 @@ namespace tactora {
 // What is wrong with `text` as the text of `key`, or nothing. A key without arguments is shown
 // unformatted, so its text must hold no conversion ("%%" included). A key with arguments is
 // formatted, so its text must hold only "%%" and conversions that each show one of the key's
-// shown arguments with the matching kind (%@ for a string, a signed %d, %i, %ld, %lld... for an
-// integer), every shown argument at least once and no unshown one; either all sequential,
-// standing in the order of the arguments, or all positional ("%2$@"), in any order.
+// shown arguments with the matching kind (%@ for a string, a signed %d, %i, %ld, %lld, %qd,
+// %zd... for an integer, not the shorter %hd or %hhd; flags, widths and precisions as written
+// are fine, "*" is not), every shown argument at least once and no unshown one; either all
+// sequential, standing in the order of the arguments, or all positional ("%2$@"), in any
+// order.
 std::optional<std::string> auditLocalizedText(const LocalizationKey& key, std::string_view text);
 
 // Everything wrong with a table: its parse error, keys given twice, missing and unknown keys,
