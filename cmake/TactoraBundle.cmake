@@ -2,7 +2,9 @@
 # its resources the same way everywhere:
 #   Tactora.app/Contents/Info.plist
 #   Tactora.app/Contents/MacOS/<executable>
-#   Tactora.app/Contents/Resources/Tactora.icns, <language>.lproj/Localizable.strings
+#   Tactora.app/Contents/Resources/Tactora.icns, <language>.lproj/Localizable.strings, and beside
+#   each table its Localizable.stringsdict (when the language has one) and a copy of
+#   PluralCategory.stringsdict, through which the text handling on macOS learns plural categories
 set(TACTORA_LOCALIZATIONS en pt-BR)
 set(TACTORA_BUNDLE_DIR "${CMAKE_BINARY_DIR}/Tactora.app")
 set(TACTORA_BUNDLE_IDENTIFIER "app.tactora.Tactora")
@@ -29,13 +31,21 @@ function(tactora_bundle target)
                        COMMAND ${CMAKE_COMMAND} -E copy "${icon}" "${contents}/Resources/Tactora.icns"
                        DEPENDS "${icon}" VERBATIM)
     list(APPEND outputs "${contents}/Resources/Tactora.icns")
+    set(pluralCategories "${PROJECT_SOURCE_DIR}/resources/PluralCategory.stringsdict")
     foreach(language IN LISTS TACTORA_LOCALIZATIONS)
-        set(table "${PROJECT_SOURCE_DIR}/resources/${language}.lproj/Localizable.strings")
-        set(copy "${contents}/Resources/${language}.lproj/Localizable.strings")
-        add_custom_command(OUTPUT "${copy}"
-                           COMMAND ${CMAKE_COMMAND} -E copy "${table}" "${copy}"
-                           DEPENDS "${table}" VERBATIM)
-        list(APPEND outputs "${copy}")
+        set(folder "${PROJECT_SOURCE_DIR}/resources/${language}.lproj")
+        set(sources "${folder}/Localizable.strings" "${pluralCategories}")
+        if(EXISTS "${folder}/Localizable.stringsdict")
+            list(APPEND sources "${folder}/Localizable.stringsdict")
+        endif()
+        foreach(source IN LISTS sources)
+            get_filename_component(name "${source}" NAME)
+            set(copy "${contents}/Resources/${language}.lproj/${name}")
+            add_custom_command(OUTPUT "${copy}"
+                               COMMAND ${CMAKE_COMMAND} -E copy "${source}" "${copy}"
+                               DEPENDS "${source}" VERBATIM)
+            list(APPEND outputs "${copy}")
+        endforeach()
     endforeach()
     add_custom_target(${target}_resources DEPENDS ${outputs})
     add_dependencies(${target} ${target}_resources)

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/localization/LocalizationKey.h"
+#include "core/localization/StringsDictFile.h"
 #include "core/localization/StringsFile.h"
 
 namespace tactora {
@@ -26,5 +27,14 @@ std::optional<std::string> auditLocalizedText(const LocalizationKey& key, std::s
 // Everything wrong with a table: its parse error, keys given twice, missing and unknown keys,
 // and the problems of each text. Empty for a good table.
 std::vector<std::string> auditStringsFile(const StringsFile& file);
+
+// Everything wrong with a .stringsdict table: its parse error and the entries it left out,
+// unknown keys and keys without arguments (whose texts are never formatted), and for each
+// entry: its format, with each variable standing for a "%lld" of the argument it takes, must
+// fit the key as auditLocalizedText says; every variable it names must be defined, have a
+// signed integer value type of 32 bits or more ("lld") and an "other" form; and every form may
+// show only the variable's value, by a signed integer conversion (it may leave it out), and
+// "%%". Empty for a good table.
+std::vector<std::string> auditStringsDictFile(const StringsDictFile& file);
 
 }  // namespace tactora
