@@ -12,9 +12,9 @@ const PropertyList* PropertyList::find(std::string_view key) const {
     if (kind != Kind::dictionary) {
         return nullptr;
     }
-    const auto found =
-        std::ranges::find_if(entries, [key](const auto& entry) { return entry.first == key; });
-    return found != entries.end() ? &found->second : nullptr;
+    const auto found = std::ranges::find_if(
+        entries, [key](const PropertyListEntry& entry) { return entry.key == key; });
+    return found != entries.end() ? &found->value : nullptr;
 }
 
 std::optional<std::string> PropertyList::string(std::string_view key) const {
@@ -147,7 +147,7 @@ class PropertyListParser {
             if (auto failure = readValue(value, depth + 1)) {
                 return failure;
             }
-            dictionary.entries.emplace_back(std::move(key), std::move(value));
+            dictionary.entries.push_back(PropertyListEntry{std::move(key), std::move(value)});
         }
     }
 

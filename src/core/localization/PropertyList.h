@@ -5,10 +5,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace tactora {
+
+struct PropertyListEntry;
 
 // A value of an XML property list, as far as localisation files need one: strings,
 // dictionaries and arrays in full; any other value (integer, real, true, false, date, data)
@@ -18,8 +19,8 @@ struct PropertyList {
 
     Kind kind = Kind::other;
     std::string text;  // a string's text; the element's name for any other value
-    std::vector<std::pair<std::string, PropertyList>> entries;  // a dictionary's, in order
-    std::vector<PropertyList> items;                            // an array's
+    std::vector<PropertyListEntry> entries;  // a dictionary's, in order
+    std::vector<PropertyList> items;         // an array's
 
     // The dictionary's value for `key` (the first, when given twice); null when there is none
     // or this is no dictionary.
@@ -27,6 +28,12 @@ struct PropertyList {
 
     // The dictionary's string for `key`; nothing when absent or not a string.
     std::optional<std::string> string(std::string_view key) const;
+};
+
+// One key of a dictionary and its value.
+struct PropertyListEntry {
+    std::string key;
+    PropertyList value;
 };
 
 // What reading an XML property list gave: its root value, or why there is none.
