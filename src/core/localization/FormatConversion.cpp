@@ -167,12 +167,10 @@ class ConversionReader {
     // sequential one in sequence.
     static bool consistentStyle(const FormatConversion& conversion) {
         const bool positional = conversion.position.has_value();
-        for (const FieldSize* size : {&conversion.width, &conversion.precision}) {
-            if (size->fromArgument() && size->position.has_value() != positional) {
-                return false;
-            }
-        }
-        return true;
+        const auto consistent = [positional](const FieldSize& size) {
+            return !size.fromArgument() || size.position.has_value() == positional;
+        };
+        return consistent(conversion.width) && consistent(conversion.precision);
     }
 
     static ConversionType classify(LengthModifier lengthModifier, char letter) {

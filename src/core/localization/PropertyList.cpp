@@ -1,6 +1,7 @@
 #include "core/localization/PropertyList.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
 
@@ -201,8 +202,8 @@ class PropertyListParser {
         }
         const std::string_view entity = text_.substr(cursor_ + 1, end - cursor_ - 1);
         cursor_ = end + 1;
-        static constexpr std::pair<std::string_view, char> named[] = {
-            {"lt", '<'}, {"gt", '>'}, {"amp", '&'}, {"quot", '"'}, {"apos", '\''}};
+        static constexpr std::array<std::pair<std::string_view, char>, 5> named = {
+            {{"lt", '<'}, {"gt", '>'}, {"amp", '&'}, {"quot", '"'}, {"apos", '\''}}};
         for (const auto& [name, character] : named) {
             if (entity == name) {
                 content.push_back(character);
@@ -258,7 +259,7 @@ class PropertyListParser {
         for (; cursor_ < text_.size(); ++cursor_) {
             const char character = text_[cursor_];
             if (quote != 0) {
-                quote = character == quote ? 0 : quote;
+                quote = character == quote ? '\0' : quote;
             } else if (character == '"' || character == '\'') {
                 quote = character;
             } else if (character == '>') {
