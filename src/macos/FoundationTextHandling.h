@@ -18,7 +18,9 @@ namespace tactora::macos {
 // entry, "category", has the forms "zero", "one", "two", "few", "many" and "other", each its
 // own name. Formatting that entry with the value (+[NSString localizedStringWithFormat:]) gives
 // the name of the form Foundation chose, that is the category, by the same rules that it would
-// apply to the application's own .stringsdict entries in that language.
+// apply to the application's own .stringsdict entries in that language. For the language the
+// main bundle chose (the string table's) the main bundle itself answers; another language is
+// asked of its folder opened as a bundle, and a language the bundle lacks gives "other".
 class FoundationTextHandling final : public TextHandling {
   public:
     std::string upperCased(std::string_view text) const override;

@@ -34,6 +34,19 @@ NSUInteger leadingLength(NSString* text, std::size_t count) {
     return end;
 }
 
+// The bundle whose PluralCategory table is in `language`. The main bundle itself for the
+// language it chose (always the case for the string table's language), so Foundation applies
+// that localisation's rules exactly as it does to Localizable.stringsdict; for any other
+// language, that localisation's folder opened as a bundle of its own.
+NSBundle* localizationBundle(NSString* language) {
+    NSBundle* main = NSBundle.mainBundle;
+    if ([main.preferredLocalizations.firstObject isEqualToString:language]) {
+        return main;
+    }
+    NSString* folder = [main pathForResource:language ofType:@"lproj"];
+    return folder != nil ? [NSBundle bundleWithPath:folder] : nil;
+}
+
 }  // namespace
 
 std::string FoundationTextHandling::upperCased(std::string_view text) const {
@@ -67,14 +80,11 @@ std::string FoundationTextHandling::trimmed(std::string_view text) const {
 
 PluralCategory FoundationTextHandling::pluralCategory(std::string_view language,
                                                       std::int64_t value) const {
-    NSString* folder = [NSBundle.mainBundle pathForResource:toNSString(language) ofType:@"lproj"];
-    NSBundle* localization = folder != nil ? [NSBundle bundleWithPath:folder] : nil;
-    if (localization == nil) {
+    NSBundle* bundle = localizationBundle(toNSString(language));
+    NSString* format = [bundle localizedStringForKey:@"category" value:nil table:@"PluralCategory"];
+    if (format == nil) {
         return PluralCategory::other;
     }
-    NSString* format = [localization localizedStringForKey:@"category"
-                                                     value:nil
-                                                     table:@"PluralCategory"];
     // The format comes from the bundle's own PluralCategory.stringsdict, whose only variable
     // takes one long long ("lld").
 #pragma clang diagnostic push

@@ -118,7 +118,7 @@ TEST_F(LocalizerPluralTest, PluralEntryChoosesTheFormByTheLanguagesRules) {
     usePlurals("en");
     EXPECT_EQ(L("count", 1, "tap"), "1 finger · tap");
     EXPECT_EQ(L("count", 2, "tap"), "2 fingers · tap");
-    usePlurals("fr");
+    usePlurals("pt-BR");
     EXPECT_EQ(L("count", 0, "tap"), "0 finger · tap");
 }
 
