@@ -2,8 +2,9 @@
 # its resources the same way everywhere:
 #   Tactora.app/Contents/Info.plist
 #   Tactora.app/Contents/MacOS/<executable>
-#   Tactora.app/Contents/Resources/Tactora.icns, <language>.lproj/Localizable.strings and,
-#   where a language has counted texts, <language>.lproj/Localizable.stringsdict
+#   Tactora.app/Contents/Resources/Tactora.icns, <language>.lproj/Localizable.strings, and beside
+#   each table its Localizable.stringsdict (when the language has counted texts) and a copy of
+#   PluralCategory.stringsdict, through which the text handling on macOS learns plural categories
 # The development language comes first.
 set(TACTORA_LOCALIZATIONS en de es fr it ja pt-BR zh-Hans)
 # A language added to resources/ but not to this list would pass the tests and yet be missing
@@ -43,16 +44,19 @@ function(tactora_bundle target)
                        COMMAND ${CMAKE_COMMAND} -E copy "${icon}" "${contents}/Resources/Tactora.icns"
                        DEPENDS "${icon}" VERBATIM)
     list(APPEND outputs "${contents}/Resources/Tactora.icns")
+    set(pluralCategories "${PROJECT_SOURCE_DIR}/resources/PluralCategory.stringsdict")
     foreach(language IN LISTS TACTORA_LOCALIZATIONS)
-        foreach(file IN ITEMS Localizable.strings Localizable.stringsdict)
-            set(table "${PROJECT_SOURCE_DIR}/resources/${language}.lproj/${file}")
-            if(NOT EXISTS "${table}")
-                continue()
-            endif()
-            set(copy "${contents}/Resources/${language}.lproj/${file}")
+        set(folder "${PROJECT_SOURCE_DIR}/resources/${language}.lproj")
+        set(sources "${folder}/Localizable.strings" "${pluralCategories}")
+        if(EXISTS "${folder}/Localizable.stringsdict")
+            list(APPEND sources "${folder}/Localizable.stringsdict")
+        endif()
+        foreach(source IN LISTS sources)
+            get_filename_component(name "${source}" NAME)
+            set(copy "${contents}/Resources/${language}.lproj/${name}")
             add_custom_command(OUTPUT "${copy}"
-                               COMMAND ${CMAKE_COMMAND} -E copy "${table}" "${copy}"
-                               DEPENDS "${table}" VERBATIM)
+                               COMMAND ${CMAKE_COMMAND} -E copy "${source}" "${copy}"
+                               DEPENDS "${source}" VERBATIM)
             list(APPEND outputs "${copy}")
         endforeach()
     endforeach()

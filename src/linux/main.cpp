@@ -8,6 +8,7 @@
 #include "core/localization/BundleLocalization.h"
 #include "core/localization/LanguagePreference.h"
 #include "core/localization/Localizer.h"
+#include "core/text/TextHandling.h"
 #include "linux/BundleLocation.h"
 #include "linux/LinuxProgramEnvironment.h"
 
@@ -20,6 +21,7 @@ std::optional<std::string> environmentVariable(std::string_view name) {
 
 int main(int argc, char* argv[]) {
     const std::vector<std::string> arguments(argv, argv + argc);
+    tactora::installTextHandling(tactora::makePlatformTextHandling());
     const auto resources = tactora::bundleResourcesDirectory(argc > 0 ? argv[0] : nullptr);
     const auto languages = tactora::preferredLanguages(environmentVariable);
     auto localization = tactora::loadBundleStringTable(resources, languages);

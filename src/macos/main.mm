@@ -6,11 +6,13 @@
 
 #include "core/app/Program.h"
 #include "core/localization/Localizer.h"
+#include "core/text/TextHandling.h"
 #include "macos/BundleStringTable.h"
 #include "macos/MacProgramEnvironment.h"
 
 int main(int argc, const char* argv[]) {
     @autoreleasepool {
+        tactora::installTextHandling(tactora::makePlatformTextHandling());
         tactora::setStringTable(std::make_shared<tactora::macos::BundleStringTable>());
         const std::vector<std::string> arguments(argv, argv + argc);
         tactora::macos::MacProgramEnvironment environment;

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "core/text/GraphemeClusters.h"
+#include "core/text/TextHandling.h"
 
 namespace tactora {
 namespace {
@@ -46,7 +46,7 @@ TEST(ProfileNameTest, EmojiAndFlagsAreNeverSplit) {
     const std::optional<std::string> kept = profileName(name);
     ASSERT_TRUE(kept.has_value());
     EXPECT_EQ(*kept, repeat("a", 59) + "\U0001F469\U0001F3FD\u200D\U0001F4BB");
-    EXPECT_EQ(graphemes::count(*kept), 60U);
+    EXPECT_EQ(textHandling().characterCount(*kept), 60U);
 
     const std::string flags = repeat("\U0001F1E7\U0001F1F7", 61);
     EXPECT_EQ(profileName(flags), repeat("\U0001F1E7\U0001F1F7", 60));

@@ -56,6 +56,23 @@ TEST(LocalizationAuditTest, RejectsUnsignedConversionsForSignedIntegers) {
               "\"%llu\" does not fit argument 1, a signed integer (%lld)");
 }
 
+TEST(LocalizationAuditTest, RejectsShortIntegerConversions) {
+    EXPECT_EQ(audit("action.failed", "Failed (%hd)"),
+              "\"%hd\" does not fit argument 1, a signed integer (%lld)");
+    EXPECT_EQ(audit("action.failed", "Failed (%hhi)"),
+              "\"%hhi\" does not fit argument 1, a signed integer (%lld)");
+}
+
+TEST(LocalizationAuditTest, AcceptsFlagsWidthsAndPrecisions) {
+    EXPECT_EQ(audit("error.action", "“%-10@” failed (%+5qd)."), std::nullopt);
+    EXPECT_EQ(audit("action.failed", "Failed (%.3zd)"), std::nullopt);
+}
+
+TEST(LocalizationAuditTest, RejectsWidthsTakenFromArguments) {
+    EXPECT_EQ(audit("action.failed", "Failed (%*lld)"),
+              "\"%*lld\" takes its width or precision from an argument, which no caller passes");
+}
+
 TEST(LocalizationAuditTest, RejectsMixedStyles) {
     EXPECT_EQ(audit("permissions", "%1$@ · %@"), "mixes positional and sequential conversions");
 }

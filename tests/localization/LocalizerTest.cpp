@@ -101,5 +101,42 @@ TEST_F(LocalizerTest, HostileTextWithArgumentsCannotReadPastThem) {
     EXPECT_EQ(L("hostile", "a"), "a %@ %9$@ %s %n %lld%");
 }
 
+class LocalizerPluralTest : public LocalizerTest {
+  protected:
+    static void usePlurals(std::optional<std::string> language) {
+        PluralFormat fingers{.format = "%#@n@ · %@", .variables = {}};
+        fingers.variables["n"] = {.valueType = "lld",
+                                  .forms = {{PluralCategory::one, "%lld finger"},
+                                            {PluralCategory::other, "%lld fingers"}}};
+        setStringTable(std::make_shared<const StringsTable>(
+            StringsTable::Entries{{"count", "%lld finger(s) · %@"}, {"plain", "%lld"}},
+            StringsTable::PluralEntries{{"count", fingers}}, std::move(language)));
+    }
+};
+
+TEST_F(LocalizerPluralTest, PluralEntryChoosesTheFormByTheLanguagesRules) {
+    usePlurals("en");
+    EXPECT_EQ(L("count", 1, "tap"), "1 finger · tap");
+    EXPECT_EQ(L("count", 2, "tap"), "2 fingers · tap");
+    usePlurals("pt-BR");
+    EXPECT_EQ(L("count", 0, "tap"), "0 finger · tap");
+}
+
+TEST_F(LocalizerPluralTest, WithoutALanguageEveryValueTakesTheOtherForm) {
+    usePlurals(std::nullopt);
+    EXPECT_EQ(L("count", 1, "tap"), "1 fingers · tap");
+}
+
+TEST_F(LocalizerPluralTest, UnresolvablePluralFallsBackToThePlainText) {
+    usePlurals("en");
+    EXPECT_EQ(L("count", "one", "tap"), "%lld finger(s) · tap");
+    EXPECT_EQ(L("plain", 3), "3");
+}
+
+TEST_F(LocalizerPluralTest, WithoutArgumentsThePlainTextIsReturned) {
+    usePlurals("en");
+    EXPECT_EQ(L("count"), "%lld finger(s) · %@");
+}
+
 }  // namespace
 }  // namespace tactora

@@ -9,6 +9,7 @@
 #include "core/localization/LocalizationAudit.h"
 #include "core/localization/LocalizationKeys.h"
 #include "core/localization/Localizer.h"
+#include "core/localization/StringsDictFile.h"
 #include "core/localization/StringsFile.h"
 #include "core/localization/StringsTable.h"
 #include "support/ShippedResources.h"
@@ -97,6 +98,54 @@ TEST(ShippedTablesTest, EveryTableHasExactlyTheKeysWithMatchingConversions) {
         EXPECT_EQ(file->entries.size(), localizationKeys.size()) << localization;
         for (const std::string& problem : auditStringsFile(*file)) {
             ADD_FAILURE() << localization << ": " << problem;
+        }
+    }
+}
+
+TEST(ShippedTablesTest, EveryPluralTableIsReadAndFitsItsKeys) {
+    const std::filesystem::path resources = shippedResourcesDirectory();
+    std::size_t tables = 0;
+    for (const std::string& localization : availableLocalizations(resources)) {
+        const std::optional<StringsDictFile> file =
+            readStringsDictFile(resources / (localization + ".lproj") / "Localizable.stringsdict");
+        if (!file) {
+            continue;
+        }
+        ++tables;
+        EXPECT_FALSE(file->entries.empty()) << localization;
+        for (const std::string& problem : auditStringsDictFile(*file)) {
+            ADD_FAILURE() << localization << ": " << problem;
+        }
+    }
+    EXPECT_GE(tables, 2U);
+}
+
+// Through it the text handling on macOS learns each number's plural category: every form must
+// be its own category's name.
+TEST(ShippedTablesTest, ThePluralCategoryProbeNamesEveryCategory) {
+    const std::optional<StringsDictFile> file =
+        readStringsDictFile(shippedResourcesDirectory() / "PluralCategory.stringsdict");
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->error, std::nullopt);
+    ASSERT_TRUE(file->entries.contains("category"));
+    const PluralFormat& probe = file->entries.at("category");
+    EXPECT_EQ(probe.format, "%#@value@");
+    const PluralFormat::Variable& value = probe.variables.at("value");
+    EXPECT_EQ(value.valueType, "lld");
+    ASSERT_EQ(value.forms.size(), 6U);
+    for (const auto& [category, form] : value.forms) {
+        EXPECT_EQ(form, pluralCategoryName(category));
+    }
+}
+
+TEST(ShippedTablesTest, NoTextHedgesItsPluralWithParentheses) {
+    const std::filesystem::path resources = shippedResourcesDirectory();
+    for (const std::string& localization : availableLocalizations(resources)) {
+        const std::optional<StringsFile> file = readStringsFile(tablePath(localization));
+        ASSERT_TRUE(file) << localization;
+        for (const auto& [key, text] : file->entries) {
+            EXPECT_EQ(text.find("(s)"), std::string::npos) << localization << " " << key;
+            EXPECT_EQ(text.find("(es)"), std::string::npos) << localization << " " << key;
         }
     }
 }
@@ -217,6 +266,26 @@ TEST_F(ShippedTablesLocalizerTest, SimplifiedChineseLinesReadAsIntended) {
     EXPECT_EQ(L("gesture.click", 2), "2 指点按");
     EXPECT_EQ(L("finger.many", 4), "4 个手指");
     EXPECT_EQ(L("menu.quit"), "退出 Tactora");
+}
+
+TEST_F(ShippedTablesLocalizerTest, EnglishCountsReadNaturallyFromOneToFourFingers) {
+    use("en");
+    EXPECT_EQ(L("gesture.tap", 1), "1-finger tap");
+    EXPECT_EQ(L("gesture.click", 4), "4-finger click");
+    EXPECT_EQ(L("finger.many", 1), "1 finger");
+    EXPECT_EQ(L("finger.many", 2), "2 fingers");
+}
+
+TEST_F(ShippedTablesLocalizerTest, PortugueseCountsReadNaturallyFromOneToFourFingers) {
+    use("pt-BR");
+    EXPECT_EQ(L("gesture.tap", 1), "Toque com 1 dedo");
+    EXPECT_EQ(L("gesture.click", 1), "Clique com 1 dedo");
+    for (const int fingers : {2, 3, 4}) {
+        const std::string count = std::to_string(fingers);
+        EXPECT_EQ(L("gesture.tap", fingers), "Toque com " + count + " dedos");
+        EXPECT_EQ(L("gesture.click", fingers), "Clique com " + count + " dedos");
+        EXPECT_EQ(L("finger.many", fingers), count + " dedos");
+    }
 }
 
 }  // namespace

@@ -1,17 +1,16 @@
 #include "core/app/ProfileName.h"
 
-#include "core/text/GraphemeClusters.h"
-#include "core/text/Whitespace.h"
+#include "core/text/TextHandling.h"
 
 namespace tactora {
 
 std::optional<std::string> profileName(std::string_view entered) {
-    const std::string_view name =
-        graphemes::prefix(trimWhitespaceAndNewlines(entered), maxProfileNameLength);
+    const TextHandling& text = textHandling();
+    std::string name = text.leadingCharacters(text.trimmed(entered), maxProfileNameLength);
     if (name.empty()) {
         return std::nullopt;
     }
-    return std::string(name);
+    return name;
 }
 
 }  // namespace tactora

@@ -11,7 +11,6 @@ namespace tactora {
 namespace {
 
 constexpr std::string_view localizationExtension = ".lproj";
-constexpr std::string_view tableFileName = "Localizable.strings";
 
 }  // namespace
 
@@ -41,9 +40,9 @@ BundleLocalization loadBundleStringTable(const std::filesystem::path& resourcesD
     BundleLocalization result;
     result.localization = chooseLocalization(available, preferredLanguages);
     if (result.localization) {
-        result.table = StringsTable::load(
-            resourcesDirectory / (*result.localization + std::string(localizationExtension)) /
-            tableFileName);
+        result.table = StringsTable::loadLocalization(
+            resourcesDirectory / (*result.localization + std::string(localizationExtension)),
+            *result.localization);
     }
     return result;
 }

@@ -16,7 +16,8 @@ namespace tactora {
 struct BundleLocalization {
     // The chosen localisation's name ("pt-BR"); nothing when the bundle has none.
     std::optional<std::string> localization;
-    // Its Localizable.strings; null when nothing was chosen or the file can't be read.
+    // Its Localizable.strings with the plural entries of its Localizable.stringsdict; null when
+    // nothing was chosen or the .strings file can't be read.
     std::shared_ptr<const StringTable> table;
 };
 
@@ -25,7 +26,8 @@ struct BundleLocalization {
 std::vector<std::string> availableLocalizations(const std::filesystem::path& resourcesDirectory);
 
 // Chooses among the available localisations for `preferredLanguages` (chooseLocalization) and
-// reads "<resources>/<name>.lproj/Localizable.strings". Entries before a parse error are kept.
+// reads "<resources>/<name>.lproj/Localizable.strings" and, when there is one, the
+// Localizable.stringsdict beside it. Entries before a parse error are kept.
 // Any thread; the result is installed on the main thread.
 BundleLocalization loadBundleStringTable(const std::filesystem::path& resourcesDirectory,
                                          std::span<const std::string> preferredLanguages);

@@ -17,9 +17,12 @@ void setStringTable(std::shared_ptr<const StringTable> table);
 
 // Looks `key` up and, when there are arguments, formats the text with them (see formatText:
 // "%@" takes a string, "%d" and its kin an integer, "%1$@" picks by position, "%%" is a
-// percent sign). A missing key, or no table at all, gives the key itself, formatted in the
-// same way. Without arguments the text is returned as it stands, conversions and all.
-// Main thread only.
+// percent sign). With arguments, a plural entry of the table (its .stringsdict) comes first:
+// its variables are resolved by the installed text handling's plural rules for the table's
+// language (see expandPluralFormat); when the table has none for the key, or it does not
+// resolve, the plain text is used. A missing key, or no table at all, gives the key itself,
+// formatted in the same way. Without arguments the plain text is returned as it stands,
+// conversions and all. Main thread only.
 std::string localize(std::string_view key, std::span<const FormatArgument> arguments);
 
 inline std::string L(std::string_view key) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/localization/PluralFormat.h"
+
 namespace tactora {
 
 // The localised texts of one language, by key. Implementations: the main bundle's table on
@@ -16,6 +18,16 @@ class StringTable {
 
     // The text for `key`, or nothing when the table has no entry for it.
     virtual std::optional<std::string> lookup(std::string_view key) const = 0;
+
+    // The plural entry for `key` from the table's .stringsdict, which L prefers when it has
+    // arguments; lookup's text stays the fallback. Nothing by default.
+    virtual std::optional<PluralFormat> pluralFormat(std::string_view /*key*/) const {
+        return std::nullopt;
+    }
+
+    // The localisation whose plural rules choose among the plural forms ("pt-BR"); nothing by
+    // default, which leaves every value to the "other" form (or "zero" for 0).
+    virtual std::optional<std::string> language() const { return std::nullopt; }
 
   protected:
     StringTable(const StringTable&) = default;

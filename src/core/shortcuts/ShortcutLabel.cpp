@@ -9,7 +9,7 @@
 #include "core/localization/Localizer.h"
 #include "core/profiles/ModifierFlags.h"
 #include "core/profiles/SavedShortcut.h"
-#include "core/text/UpperCase.h"
+#include "core/text/TextHandling.h"
 
 namespace tactora {
 
@@ -91,7 +91,7 @@ std::string keyName(const KeyPress& press) {
         return *name;
     }
     if (press.charactersIgnoringModifiers) {
-        return upperCased(*press.charactersIgnoringModifiers);
+        return textHandling().upperCased(*press.charactersIgnoringModifiers);
     }
     return "#" + std::to_string(press.keyCode);
 }

@@ -85,4 +85,26 @@ void append(std::string& text, char32_t codePoint) {
     }
 }
 
+bool isValid(std::string_view text) {
+    for (std::size_t offset = 0; offset < text.size();) {
+        const std::size_t start = offset;
+        if (decode(text, offset) == replacement && text.substr(start, offset - start) != "\uFFFD") {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::string repaired(std::string_view text) {
+    if (isValid(text)) {
+        return std::string(text);
+    }
+    std::string result;
+    result.reserve(text.size() + 8);
+    for (std::size_t offset = 0; offset < text.size();) {
+        append(result, decode(text, offset));
+    }
+    return result;
+}
+
 }  // namespace tactora::utf8

@@ -18,4 +18,10 @@ char32_t decode(std::string_view text, std::size_t& offset);
 // replacement character).
 void append(std::string& text, char32_t codePoint);
 
+// Whether `text` is well-formed UTF-8 throughout.
+bool isValid(std::string_view text);
+
+// `text` with every byte that decode() cannot read replaced by U+FFFD; valid text unchanged.
+std::string repaired(std::string_view text);
+
 }  // namespace tactora::utf8
