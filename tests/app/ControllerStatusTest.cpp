@@ -48,8 +48,8 @@ TEST_F(ControllerStatusTest, SwitchedOffStatusItemShowsTheOutlineAndThePauseWord
     h.c().updateMenuIcon();
 
     ASSERT_TRUE(h.view.statusItem.has_value());
-    EXPECT_EQ(*h.view.statusItem,
-              (StatusItemAppearance{"computermouse", "Tactora", "Tactora · menu.pause · Default"}));
+    EXPECT_EQ(*h.view.statusItem, (StatusItemAppearance{"computermouse", "Tactora",
+                                                        "Tactora · menu.pause · Default", ""}));
 }
 
 TEST_F(ControllerStatusTest, SwitchedOnStatusItemShowsTheFilledSymbolAndActiveProfile) {
@@ -58,7 +58,7 @@ TEST_F(ControllerStatusTest, SwitchedOnStatusItemShowsTheFilledSymbolAndActivePr
     h.c().refresh();
 
     EXPECT_EQ(*h.view.statusItem, (StatusItemAppearance{"computermouse.fill", "Tactora",
-                                                        "Tactora · menu.active · Work"}));
+                                                        "Tactora · menu.active · Work", ""}));
 }
 
 TEST_F(ControllerStatusTest, StatusItemIsSetOnlyWhenItsAppearanceChanges) {

@@ -67,8 +67,8 @@ TEST_P(GoldenTrace, SaysWhatItShows) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Traces, GoldenTrace, ::testing::ValuesIn(traceNames()),
-                         [](const ::testing::TestParamInfo<std::string>& info) {
-                             std::string name = info.param;
+                         [](const ::testing::TestParamInfo<std::string>& trace) {
+                             std::string name = trace.param;
                              std::ranges::replace(name, '-', '_');
                              return name;
                          });
