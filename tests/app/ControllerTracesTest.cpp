@@ -45,7 +45,7 @@ TEST_F(ControllerTracesTest, NothingIsRecordedUntilTheUserAsks) {
     h.queue.advance(1);
     EXPECT_TRUE(h.traceSink.files.empty());
     EXPECT_FALSE(h.c().recordingTouches());
-    EXPECT_EQ(h.shell.statusMenu.at(2),
+    EXPECT_EQ(h.shell.statusMenu.at(3),
               (MenuEntry{"menu.trace.start", MenuCommand::recordTouches, ""}));
 }
 
@@ -56,7 +56,7 @@ TEST_F(ControllerTracesTest, StartingWritesTheHeaderAndTheStateAReplayStartsFrom
     EXPECT_EQ(traced(), (std::vector<std::string>{"tactora-trace 1", "1000.0 gestures on",
                                                   "1000.0 active off", "1000.0 " + profileLine(),
                                                   "1000.0 front 42 com.example.Editor"}));
-    EXPECT_EQ(h.shell.statusMenu.at(2),
+    EXPECT_EQ(h.shell.statusMenu.at(3),
               (MenuEntry{"menu.trace.stop", MenuCommand::recordTouches, ""}));
     EXPECT_EQ(h.view.status, "trace.started");
     EXPECT_TRUE(h.view.live.ends_with(" · trace.live")) << h.view.live;
@@ -68,7 +68,7 @@ TEST_F(ControllerTracesTest, StoppingClosesTheFileAndPutsTheMenuBack) {
     EXPECT_FALSE(h.c().recordingTouches());
     EXPECT_FALSE(h.traceSink.open);
     EXPECT_EQ(h.view.status, "trace.saved");
-    EXPECT_EQ(h.shell.statusMenu.at(2).title, "menu.trace.start");
+    EXPECT_EQ(h.shell.statusMenu.at(3).title, "menu.trace.start");
     EXPECT_FALSE(h.view.live.ends_with("trace.live"));
 }
 
@@ -77,7 +77,7 @@ TEST_F(ControllerTracesTest, WithNowhereToWriteNothingStarts) {
     h.c().recordTouches();
     EXPECT_FALSE(h.c().recordingTouches());
     EXPECT_EQ(h.view.status, "trace.failed");
-    EXPECT_EQ(h.shell.statusMenu.at(2).title, "menu.trace.start");
+    EXPECT_EQ(h.shell.statusMenu.at(3).title, "menu.trace.start");
 }
 
 TEST_F(ControllerTracesTest, RecordsWhatTheControllerReceives) {
@@ -131,7 +131,7 @@ TEST_F(ControllerTracesTest, StopsByItselfAfterTenMinutes) {
     EXPECT_FALSE(h.c().recordingTouches());
     EXPECT_FALSE(h.traceSink.open);
     EXPECT_EQ(h.view.status, "trace.saved");
-    EXPECT_EQ(h.shell.statusMenu.at(2).title, "menu.trace.start");
+    EXPECT_EQ(h.shell.statusMenu.at(3).title, "menu.trace.start");
 }
 
 TEST_F(ControllerTracesTest, QuittingStopsTheRecording) {
