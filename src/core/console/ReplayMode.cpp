@@ -1,17 +1,15 @@
 #include "core/console/ReplayMode.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <ostream>
 #include <set>
-#include <sstream>
 #include <string_view>
 #include <vector>
 
 #include "core/localization/Localizer.h"
 #include "core/profiles/ProfileJson.h"
+#include "core/support/FileContents.h"
 #include "core/trace/TraceReader.h"
 #include "core/trace/TraceReplay.h"
 
@@ -28,19 +26,6 @@ std::optional<std::string> valueAfter(std::span<const std::string> arguments,
     }
     const auto value = std::next(found);
     return value == arguments.end() ? std::string() : *value;
-}
-
-std::optional<std::string> contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        return std::nullopt;
-    }
-    std::ostringstream text;
-    text << file.rdbuf();
-    if (file.bad()) {
-        return std::nullopt;
-    }
-    return std::move(text).str();
 }
 
 bool hasDistinctIDs(const std::vector<WorkProfile>& profiles) {
@@ -76,7 +61,7 @@ int runReplay(std::span<const std::string> arguments, std::ostream& out, std::os
     if (!tracePath || tracePath->empty() || (profilePath && profilePath->empty())) {
         return fail(err, L("replay.usage"));
     }
-    const std::optional<std::string> trace = contents(*tracePath);
+    const std::optional<std::string> trace = readFileContents(*tracePath);
     if (!trace) {
         return fail(err, L("replay.unreadable", *tracePath));
     }
@@ -86,7 +71,7 @@ int runReplay(std::span<const std::string> arguments, std::ostream& out, std::os
     }
     std::optional<std::vector<WorkProfile>> profiles;
     if (profilePath) {
-        const std::optional<std::string> json = contents(*profilePath);
+        const std::optional<std::string> json = readFileContents(*profilePath);
         if (!json) {
             return fail(err, L("replay.unreadable", *profilePath));
         }

@@ -1,9 +1,8 @@
 #include "core/localization/StringsDictFile.h"
 
-#include <fstream>
-#include <iterator>
-#include <system_error>
 #include <utility>
+
+#include "core/support/FileContents.h"
 
 namespace tactora {
 
@@ -96,20 +95,11 @@ StringsDictFile parseStringsDictFile(std::string_view bytes) {
 }
 
 std::optional<StringsDictFile> readStringsDictFile(const std::filesystem::path& path) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) {
+    const std::optional<std::string> bytes = readFileContents(path);
+    if (!bytes) {
         return std::nullopt;
     }
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) {
-        return std::nullopt;
-    }
-    const std::string bytes{std::istreambuf_iterator<char>(stream),
-                            std::istreambuf_iterator<char>()};
-    if (stream.bad()) {
-        return std::nullopt;
-    }
-    return parseStringsDictFile(bytes);
+    return parseStringsDictFile(*bytes);
 }
 
 }  // namespace tactora

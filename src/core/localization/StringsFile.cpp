@@ -1,12 +1,10 @@
 #include "core/localization/StringsFile.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
-#include <system_error>
 #include <utility>
 
 #include "core/localization/DecodedText.h"
+#include "core/support/FileContents.h"
 
 namespace tactora {
 
@@ -277,20 +275,11 @@ StringsFile parseStringsFile(std::string_view bytes) {
 }
 
 std::optional<StringsFile> readStringsFile(const std::filesystem::path& path) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) {
+    const std::optional<std::string> bytes = readFileContents(path);
+    if (!bytes) {
         return std::nullopt;
     }
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) {
-        return std::nullopt;
-    }
-    const std::string bytes{std::istreambuf_iterator<char>(stream),
-                            std::istreambuf_iterator<char>()};
-    if (stream.bad()) {
-        return std::nullopt;
-    }
-    return parseStringsFile(bytes);
+    return parseStringsFile(*bytes);
 }
 
 }  // namespace tactora

@@ -1,7 +1,6 @@
 #include "core/profiles/FilePreferences.h"
 
 #include <fstream>
-#include <iterator>
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <system_error>
@@ -9,6 +8,7 @@
 
 #include "core/profiles/Base64.h"
 #include "core/profiles/Uuid.h"
+#include "core/support/FileContents.h"
 
 namespace tactora {
 
@@ -82,18 +82,6 @@ std::optional<PreferenceValues> decodeFile(const std::string& text) {
     return values;
 }
 
-std::optional<std::string> readFile(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
-        return std::nullopt;
-    }
-    std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    if (in.bad()) {
-        return std::nullopt;
-    }
-    return text;
-}
-
 bool writeFile(const fs::path& file, const std::string& text) {
     std::ofstream out(file, std::ios::binary | std::ios::trunc);
     out.write(text.data(), static_cast<std::streamsize>(text.size()));
@@ -128,7 +116,7 @@ void FilePreferences::load() {
     }
     std::optional<PreferenceValues> values;
     if (!error && fs::is_regular_file(status)) {
-        if (const std::optional<std::string> text = readFile(file_)) {
+        if (const std::optional<std::string> text = readFileContents(file_)) {
             values = decodeFile(*text);
         }
     }
