@@ -2,8 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
-#import "macos/TASurfaceView.h"
 #import "macos/TAApplicationsSheet.h"
+#import "macos/TASurfaceView.h"
 
 NS_ASSUME_NONNULL_BEGIN
 

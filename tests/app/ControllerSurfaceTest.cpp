@@ -229,9 +229,7 @@ TEST_F(ControllerSurfaceTest, TheMenuItemTurnsTheFeedbackOverAndRemembersIt) {
 }
 
 TEST_F(ControllerSurfaceTest, AStoredChoiceIsReadAtStartAndAWrongTypeReadsAsOff) {
-    const auto make = [this] {
-        return Controller::create(h.services());
-    };
+    const auto make = [this] { return Controller::create(h.services()); };
     const std::string key(MenuBarFeedback::preferenceKey);
     h.defaults->setInteger(key, 1);
     EXPECT_TRUE(make()->menuBarFeedbackOn());
