@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -41,6 +42,61 @@ struct GestureState {
     void reset();
 
     bool operator==(const GestureState&) const = default;
+
+  private:
+    // Whether a finger that moved by (dx, dy) is farther than the tolerance from its origin,
+    // decided exactly as comparing std::hypot(dx, dy) with it would be. The squared distance is
+    // within a few units in the last place of the square of that hypotenuse, so away from the
+    // boundary it decides alone, without hypot's careful and slow scaling; near the boundary,
+    // and for a distance that is not a number, hypot decides.
+    static bool isBeyondTolerance(double dx, double dy);
+    static bool isBeyondToleranceNearItsEdge(double dx, double dy);
+    // The empty frame: the tap's finger count or nothing, then back to the initial state.
+    std::optional<std::int64_t> endSequence(double time);
 };
+
+// The per-frame path is defined here so that it is inlined into the frame handler that calls it
+// about a hundred times a second; the rarer steps stay in GestureState.cpp.
+
+inline bool GestureState::isBeyondTolerance(double dx, double dy) {
+    constexpr double limit = movementTolerance * movementTolerance;
+    constexpr double margin = 1e-9;
+    const double squared = dx * dx + dy * dy;
+    if (squared < limit * (1 - margin)) {
+        return false;
+    }
+    if (squared > limit * (1 + margin)) {
+        return true;
+    }
+    return isBeyondToleranceNearItsEdge(dx, dy);
+}
+
+inline std::optional<std::int64_t> GestureState::update(std::span<const Finger> frame,
+                                                        double time) {
+    count = static_cast<std::int64_t>(frame.size());
+    if (frame.empty()) {
+        return endSequence(time);
+    }
+    if (!began) {
+        began = time;
+        // A click made while nothing touched the surface belongs to no sequence.
+        clicked = false;
+    }
+    peak = std::max(peak, count);
+    if (count > maxFingers) {
+        invalid = true;
+    }
+    for (const Finger& finger : frame) {
+        const FingerOrigins::Origin* origin = origins.find(finger.id);
+        if (origin == nullptr) {
+            origins.insert(finger.id, {finger.x, finger.y});
+            continue;
+        }
+        if (isBeyondTolerance(finger.x - origin->x, finger.y - origin->y)) {
+            moved = true;
+        }
+    }
+    return std::nullopt;
+}
 
 }  // namespace tactora
