@@ -119,17 +119,22 @@ TEST_F(ControllerAllocationTest, HandedOverFramesArriveInOrderWithTheirContacts)
     EXPECT_EQ(h.c().gesture().count, 1);
 }
 
-TEST_F(ControllerAllocationTest, FramesAllocateNothingOnTheMainThreadOnceTheirFingersAreKnown) {
+// Four resting fingers, once to meet them, then a hundred frames: what the main thread
+// allocated for those hundred.
+std::size_t mainThreadAllocationsOverRestingFrames(ControllerHarness& h) {
     const Contacts contacts;
     contacts.deliver(4);
     h.queue.runReady();
-
     std::size_t onMainThread = 0;
     for (int round = 0; round < 100; ++round) {
         contacts.deliver(4);
         onMainThread += AllocationCounter::of([&] { h.queue.runReady(); });
     }
-    EXPECT_EQ(onMainThread, 0U);
+    return onMainThread;
+}
+
+TEST_F(ControllerAllocationTest, FramesAllocateNothingOnTheMainThreadOnceTheirFingersAreKnown) {
+    EXPECT_EQ(mainThreadAllocationsOverRestingFrames(h), 0U);
     EXPECT_EQ(h.c().gesture().count, 4);
 }
 
@@ -137,16 +142,7 @@ TEST_F(ControllerAllocationTest, FramesCostTheLiveViewNothingOnceItsWindowIsHidd
     h.surface.setVisible(true);
     h.surface.setVisible(false);
     const std::size_t shows = h.surface.shows;
-    const Contacts contacts;
-    contacts.deliver(4);
-    h.queue.runReady();
-
-    std::size_t onMainThread = 0;
-    for (int round = 0; round < 100; ++round) {
-        contacts.deliver(4);
-        onMainThread += AllocationCounter::of([&] { h.queue.runReady(); });
-    }
-    EXPECT_EQ(onMainThread, 0U);
+    EXPECT_EQ(mainThreadAllocationsOverRestingFrames(h), 0U);
     EXPECT_EQ(h.surface.shows, shows);
 }
 

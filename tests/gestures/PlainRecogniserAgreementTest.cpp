@@ -32,21 +32,9 @@ struct Outcome {
     std::vector<std::optional<std::int64_t>> results;  // one per frame
 };
 
-Outcome replay(const Recording& recording, GestureState& gesture) {
-    Outcome outcome;
-    for (const Event& event : recording) {
-        if (const auto* frame = std::get_if<FrameEvent>(&event)) {
-            outcome.results.push_back(gesture.update(frame->frame, frame->time));
-        } else if (std::holds_alternative<ClickEvent>(event)) {
-            gesture.physicalClick();
-        } else {
-            gesture.reset();
-        }
-    }
-    return outcome;
-}
-
-Outcome replay(const Recording& recording, PlainGestureRecogniser& gesture) {
+// Both recognisers take the same calls, so one replay serves either.
+template <typename Recogniser>
+Outcome replay(const Recording& recording, Recogniser& gesture) {
     Outcome outcome;
     for (const Event& event : recording) {
         if (const auto* frame = std::get_if<FrameEvent>(&event)) {
