@@ -14,11 +14,13 @@
 #include "core/actions/ActionIndex.h"
 #include "core/actions/Press.h"
 #include "core/app/ContactFrame.h"
+#include "core/app/ControllerEvents.h"
 #include "core/app/ControllerObserver.h"
 #include "core/app/ControllerServices.h"
 #include "core/app/GestureKind.h"
 #include "core/app/MenuBarFeedback.h"
 #include "core/app/NamingMode.h"
+#include "core/app/ObserverList.h"
 #include "core/app/TouchSurface.h"
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureDispatchContext.h"
@@ -165,7 +167,9 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // --- Actions -----------------------------------------------------------------------------
 
     // Carries out catalogue entry `action`; `shortcut` is used by the custom action only.
-    void perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut);
+    // `origin` and `fingers` say, for the observers, which gesture it stood for.
+    void perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
+                 ActionOrigin origin = ActionOrigin::direct, std::int64_t fingers = 0);
     // Posts one marked mouse button event at the pointer.
     void post(MouseButton button, bool down, std::int64_t clickState = 1);
     // Posts one marked key press, down then up.
@@ -258,9 +262,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void recordTouches();
     bool recordingTouches() const { return trace_.isRecording(); }
 
-    // Tells `observer` (not owned; it must outlive the controller, or be taken away with null)
-    // what is recognised and performed from now on.
-    void setObserver(ControllerObserver* observer) { observer_ = observer; }
+    // Tells `observer` (not owned; it must stay alive until removed) what the controller
+    // receives and decides from now on; see ControllerObserver.
+    void addObserver(ControllerObserver& observer) { observers_.add(observer); }
+    void removeObserver(ControllerObserver& observer) { observers_.remove(observer); }
 
     // --- State, for the status display and for tests -----------------------------------------
 
@@ -293,6 +298,9 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     void tapDisabled();
     bool isFromMouse(const TapEvent& event);
+    EventDisposition decide(EventType type, TapEvent& event);
+    // Why the guard refuses `context` now; nothing when it may run.
+    std::optional<DropReason> guardRefusal(const GestureDispatchContext& context);
     EventDisposition pressDown(TapEvent& event, std::int64_t button, double now);
     EventDisposition pressContinues(EventType type, TapEvent& event, std::int64_t button);
     void performOnRelease(const Press& press);
@@ -394,7 +402,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     std::string tracePath_;
     std::optional<TraceFrontApplication> tracedFront_;
     std::optional<bool> tracedGestures_;
-    ControllerObserver* observer_ = nullptr;  // not owned
+    ObserverList observers_;
 };
 
 }  // namespace tactora

@@ -38,11 +38,13 @@ void Controller::applicationDidFinishLaunching() {
 
 void Controller::applicationDidBecomeActive() {
     noteTrace(services_.clock.uptime(), TraceActive{true});
+    observers_.activeChanged({.active = true, .time = services_.clock.uptime()});
     dropPendingWork();
 }
 
 void Controller::applicationDidResignActive() {
     noteTrace(services_.clock.uptime(), TraceActive{false});
+    observers_.activeChanged({.active = false, .time = services_.clock.uptime()});
     dropPendingWork();
 }
 
@@ -88,6 +90,10 @@ void Controller::toggle() {
     }
     applySwitch(byUser);
     noteGestures();
+    // A pause from the menu is the user's too.
+    observers_.switchChanged({.on = services_.view.isEnabledOn(),
+                              .byUser = programActions_ == 0,
+                              .time = services_.clock.uptime()});
 }
 
 // Applies the switch's state; `byUser` when the user ticked it, not the program.

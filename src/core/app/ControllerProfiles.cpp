@@ -93,6 +93,9 @@ void Controller::switchProfile(const Uuid& id, ProfileSwitch kind) {
     } else {
         profiles().activate(id);
     }
+    observers_.profileSelected({.id = profiles().activeID().text(),
+                                .chosen = kind == ProfileSwitch::chosen,
+                                .time = services_.clock.uptime()});
     lastGesture_ = "—";
     lastAction_.clear();
     refreshProfileUI();
