@@ -12,8 +12,7 @@
 #include <vector>
 
 #include "core/actions/ActionIndex.h"
-#include "core/actions/Press.h"
-#include "core/app/ContactFrame.h"
+#include "core/actions/SavedShortcut.h"
 #include "core/app/ControllerEvents.h"
 #include "core/app/ControllerObserver.h"
 #include "core/app/ControllerServices.h"
@@ -21,6 +20,7 @@
 #include "core/app/MenuBarFeedback.h"
 #include "core/app/NamingMode.h"
 #include "core/app/ObserverList.h"
+#include "core/app/Press.h"
 #include "core/app/TouchSurface.h"
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureDispatchContext.h"
@@ -28,6 +28,7 @@
 #include "core/keepon/KeepOn.h"
 #include "core/keepon/PermissionMemory.h"
 #include "core/platform/ApplicationsSheet.h"
+#include "core/platform/ContactFrame.h"
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/LoginItemStatus.h"
@@ -35,7 +36,6 @@
 #include "core/platform/StatusItemAppearance.h"
 #include "core/platform/TapEvent.h"
 #include "core/profiles/ProfileStore.h"
-#include "core/profiles/SavedShortcut.h"
 #include "core/trace/TraceLine.h"
 #include "core/trace/TraceRecorder.h"
 

@@ -7,10 +7,10 @@
 #include <string>
 
 #include "core/actions/ActionIndex.h"
+#include "core/actions/SavedShortcut.h"
 #include "core/app/GestureKind.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/MouseButton.h"
-#include "core/profiles/SavedShortcut.h"
 
 namespace tactora {
 
