@@ -16,7 +16,6 @@ Controller::Controller(Passkey /*unused*/, ControllerServices services)
     : services_(std::move(services)),
       keepOn_(services_.defaults),
       permissionMemory_(services_.defaults),
-      feedback_(services_.defaults),
       observers_(services_.queue) {
     frameFingers_.reserve(ContactFrame::capacity);
     services_.view.setLiveText(L("live", std::int64_t{0}, lastGesture_, lastAction_));

@@ -17,11 +17,10 @@
 #include "core/app/ControllerObserver.h"
 #include "core/app/ControllerServices.h"
 #include "core/app/GestureKind.h"
-#include "core/app/MenuBarFeedback.h"
 #include "core/app/NamingMode.h"
 #include "core/app/ObserverList.h"
 #include "core/app/Press.h"
-#include "core/app/TouchSurface.h"
+#include "core/app/StatusDisplay.h"
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureDispatchContext.h"
 #include "core/gestures/GestureState.h"
@@ -32,6 +31,7 @@
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/LoginItemStatus.h"
+#include "core/platform/MenuEntry.h"
 #include "core/platform/MouseButton.h"
 #include "core/platform/StatusItemAppearance.h"
 #include "core/platform/TapEvent.h"
@@ -48,7 +48,7 @@ namespace tactora {
 //
 // Held by std::shared_ptr: work it schedules holds it weakly and does nothing once it is gone.
 // Every member runs on the main thread, except frameCallback(), which runs on the sensor's.
-class Controller : public std::enable_shared_from_this<Controller> {
+class Controller final : public StatusDisplay, public std::enable_shared_from_this<Controller> {
     struct Passkey {
         explicit Passkey() = default;
     };
@@ -78,7 +78,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     Controller& operator=(const Controller&) = delete;
     Controller(Controller&&) = delete;
     Controller& operator=(Controller&&) = delete;
-    ~Controller() = default;
+    ~Controller() override = default;
 
     // --- Lifecycle: the application delegate and the menus ---------------------------------
 
@@ -151,7 +151,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // --- Status display ----------------------------------------------------------------------
 
     // Rewrites the permission line and the live line, then the status item.
-    void refresh();
+    void refresh() override;
+    void setLiveNote(std::string note) override;
+    void setStatusItemTitle(std::string title) override;
+    void setStatusMenuEntry(MenuEntry entry) override;
     // Redraws the status item, but only when its image, title or tooltip would change.
     void updateMenuIcon();
 
@@ -247,14 +250,6 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // changes nothing and is explained in a message.
     void importProfiles();
 
-    // --- Live view of the touch surface and feedback in the menu bar ---------------------------
-
-    // The settings window became visible on screen, or stopped being visible. The live view is
-    // kept up to date only while it is visible; while it is not, frames cost it nothing.
-    void surfaceVisibilityChanged(bool visible);
-    // The status menu's item that shows gestures in the menu bar: turns the preference over.
-    void toggleMenuBarFeedback();
-
     // --- Touch traces ------------------------------------------------------------------------
 
     // The status menu's "Record Touches…" item: starts writing a trace of everything the
@@ -280,8 +275,6 @@ class Controller : public std::enable_shared_from_this<Controller> {
     bool senderIsMouse() const { return senderIsMouse_; }
     bool recording() const { return recording_; }
     std::int64_t actionGeneration() const { return actionGeneration_; }
-    bool surfaceVisible() const { return surfaceVisible_; }
-    bool menuBarFeedbackOn() const { return feedback_.isOn(); }
 
   private:
     static void receiveFrame(const ContactFrame& frame);
@@ -328,13 +321,6 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void observeShowRequests();
     void observeFrontmostApplication();
     void dropPendingWork();
-
-    void noteGesture(GestureKind kind, std::int64_t fingers, double at);
-    void noteAction(ActionIndex action, const std::optional<SavedShortcut>& shortcut, double at);
-    void fireFeedback(std::int64_t fingers, double at);
-    void highlightChanged();
-    void scheduleHighlightEnd();
-    void showSurface();
 
     enum class ProfileSwitch { chosen, automatic };
     // The steps of selectProfile() around the store's change: pending actions cancelled, held
@@ -395,9 +381,13 @@ class Controller : public std::enable_shared_from_this<Controller> {
     std::optional<StatusItemAppearance> shownAppearance_;
     std::vector<Finger> frameFingers_;  // reused for every frame, so frames allocate nothing
 
-    TouchSurface surface_;
-    bool surfaceVisible_ = false;
-    MenuBarFeedback feedback_;
+    // What the parts beside the controller add to the status display.
+    struct StatusExtras {
+        std::string liveNote;
+        std::string title;
+        std::vector<MenuEntry> menuEntries;
+    };
+    StatusExtras statusExtras_;
     TraceRecorder trace_;
     std::string tracePath_;
     std::optional<TraceFrontApplication> tracedFront_;

@@ -33,6 +33,7 @@ void Controller::applicationDidFinishLaunching() {
     frontmostApplicationChanged(services_.workspace.frontmostProcessID(),
                                 services_.workspace.frontmostBundleID());
     watchDevices();
+    observers_.launched(services_.clock.uptime());
     show();
 }
 
@@ -150,11 +151,6 @@ bool Controller::activateOtherInstance() {
 void Controller::buildWindow() {
     services_.shell.buildWindow(settingsWindowTexts());
     windowBuilt_ = true;
-    services_.surface.observeVisibility([weak = weak_from_this()](bool visible) {
-        if (const auto self = weak.lock()) {
-            self->surfaceVisibilityChanged(visible);
-        }
-    });
     services_.view.setKeepOnChecked(keepOn_.enabled());
     refreshProfileUI();
 }

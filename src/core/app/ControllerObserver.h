@@ -42,6 +42,11 @@ class ControllerObserver {
     // This application became active, or stopped being it.
     virtual void activeChanged(const ActiveNote& /*note*/) {}
 
+    // Launching finished: the window, its views and the status item exist.
+    virtual void launched(double /*time*/) {}
+    // The status display was brought up to date (every refreshInterval, and after changes).
+    virtual void refreshed(double /*time*/) {}
+
   protected:
     ControllerObserver() = default;
     ControllerObserver(const ControllerObserver&) = default;

@@ -104,21 +104,14 @@ void Controller::receive(std::span<const Finger> fingers) {
         fingers.empty() ? whyNoTap(gesture_, now) : std::nullopt;
     const std::int64_t peak = gesture_.peak;
     const std::optional<std::int64_t> count = gesture_.update(fingers, now);
-    if (surfaceVisible_) {
-        surface_.frame(fingers, now);
-    }
     observers_.frameReceived(fingers, now);
     if (!count) {
-        if (surfaceVisible_) {
-            showSurface();
-        }
         if (dropped) {
             observers_.touchDropped({.reason = *dropped, .fingers = peak, .time = now});
         }
         return;
     }
     lastGesture_ = L("gesture.tap", *count);
-    noteGesture(GestureKind::tap, *count, now);
     const std::int64_t slot = slot::forTap(*count);
     const ActionIndex action = actionAt(slot);
     observers_.gestureRecognised(
@@ -156,10 +149,6 @@ void Controller::performTap(std::int64_t fingers, ActionIndex action,
     if (refused) {
         observers_.actionDropped({.action = action, .reason = *refused, .time = now});
         return;
-    }
-    if (action != action::defaultAction) {
-        fireFeedback(fingers, now);
-        noteAction(action, shortcut, now);
     }
     perform(action, shortcut, ActionOrigin::tap, fingers);
 }

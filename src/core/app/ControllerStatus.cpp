@@ -1,12 +1,10 @@
+#include <algorithm>
 #include <utility>
 
 #include "core/app/Controller.h"
 #include "core/localization/Localizer.h"
 
 namespace tactora {
-
-static_assert(TouchSurface::contactLifetime == Controller::liveContact,
-              "The live view and the live line count fingers over the same time");
 
 namespace {
 
@@ -31,13 +29,34 @@ void Controller::refresh() {
     if (trace_.isRecording()) {
         live += " · " + L("trace.live");
     }
-    services_.view.setLiveText(live);
-    if (surfaceVisible_) {
-        showSurface();
+    if (!statusExtras_.liveNote.empty()) {
+        live += " · " + statusExtras_.liveNote;
     }
+    services_.view.setLiveText(live);
     updateMenuIcon();
     refreshLoginItem();
     keepOnAtRefresh(accessibility, inputMonitoring);
+    observers_.refreshed(services_.clock.uptime());
+}
+
+void Controller::setLiveNote(std::string note) {
+    statusExtras_.liveNote = std::move(note);
+}
+
+void Controller::setStatusItemTitle(std::string title) {
+    statusExtras_.title = std::move(title);
+    updateMenuIcon();
+}
+
+void Controller::setStatusMenuEntry(MenuEntry entry) {
+    std::vector<MenuEntry>& entries = statusExtras_.menuEntries;
+    const auto same = std::ranges::find(entries, entry.command, &MenuEntry::command);
+    if (same != entries.end()) {
+        *same = std::move(entry);
+    } else {
+        entries.push_back(std::move(entry));
+    }
+    showStatusMenu();
 }
 
 std::string Controller::permissionLine(bool accessibility, bool inputMonitoring) {
@@ -63,7 +82,7 @@ void Controller::updateMenuIcon() {
         .accessibilityDescription = "Tactora",
         .toolTip =
             "Tactora · " + L(on ? "menu.active" : "menu.pause") + " · " + activeProfileTitle(),
-        .title = feedback_.title(services_.clock.uptime()),
+        .title = statusExtras_.title,
     };
     // The refresh timer calls this five times a second; the status bar redraws only on change.
     if (appearance == shownAppearance_) {

@@ -174,7 +174,6 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
         return EventDisposition::pass;
     }
     lastGesture_ = L("gesture.click", fingers);
-    noteGesture(GestureKind::click, fingers, now);
     const std::int64_t slot = slot::forClick(fingers);
     const ActionIndex action = actionAt(slot);
     observers_.gestureRecognised(
@@ -185,12 +184,10 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
     const Press press{action, shortcutAt(slot), catalogue::pressTarget(action), dispatchContext(),
                       fingers};
     presses_.insert_or_assign(button, press);
-    fireFeedback(fingers, now);
     if (!press.button) {
         return EventDisposition::swallow;
     }
     // A rewritten press does its action now; a swallowed one does it on release.
-    noteAction(action, press.shortcut, now);
     observers_.actionPerformed({
         .action = action,
         .shortcut = press.shortcut,
@@ -241,7 +238,6 @@ void Controller::performOnRelease(const Press& press) {
                                             .time = self->services_.clock.uptime()});
             return;
         }
-        self->noteAction(press.action, press.shortcut, self->services_.clock.uptime());
         self->perform(press.action, press.shortcut, ActionOrigin::click, press.fingers);
     });
 }

@@ -80,7 +80,8 @@ void Controller::noteGestures() {
 
 void Controller::showStatusMenu() {
     if (statusItemCreated_) {
-        services_.shell.buildStatusMenu(statusMenuItems(feedback_.isOn(), trace_.isRecording()));
+        services_.shell.buildStatusMenu(
+            statusMenuItems(statusExtras_.menuEntries, trace_.isRecording()));
     }
 }
 

@@ -61,6 +61,18 @@ void ObserverList::activeChanged(const ActiveNote& note) {
     tell(note);
 }
 
+void ObserverList::launched(double time) {
+    for (ControllerObserver* observer : observers_) {
+        observer->launched(time);
+    }
+}
+
+void ObserverList::refreshed(double time) {
+    for (ControllerObserver* observer : observers_) {
+        observer->refreshed(time);
+    }
+}
+
 void ObserverList::tell(const Note& note) {
     if (observers_.empty() || keep(note)) {
         return;

@@ -63,6 +63,8 @@ class ObserverList {
     void switchChanged(const SwitchNote& note);
     void profileSelected(const ProfileNote& note);
     void activeChanged(const ActiveNote& note);
+    void launched(double time);
+    void refreshed(double time);
 
   private:
     using Note =
