@@ -49,7 +49,7 @@
 }
 
 - (void)recordTouches {
-    _program->controller().recordTouches();
+    _program->recorder().recordTouches();
 }
 
 - (void)toggle {

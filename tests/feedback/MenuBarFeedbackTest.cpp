@@ -7,25 +7,13 @@
 
 #include "app/fakes/FakeClock.h"
 #include "app/fakes/FakeMainQueue.h"
-#include "core/app/StatusDisplay.h"
 #include "core/feedback/MenuBarFeedback.h"
 #include "core/localization/Localizer.h"
 #include "core/profiles/MemoryPreferences.h"
+#include "support/RecordedStatusDisplay.h"
 
 namespace tactora::testing {
 namespace {
-
-class RecordedStatusDisplay final : public StatusDisplay {
-  public:
-    void setLiveNote(std::string note) override { liveNote = std::move(note); }
-    void setStatusItemTitle(std::string newTitle) override { title = std::move(newTitle); }
-    void setStatusMenuEntry(MenuEntry entry) override { entries.push_back(std::move(entry)); }
-    void refresh() override {}
-
-    std::string liveNote;
-    std::string title = "(never drawn)";
-    std::vector<MenuEntry> entries;
-};
 
 class MenuBarFeedbackTest : public ::testing::Test {
   protected:

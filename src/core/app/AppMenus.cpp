@@ -13,14 +13,12 @@ std::vector<MenuEntry> mainMenuItems() {
     };
 }
 
-std::vector<MenuEntry> statusMenuItems(std::span<const MenuEntry> extras, bool recordingTouches) {
+std::vector<MenuEntry> statusMenuItems(std::span<const MenuEntry> extras) {
     std::vector<MenuEntry> items{
         {L("menu.open"), MenuCommand::show, ""},
         {L("menu.pause"), MenuCommand::pause, ""},
     };
     std::vector<MenuEntry> added(extras.begin(), extras.end());
-    added.push_back({L(recordingTouches ? "menu.trace.stop" : "menu.trace.start"),
-                     MenuCommand::recordTouches, ""});
     std::ranges::stable_sort(added, {}, &MenuEntry::command);
     items.insert(items.end(), added.begin(), added.end());
     items.push_back({"", MenuCommand::separator, ""});

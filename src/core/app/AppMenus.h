@@ -12,9 +12,9 @@ namespace tactora {
 std::vector<MenuEntry> mainMenuItems();
 
 // The status item's menu: open the settings, pause, the `extras` of the parts beside the
-// controller (show gestures in the menu bar, for one) in the order of their commands, record
-// touches (which reads "Stop Recording" while a recording is under way), a separator, exit (⌘Q).
-std::vector<MenuEntry> statusMenuItems(std::span<const MenuEntry> extras, bool recordingTouches);
+// controller (show gestures in the menu bar, record touches) in the order of their commands, a
+// separator, exit (⌘Q).
+std::vector<MenuEntry> statusMenuItems(std::span<const MenuEntry> extras);
 
 // The menu bar's Edit menu, so that text fields take the usual keys: Undo (⌘Z), Redo (⇧⌘Z), a
 // separator, Cut (⌘X), Copy (⌘C), Paste (⌘V), Select All (⌘A).

@@ -37,9 +37,6 @@ GestureDispatchContext Controller::dispatchContext() {
 }
 
 bool Controller::mayDispatch(const GestureDispatchContext& context) {
-    if (trace_.isRecording()) {
-        noteFrontApplication(services_.clock.uptime());
-    }
     return !guardRefusal(context);
 }
 

@@ -20,6 +20,7 @@
 #include "core/app/NamingMode.h"
 #include "core/app/ObserverList.h"
 #include "core/app/Press.h"
+#include "core/app/ProfileSwitcher.h"
 #include "core/app/StatusDisplay.h"
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureDispatchContext.h"
@@ -36,8 +37,6 @@
 #include "core/platform/StatusItemAppearance.h"
 #include "core/platform/TapEvent.h"
 #include "core/profiles/ProfileStore.h"
-#include "core/trace/TraceLine.h"
-#include "core/trace/TraceRecorder.h"
 
 namespace tactora {
 
@@ -48,7 +47,9 @@ namespace tactora {
 //
 // Held by std::shared_ptr: work it schedules holds it weakly and does nothing once it is gone.
 // Every member runs on the main thread, except frameCallback(), which runs on the sensor's.
-class Controller final : public StatusDisplay, public std::enable_shared_from_this<Controller> {
+class Controller final : public StatusDisplay,
+                         public ProfileSwitcher,
+                         public std::enable_shared_from_this<Controller> {
     struct Passkey {
         explicit Passkey() = default;
     };
@@ -202,11 +203,12 @@ class Controller final : public StatusDisplay, public std::enable_shared_from_th
     // --- Profiles ----------------------------------------------------------------------------
 
     // The profile store, created on first use.
-    ProfileStore& profiles();
+    ProfileStore& profiles() override;
+    void switchProfileAutomatically(const Uuid& id) override;
     // The active profile's actions, one per gesture slot.
     const std::vector<ActionIndex>& mapping();
     // Brings the profile pop-up and the gesture rows into line with the store.
-    void refreshProfileUI();
+    void refreshProfileUI() override;
     // An action pop-up's action; `slot` is its tag.
     void changed(std::int64_t slot);
     // The profile pop-up's action.
@@ -249,13 +251,6 @@ class Controller final : public StatusDisplay, public std::enable_shared_from_th
     // Appends the profiles of a file chosen with an open panel; a file that is not such a list
     // changes nothing and is explained in a message.
     void importProfiles();
-
-    // --- Touch traces ------------------------------------------------------------------------
-
-    // The status menu's "Record Touches…" item: starts writing a trace of everything the
-    // controller receives, or stops the one under way. Off until the user chooses it.
-    void recordTouches();
-    bool recordingTouches() const { return trace_.isRecording(); }
 
     // Tells `observer` (not owned; it must stay alive until removed) what the controller
     // receives and decides from now on; see ControllerObserver.
@@ -334,12 +329,6 @@ class Controller final : public StatusDisplay, public std::enable_shared_from_th
     ApplicationsSheet applicationsSheet();
     std::string applicationName(const std::string& bundleID) const;
     void applySwitch(bool byUser);
-    void noteTapEvent(EventType type, const TapEvent& event);
-    void startTrace();
-    void stopTrace();
-    void noteTrace(double now, TraceEvent event);
-    void noteFrontApplication(double now);
-    void noteGestures();
     void showStatusMenu();
 
     ActionIndex actionAt(std::int64_t slot);
@@ -388,10 +377,6 @@ class Controller final : public StatusDisplay, public std::enable_shared_from_th
         std::vector<MenuEntry> menuEntries;
     };
     StatusExtras statusExtras_;
-    TraceRecorder trace_;
-    std::string tracePath_;
-    std::optional<TraceFrontApplication> tracedFront_;
-    std::optional<bool> tracedGestures_;
     ObserverList observers_;
 };
 

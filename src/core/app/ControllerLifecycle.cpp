@@ -38,19 +38,17 @@ void Controller::applicationDidFinishLaunching() {
 }
 
 void Controller::applicationDidBecomeActive() {
-    noteTrace(services_.clock.uptime(), TraceActive{true});
     observers_.activeChanged({.active = true, .time = services_.clock.uptime()});
     dropPendingWork();
 }
 
 void Controller::applicationDidResignActive() {
-    noteTrace(services_.clock.uptime(), TraceActive{false});
     observers_.activeChanged({.active = false, .time = services_.clock.uptime()});
     dropPendingWork();
 }
 
 void Controller::applicationWillTerminate() {
-    stopTrace();
+    observers_.terminating(services_.clock.uptime());
     // The program's pause: the user's choice is kept for the next launch.
     const ScopedCount program(programActions_);
     pause();
@@ -90,7 +88,6 @@ void Controller::toggle() {
         keepOn_.userChose(services_.view.isEnabledOn());
     }
     applySwitch(byUser);
-    noteGestures();
     // A pause from the menu is the user's too.
     observers_.switchChanged({.on = services_.view.isEnabledOn(),
                               .byUser = programActions_ == 0,

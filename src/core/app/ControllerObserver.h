@@ -46,6 +46,8 @@ class ControllerObserver {
     virtual void launched(double /*time*/) {}
     // The status display was brought up to date (every refreshInterval, and after changes).
     virtual void refreshed(double /*time*/) {}
+    // The application is about to quit; told before gestures stop.
+    virtual void terminating(double /*time*/) {}
 
   protected:
     ControllerObserver() = default;

@@ -82,7 +82,6 @@ void Controller::selectProfile() {
     if (!id) {
         return;
     }
-    noteTrace(services_.clock.uptime(), TraceProfileSelected{id->text()});
     switchProfile(*id, ProfileSwitch::chosen);
 }
 
@@ -93,13 +92,17 @@ void Controller::switchProfile(const Uuid& id, ProfileSwitch kind) {
     } else {
         profiles().activate(id);
     }
-    observers_.profileSelected({.id = profiles().activeID().text(),
+    observers_.profileSelected({.id = id.text(),
                                 .chosen = kind == ProfileSwitch::chosen,
                                 .time = services_.clock.uptime()});
     lastGesture_ = "—";
     lastAction_.clear();
     refreshProfileUI();
     refresh();
+}
+
+void Controller::switchProfileAutomatically(const Uuid& id) {
+    switchProfile(id, ProfileSwitch::automatic);
 }
 
 void Controller::deleteProfile() {

@@ -95,10 +95,6 @@ void Controller::receive(const ContactFrame& frame) {
 void Controller::receive(std::span<const Finger> fingers) {
     const double now = services_.clock.uptime();
     lastFrame_ = now;
-    if (trace_.isRecording()) {
-        noteFrontApplication(now);
-        noteTrace(now, TraceFrame{{fingers.begin(), fingers.end()}});
-    }
     // Only an empty frame ends a sequence; the reason is worked out before the state resets.
     const std::optional<DropReason> dropped =
         fingers.empty() ? whyNoTap(gesture_, now) : std::nullopt;

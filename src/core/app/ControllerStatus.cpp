@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/app/AppMenus.h"
 #include "core/app/Controller.h"
 #include "core/localization/Localizer.h"
 
@@ -15,10 +16,6 @@ std::string permissionState(bool granted) {
 }  // namespace
 
 void Controller::refresh() {
-    if (trace_.expired(services_.clock.uptime())) {
-        stopTrace();
-        return;  // stopping refreshes
-    }
     const bool accessibility = services_.permissions.accessibilityTrusted();
     const bool inputMonitoring = services_.permissions.inputMonitoringGranted();
     permissionMemory_.observe(accessibility, inputMonitoring);
@@ -26,9 +23,6 @@ void Controller::refresh() {
     const bool fresh = services_.clock.uptime() - lastFrame_ < liveContact;
     const std::int64_t fingers = fresh ? gesture_.count : 0;
     std::string live = L("live", fingers, lastGesture_, lastAction_);
-    if (trace_.isRecording()) {
-        live += " · " + L("trace.live");
-    }
     if (!statusExtras_.liveNote.empty()) {
         live += " · " + statusExtras_.liveNote;
     }
@@ -37,6 +31,12 @@ void Controller::refresh() {
     refreshLoginItem();
     keepOnAtRefresh(accessibility, inputMonitoring);
     observers_.refreshed(services_.clock.uptime());
+}
+
+void Controller::showStatusMenu() {
+    if (statusItemCreated_) {
+        services_.shell.buildStatusMenu(statusMenuItems(statusExtras_.menuEntries));
+    }
 }
 
 void Controller::setLiveNote(std::string note) {

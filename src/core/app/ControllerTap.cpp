@@ -4,7 +4,6 @@
 #include "core/app/Globals.h"
 #include "core/localization/Localizer.h"
 #include "core/profiles/GestureSlot.h"
-#include "core/trace/TraceFormat.h"
 
 namespace tactora {
 
@@ -64,9 +63,6 @@ EventDisposition Controller::handle(EventType type, TapEvent& event) {
     }
     if (event.integerField(event::sourceUserData) == marker) {
         return EventDisposition::pass;
-    }
-    if (trace_.isRecording()) {
-        noteTapEvent(type, event);
     }
     MouseEventNote* note = observers_.deferMouseEvent();
     if (note == nullptr) {
@@ -137,7 +133,6 @@ void Controller::tapDisabled() {
     services_.view.setEnabledOn(false);
     services_.view.setStatusText(L("error.paused"));
     syncActivity();
-    noteGestures();
     observers_.switchChanged({.on = false, .byUser = false, .time = services_.clock.uptime()});
     if (!keepOn_.enabled() || !keepOn_.wanted()) {
         return;
@@ -145,16 +140,6 @@ void Controller::tapDisabled() {
     if (const std::optional<double> seconds = keepOn_.tapDisabled(services_.clock.uptime())) {
         coolDown(*seconds);
     }
-}
-
-void Controller::noteTapEvent(EventType type, const TapEvent& event) {
-    if (trace::mouseEventWord(type).empty()) {
-        return;
-    }
-    const double now = services_.clock.uptime();
-    const bool fromMouse = isFromMouse(event);
-    noteFrontApplication(now);
-    noteTrace(now, TraceMouseEvent{type, event.integerField(event::buttonNumber), fromMouse});
 }
 
 bool Controller::isFromMouse(const TapEvent& event) {

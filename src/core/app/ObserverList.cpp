@@ -73,6 +73,12 @@ void ObserverList::refreshed(double time) {
     }
 }
 
+void ObserverList::terminating(double time) {
+    for (ControllerObserver* observer : observers_) {
+        observer->terminating(time);
+    }
+}
+
 void ObserverList::tell(const Note& note) {
     if (observers_.empty() || keep(note)) {
         return;

@@ -65,6 +65,7 @@ class ObserverList {
     void activeChanged(const ActiveNote& note);
     void launched(double time);
     void refreshed(double time);
+    void terminating(double time);
 
   private:
     using Note =

@@ -6,6 +6,7 @@
 #include "core/app/ControllerServices.h"
 #include "core/feedback/MenuBarFeedback.h"
 #include "core/liveview/LiveView.h"
+#include "core/recording/TouchRecorder.h"
 
 namespace tactora {
 
@@ -15,6 +16,7 @@ namespace tactora {
 //
 //   liveview/    the settings window's live view of the touch surface
 //   feedback/    the finger count in the menu bar
+//   recording/   the recording of touch traces
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
@@ -31,11 +33,13 @@ class Tactora {
     const std::shared_ptr<Controller>& sharedController() const { return controller_; }
     LiveView& liveView() { return *liveView_; }
     MenuBarFeedback& feedback() { return *feedback_; }
+    TouchRecorder& recorder() { return recorder_; }
 
   private:
     std::shared_ptr<Controller> controller_;
     std::shared_ptr<LiveView> liveView_;
     std::shared_ptr<MenuBarFeedback> feedback_;
+    TouchRecorder recorder_;
 };
 
 }  // namespace tactora
