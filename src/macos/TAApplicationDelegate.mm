@@ -85,7 +85,7 @@
 }
 
 - (void)deleteProfile {
-    _program->controller().deleteProfile();
+    _program->profileFiles().deleteProfile();
 }
 
 - (void)editApplications {
@@ -93,11 +93,11 @@
 }
 
 - (void)importProfiles {
-    _program->controller().importProfiles();
+    _program->profileFiles().importProfiles();
 }
 
 - (void)exportProfiles {
-    _program->controller().exportProfiles();
+    _program->profileFiles().exportProfiles();
 }
 
 - (void)addApplication:(NSString*)bundleID {

@@ -24,6 +24,9 @@ class StoreOnly final : public ProfileSwitcher {
     ProfileStore& profiles() override { return store; }
     void switchProfileAutomatically(const Uuid& id) override { store.activate(id); }
     void refreshProfileUI() override {}
+    void dropPendingWork() override {}
+    Uuid frontmostProfile() override { return store.chosenID(); }
+    void followFrontmost() override {}
 
     ProfileStore store{std::make_shared<MemoryPreferences>(), "Default"};
 };

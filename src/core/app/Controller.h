@@ -217,8 +217,9 @@ class Controller final : public StatusDisplay,
     void renameProfile();
     void duplicateProfile();
     void nameProfile(NamingMode mode);
-    // The profile actions' delete item: asks, then deletes the profile shown in the pop-up.
-    void deleteProfile();
+    void dropPendingWork() override;
+    Uuid frontmostProfile() override;
+    void followFrontmost() override;
 
     // --- Profiles of applications ------------------------------------------------------------
 
@@ -243,14 +244,6 @@ class Controller final : public StatusDisplay,
     // Takes the application away from the sheet's profile.
     void removeApplication(const std::string& bundleID);
     void closeApplications();
-
-    // --- Profile files -----------------------------------------------------------------------
-
-    // Writes every profile to a file chosen with a save panel.
-    void exportProfiles();
-    // Appends the profiles of a file chosen with an open panel; a file that is not such a list
-    // changes nothing and is explained in a message.
-    void importProfiles();
 
     // Tells `observer` (not owned; it must stay alive until removed) what the controller
     // receives and decides from now on; see ControllerObserver.
@@ -315,17 +308,12 @@ class Controller final : public StatusDisplay,
     void observeWake();
     void observeShowRequests();
     void observeFrontmostApplication();
-    void dropPendingWork();
 
     enum class ProfileSwitch { chosen, automatic };
     // The steps of selectProfile() around the store's change: pending actions cancelled, held
     // presses released, recogniser reset, the store's select() (a choice) or activate(), then
     // the status texts and controls refreshed.
     void switchProfile(const Uuid& id, ProfileSwitch kind);
-    // The profile of the application in front, or the user's choice when it has none.
-    Uuid frontmostProfile();
-    // Switches to frontmostProfile() when that is not the active one already.
-    void followFrontmost();
     ApplicationsSheet applicationsSheet();
     std::string applicationName(const std::string& bundleID) const;
     void applySwitch(bool byUser);

@@ -19,6 +19,13 @@ class ProfileSwitcher {
     virtual void switchProfileAutomatically(const Uuid& id) = 0;
     // Brings the profile pop-up and the gesture rows into line with the store.
     virtual void refreshProfileUI() = 0;
+    // Drops pending gesture actions, lets go of held presses and resets the recogniser, so
+    // that nothing half seen completes after a dialog.
+    virtual void dropPendingWork() = 0;
+    // The profile of the application in front, or the user's choice when it has none.
+    virtual Uuid frontmostProfile() = 0;
+    // Switches to frontmostProfile() when that is not the active one already.
+    virtual void followFrontmost() = 0;
 };
 
 }  // namespace tactora

@@ -13,7 +13,8 @@ Tactora::Tactora(ControllerServices services)
       feedback_(
           MenuBarFeedback::create(services.defaults, *controller_, services.clock, services.queue)),
       recorder_(services.traceSink, services.clock, services.workspace, services.view, *controller_,
-                *controller_) {
+                *controller_),
+      profileFiles_(*controller_, services.files, services.dialogs, services.view) {
     // The recorder comes first, so that it writes what comes in before the others act on it.
     controller_->addObserver(recorder_);
     controller_->addObserver(*liveView_);

@@ -6,6 +6,7 @@
 #include "core/app/ControllerServices.h"
 #include "core/feedback/MenuBarFeedback.h"
 #include "core/liveview/LiveView.h"
+#include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
 
 namespace tactora {
@@ -17,6 +18,7 @@ namespace tactora {
 //   liveview/    the settings window's live view of the touch surface
 //   feedback/    the finger count in the menu bar
 //   recording/   the recording of touch traces
+//   profilefiles/ deleting, exporting and importing profiles
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
@@ -34,12 +36,14 @@ class Tactora {
     LiveView& liveView() { return *liveView_; }
     MenuBarFeedback& feedback() { return *feedback_; }
     TouchRecorder& recorder() { return recorder_; }
+    ProfileFileControls& profileFiles() { return profileFiles_; }
 
   private:
     std::shared_ptr<Controller> controller_;
     std::shared_ptr<LiveView> liveView_;
     std::shared_ptr<MenuBarFeedback> feedback_;
     TouchRecorder recorder_;
+    ProfileFileControls profileFiles_;
 };
 
 }  // namespace tactora
