@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -13,6 +14,9 @@ namespace tactora {
 
 // One contact frame as the controller received it; empty when the last finger lifted.
 struct TraceFrame {
+    // As many contacts as the live path passes on from one frame of the surface.
+    static constexpr std::size_t mostContacts = 16;
+
     std::vector<Finger> fingers;
 
     bool operator==(const TraceFrame&) const = default;
