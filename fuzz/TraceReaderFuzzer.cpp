@@ -1,10 +1,15 @@
 // Arbitrary bytes as a touch trace: reading must never crash; whatever it accepts must be
-// written back to text that reads again to the same text, and must replay to an end.
+// written back to text that reads again to the same values and is then written the same way,
+// and must replay to an end.
+#include <bit>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <variant>
+#include <vector>
 
 #include "core/app/Globals.h"
 #include "core/replay/TraceReplay.h"
@@ -19,6 +24,48 @@ std::string written(const std::vector<tactora::TraceLine>& lines) {
         text += tactora::trace::formatLine(line) + "\n";
     }
     return text;
+}
+
+// The same number to the bit, or both not a number (the format has one way to write that).
+bool same(double first, double second) {
+    return (std::isnan(first) && std::isnan(second)) ||
+           std::bit_cast<std::uint64_t>(first) == std::bit_cast<std::uint64_t>(second);
+}
+
+bool sameFrame(const tactora::TraceFrame& first, const tactora::TraceFrame& second) {
+    if (first.fingers.size() != second.fingers.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < first.fingers.size(); ++i) {
+        const tactora::Finger& a = first.fingers[i];
+        const tactora::Finger& b = second.fingers[i];
+        if (a.id != b.id || !same(a.x, b.x) || !same(a.y, b.y)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool sameLines(const std::vector<tactora::TraceLine>& first,
+               const std::vector<tactora::TraceLine>& second) {
+    if (first.size() != second.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < first.size(); ++i) {
+        if (!same(first[i].time, second[i].time)) {
+            return false;
+        }
+        const auto* a = std::get_if<tactora::TraceFrame>(&first[i].event);
+        const auto* b = std::get_if<tactora::TraceFrame>(&second[i].event);
+        if (a != nullptr || b != nullptr) {
+            if (a == nullptr || b == nullptr || !sameFrame(*a, *b)) {
+                return false;
+            }
+        } else if (first[i].event != second[i].event) {
+            return false;
+        }
+    }
+    return true;
 }
 
 }  // namespace
@@ -37,10 +84,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
         return 0;
     }
-    // Positions are read as the sensor's 32-bit values, so a second writing is stable.
+    // What was read is written so that it reads back to the very same values, and a second
+    // writing is the same text as the first.
     const std::string once = written(reading.lines);
     const tactora::TraceReading again = tactora::readTrace(once);
-    if (again.error || written(again.lines) != once) {
+    if (again.error || !sameLines(reading.lines, again.lines) || written(again.lines) != once) {
         std::abort();
     }
     tactora::TraceReplay::run(reading.lines, std::nullopt);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 namespace tactora {
 namespace {
 
@@ -44,6 +46,32 @@ TEST(FingerOrigins, EqualityIgnoresReservedCapacity) {
     }
     used.clear();
     EXPECT_EQ(used, FingerOrigins());
+}
+
+TEST(FingerOrigins, IdsBeyondTheListAreFoundAndComparedAlike) {
+    FingerOrigins origins;
+    const auto count = static_cast<std::int64_t>(FingerOrigins::listed) * 3;
+    for (std::int64_t id = 0; id < count; ++id) {
+        origins.insert(id * 1000, {static_cast<double>(id), 0.5});
+    }
+    EXPECT_EQ(origins.size(), static_cast<std::size_t>(count));
+    EXPECT_EQ(origins.listedSize(), FingerOrigins::listed);
+    for (std::int64_t id = 0; id < count; ++id) {
+        ASSERT_NE(origins.find(id * 1000), nullptr) << id;
+        EXPECT_EQ(origins.find(id * 1000)->x, static_cast<double>(id));
+    }
+    EXPECT_EQ(origins.find(1), nullptr);
+
+    // The same set inserted the other way round holds other ids in its list.
+    FingerOrigins reversed;
+    for (std::int64_t id = count - 1; id >= 0; --id) {
+        reversed.insert(id * 1000, {static_cast<double>(id), 0.5});
+    }
+    EXPECT_EQ(origins, reversed);
+    reversed.clear();
+    EXPECT_TRUE(reversed.empty());
+    EXPECT_EQ(reversed.size(), 0U);
+    EXPECT_EQ(reversed.find(0), nullptr);
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ TEST(GestureAllocation, CounterSeesHeapAllocations) {
 
 TEST(GestureAllocation, FirstSightingOfFingersMayAllocate) {
     GestureState state;
-    const Frame frame = fingers(16, 0.5);
+    const Frame frame = fingers(4, 0.5);
     const AllocationCounter counter;
     state.update(frame, 1.0);
     EXPECT_GT(counter.count(), 0U);

@@ -287,6 +287,52 @@ TEST(GestureState, ResetReturnsToTheInitialState) {
     EXPECT_TRUE(state.origins.empty());
 }
 
+// A frame may carry any ids; one that can't be a tap's keeps no origins, so it costs nothing
+// per id however many there are.
+TEST(GestureState, ACrowdedFrameKeepsNoOriginsWhateverItsIds) {
+    Frame crowd;
+    for (std::int64_t id = 0; id < 100'000; ++id) {
+        crowd.push_back(finger(id * 7919, 0.5));
+    }
+    GestureState state;
+    state.update(crowd, 1.0);
+    EXPECT_TRUE(state.invalid);
+    EXPECT_EQ(state.origins.size(), 0U);
+    state.update(crowd, 1.05);
+    EXPECT_EQ(state.origins.size(), 0U);
+    EXPECT_EQ(state.update(lifted, 1.1), std::nullopt);
+}
+
+TEST(GestureState, AFrameAfterTheCrowdIsNotLookedUpEither) {
+    GestureState state;
+    state.update(fingers(1), 1.0);
+    state.update(fingers(5), 1.02);
+    const std::size_t kept = state.origins.size();
+    state.update(Frame{finger(99, 0.5)}, 1.04);
+    EXPECT_EQ(state.origins.size(), kept);
+    EXPECT_EQ(state.update(lifted, 1.1), std::nullopt);
+}
+
+// Fingers that keep landing with new ids within one sequence: each lookup still compares at most
+// a frame's worth of ids one by one, and every first origin is still kept.
+TEST(GestureState, NewIdsWithoutEndKeepEachLookupShort) {
+    GestureState state;
+    constexpr std::int64_t frames = 10'000;
+    for (std::int64_t frame = 0; frame < frames; ++frame) {
+        const std::int64_t first = frame * 4;
+        state.update(Frame{finger(first, 0.5), finger(first + 1, 0.5), finger(first + 2, 0.5),
+                           finger(first + 3, 0.5)},
+                     1.0);
+        ASSERT_LE(state.origins.listedSize(), FingerOrigins::listed);
+    }
+    EXPECT_EQ(state.origins.size(), static_cast<std::size_t>(frames * 4));
+    EXPECT_FALSE(state.moved);
+    // An id seen long ago is still compared with where it first landed.
+    state.update(Frame{finger(frames * 2, 0.6)}, 1.05);
+    EXPECT_TRUE(state.moved);
+    EXPECT_EQ(state.update(lifted, 1.1), std::nullopt);
+}
+
 TEST(GestureState, ResetDropsAHalfSeenTouch) {
     GestureState state;
     state.update(fingers(2), 1.0);

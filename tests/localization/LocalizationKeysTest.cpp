@@ -68,12 +68,23 @@ TEST(LocalizationKeysTest, OnlyTheBlockedSensorShowsItsErrorCode) {
     }
 }
 
-TEST(LocalizationKeysTest, FortyKeysTakeArgumentsAndTheRestNone) {
+TEST(LocalizationKeysTest, FortySixKeysTakeArgumentsAndTheRestNone) {
     std::size_t withArguments = 0;
     for (const LocalizationKey& key : localizationKeys) {
         withArguments += key.arguments().empty() ? 0 : 1;
     }
-    EXPECT_EQ(withArguments, 40U);
+    EXPECT_EQ(withArguments, 46U);
+}
+
+TEST(LocalizationKeysTest, ARecordingThatCantStartShowsWhatAndWhy) {
+    for (const std::string_view key :
+         {"trace.failed.permission", "trace.failed.full", "trace.failed.readonly"}) {
+        EXPECT_EQ(argumentsOf(key), std::vector{stringArgument}) << key;
+    }
+    EXPECT_EQ(argumentsOf("trace.failed.other"), (std::vector{stringArgument, stringArgument}));
+    EXPECT_EQ(argumentsOf("trace.error.id"), std::vector{integerArgument});
+    EXPECT_EQ(argumentsOf("trace.error.crowded"), std::vector{integerArgument});
+    EXPECT_TRUE(argumentsOf("import.blank").empty());
 }
 
 TEST(LocalizationKeysTest, KeepingGesturesOnShowsSecondsCodesAndExitStatuses) {

@@ -132,6 +132,8 @@ TEST_F(ControllerProfileFilesTest, EveryMalformedFileChangesNothingAndSaysWhatIs
     const std::string list = *encodeProfiles({WorkProfile("Big")});
     const WorkProfile twin("Twin");
     const std::vector<MalformedFile> files{
+        {"blank", " \n", "import.blank"},
+        {"nothing", "", "import.blank"},
         {"not JSON", "name,actions\nVideo,5\n", "import.json"},
         {"cut short", list.substr(0, list.size() / 2), "import.json"},
         {"an object", R"({"profiles":[]})", "import.shape"},

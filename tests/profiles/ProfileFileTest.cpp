@@ -29,8 +29,31 @@ TEST(ProfileFileTest, ExportedListIsReadBack) {
               (std::vector<WorkProfile>{video, audio}));
 }
 
+TEST(ProfileFileTest, AFileWithNothingButWhiteSpaceIsSaidToHoldNoProfiles) {
+    EXPECT_EQ(errorOf(""), ProfileFileError::blank);
+    EXPECT_EQ(errorOf(" "), ProfileFileError::blank);
+    EXPECT_EQ(errorOf("\n\n"), ProfileFileError::blank);
+    EXPECT_EQ(errorOf(" \t\r\n "), ProfileFileError::blank);
+    EXPECT_EQ(profileFileErrorKey(ProfileFileError::blank), std::string("import.blank"));
+}
+
+TEST(ProfileFileTest, WhiteSpaceAroundSomethingElseIsNotBlank) {
+    EXPECT_EQ(errorOf(" x "), ProfileFileError::notJson);
+    EXPECT_EQ(errorOf(std::string(" \0 ", 3)), ProfileFileError::notJson);
+    EXPECT_EQ(errorOf("\f"), ProfileFileError::notJson);
+}
+
+TEST(ProfileFileTest, EveryErrorHasItsOwnSentence) {
+    EXPECT_EQ(profileFileErrorKey(ProfileFileError::tooLarge), std::string("import.large"));
+    EXPECT_EQ(profileFileErrorKey(ProfileFileError::notJson), std::string("import.json"));
+    EXPECT_EQ(profileFileErrorKey(ProfileFileError::wrongShape), std::string("import.shape"));
+    EXPECT_EQ(profileFileErrorKey(ProfileFileError::empty), std::string("import.empty"));
+    EXPECT_EQ(profileFileErrorKey(ProfileFileError::duplicateIDs),
+              std::string("import.duplicates"));
+    EXPECT_EQ(describeProfileFileError(ProfileFileError::blank), "import.blank");
+}
+
 TEST(ProfileFileTest, TextThatIsNotJsonIsSaidToBeSo) {
-    EXPECT_EQ(errorOf(""), ProfileFileError::notJson);
     EXPECT_EQ(errorOf("hello"), ProfileFileError::notJson);
     EXPECT_EQ(errorOf("[{\"id\":"), ProfileFileError::notJson);
     EXPECT_EQ(errorOf("[] trailing"), ProfileFileError::notJson);

@@ -80,6 +80,15 @@ TEST_F(ControllerTracesTest, WithNowhereToWriteNothingStarts) {
     EXPECT_EQ(h.shell.statusMenu.at(3).title, "menu.trace.start");
 }
 
+TEST_F(ControllerTracesTest, ARecordingThatCannotMakeItsFileSaysWhyAndRecordsNothing) {
+    h.traceSink.failWith("/Logs/Tactora", std::errc::permission_denied);
+    h.a().recorder().recordTouches();
+    EXPECT_FALSE(h.a().recorder().isRecording());
+    EXPECT_EQ(h.view.status, "trace.failed.permission");
+    EXPECT_TRUE(h.traceSink.files.empty());
+    EXPECT_EQ(h.shell.statusMenu.at(3).title, "menu.trace.start");
+}
+
 TEST_F(ControllerTracesTest, RecordsWhatTheControllerReceives) {
     h.a().recorder().recordTouches();
     const std::size_t header = traced().size();

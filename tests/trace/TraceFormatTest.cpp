@@ -2,7 +2,9 @@
 
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <string>
+#include <variant>
 
 #include "core/trace/TraceFormat.h"
 #include "core/trace/TraceNumbers.h"
@@ -144,6 +146,64 @@ TEST(TraceReader, NamesTheLineAndTheProblem) {
     EXPECT_EQ(errorOf("1.0 active\n"), (TraceError{2, TraceProblem::onOff}));
     EXPECT_EQ(errorOf("1.0 scroll mouse now\n"), (TraceError{2, TraceProblem::extra}));
     EXPECT_EQ(errorOf("1.0 front none x\n"), (TraceError{2, TraceProblem::extra}));
+}
+
+std::string frameOf(std::size_t contacts) {
+    std::string line = "1.0 frame";
+    for (std::size_t id = 1; id <= contacts; ++id) {
+        line += ' ' + std::to_string(id) + ":0.5,0.5";
+    }
+    return line + '\n';
+}
+
+TEST(TraceReader, AFrameHoldsAsManyContactsAsTheLivePathPassesOn) {
+    const TraceReading full = read(frameOf(TraceFrame::mostContacts));
+    ASSERT_FALSE(full.error);
+    EXPECT_EQ(std::get<TraceFrame>(full.lines.at(0).event).fingers.size(),
+              TraceFrame::mostContacts);
+    EXPECT_EQ(errorOf("# one more\n" + frameOf(TraceFrame::mostContacts + 1)),
+              (TraceError{3, TraceProblem::crowded}));
+    EXPECT_EQ(errorOf(frameOf(1000)), (TraceError{2, TraceProblem::crowded}));
+}
+
+TEST(TraceReader, SaysWhenAContactIdIsBeyondTheSixtyFourBitRange) {
+    EXPECT_FALSE(read("1.0 frame 9223372036854775807:0.5,0.5 -9223372036854775808:0,0\n").error);
+    EXPECT_EQ(errorOf("1.0 frame 9223372036854775808:0.5,0.5\n"),
+              (TraceError{2, TraceProblem::contactID}));
+    EXPECT_EQ(errorOf("1.0 frame 1:0,0 -99999999999999999999999:0.5,0.5\n"),
+              (TraceError{2, TraceProblem::contactID}));
+    EXPECT_EQ(errorOf("1.0 frame 1e3:0.5,0.5\n"), (TraceError{2, TraceProblem::contact}));
+}
+
+// Whatever the reader takes, the writer writes so that it reads back to the same values.
+TEST(TraceReader, ATinyTimeIsWrittenSoThatItReadsBackTheSame) {
+    const std::string tiny = "0.0000000000000000000000002104362927";
+    const TraceReading first = read(tiny + " gestures on\n");
+    ASSERT_FALSE(first.error);
+    const std::string written = trace::formatLine(first.lines.at(0));
+    EXPECT_EQ(written.substr(0, written.find(' ')).find('e'), std::string::npos) << written;
+    const TraceReading again = read(written + '\n');
+    ASSERT_FALSE(again.error) << written;
+    EXPECT_EQ(again.lines, first.lines);
+}
+
+TEST(TraceFormat, EveryTimeTheReaderTakesIsWrittenBackExactly) {
+    for (const char* text : {"0.0000000000000000000000002104362927", "0.1", "0",
+                             "0.00000000000000000000000000000000000000000000000000000000000001",
+                             "9007199254740991", "9007199254740990.25", "4503599627370495.75",
+                             "123456789.123456789123456789", "0000000000000000000000000001.5"}) {
+        const std::optional<double> seconds = trace::parseSeconds(text);
+        ASSERT_TRUE(seconds) << text;
+        const std::string written = trace::formatSeconds(*seconds);
+        EXPECT_EQ(trace::parseSeconds(written), seconds) << text << " became " << written;
+    }
+}
+
+TEST(TraceFormat, TimesEndBelowTwoToTheFiftyThird) {
+    EXPECT_FALSE(trace::parseSeconds("9007199254740992"));
+    EXPECT_FALSE(
+        trace::parseSeconds("100000000000000000000000000000000000000000000000000000000000"));
+    EXPECT_EQ(errorOf("9007199254740992.0 frame\n"), (TraceError{2, TraceProblem::time}));
 }
 
 }  // namespace

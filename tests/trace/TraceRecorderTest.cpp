@@ -13,7 +13,7 @@ namespace {
 // Counts what it is given instead of keeping it.
 class CountingSink final : public TraceSink {
   public:
-    std::optional<std::string> begin() override { return "trace"; }
+    TraceSinkStart begin() override { return {"trace", {}}; }
     void write(std::string text) override {
         bytes += text.size();
         ++writes;

@@ -25,10 +25,10 @@ struct GestureState {
     std::int64_t count = 0;       // fingers in the most recent frame
     std::optional<double> began;  // time of the sequence's first non-empty frame
     std::int64_t peak = 0;        // largest finger count of the sequence
-    FingerOrigins origins;
-    bool moved = false;    // some finger went farther than the tolerance from its origin
-    bool clicked = false;  // a physical click happened during the sequence
-    bool invalid = false;  // more than four fingers were down at some moment
+    FingerOrigins origins;        // kept only while the sequence may still be a tap
+    bool moved = false;           // some finger went farther than the tolerance from its origin
+    bool clicked = false;         // a physical click happened during the sequence
+    bool invalid = false;         // more than four fingers were down at some moment
 
     // Feeds one frame, stamped `time` seconds on a monotonic clock; time stamps never decrease.
     // Returns the tap's finger count (1...4) when this (empty) frame ends a sequence that
@@ -85,6 +85,11 @@ inline std::optional<std::int64_t> GestureState::update(std::span<const Finger> 
     peak = std::max(peak, count);
     if (count > maxFingers) {
         invalid = true;
+    }
+    // Once the sequence can't be a tap, where its fingers go no longer matters: a crowded frame,
+    // however many ids it carries, then costs nothing more.
+    if (invalid || moved) {
+        return std::nullopt;
     }
     for (const Finger& finger : frame) {
         const FingerOrigins::Origin* origin = origins.find(finger.id);

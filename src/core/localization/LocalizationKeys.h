@@ -136,6 +136,7 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("import.json"),
     LocalizationKey("import.shape"),
     LocalizationKey("import.empty"),
+    LocalizationKey("import.blank"),
     LocalizationKey("import.duplicates"),
     LocalizationKey("import.done", {integerArgument}),
     // Touch traces: the status menu's item, the live line's note, where a recording went.
@@ -145,6 +146,11 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("trace.started", {stringArgument}),
     LocalizationKey("trace.saved", {stringArgument}),
     LocalizationKey("trace.failed"),
+    // Why a recording could not start: what could not be made, and the system's own words.
+    LocalizationKey("trace.failed.permission", {stringArgument}),
+    LocalizationKey("trace.failed.full", {stringArgument}),
+    LocalizationKey("trace.failed.readonly", {stringArgument}),
+    LocalizationKey("trace.failed.other", {stringArgument, stringArgument}),
     // What is wrong with a trace that can't be replayed; each gets the line's number.
     LocalizationKey("trace.error.header", {integerArgument}),
     LocalizationKey("trace.error.version", {integerArgument}),
@@ -152,6 +158,8 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("trace.error.back", {integerArgument}),
     LocalizationKey("trace.error.event", {integerArgument}),
     LocalizationKey("trace.error.contact", {integerArgument}),
+    LocalizationKey("trace.error.id", {integerArgument}),
+    LocalizationKey("trace.error.crowded", {integerArgument}),
     LocalizationKey("trace.error.button", {integerArgument}),
     LocalizationKey("trace.error.source", {integerArgument}),
     LocalizationKey("trace.error.profile", {integerArgument}),

@@ -11,26 +11,6 @@
 
 namespace tactora {
 
-namespace {
-
-const char* problemKey(ProfileFileError error) {
-    switch (error) {
-        case ProfileFileError::tooLarge:
-            return "import.large";
-        case ProfileFileError::notJson:
-            return "import.json";
-        case ProfileFileError::wrongShape:
-            break;
-        case ProfileFileError::empty:
-            return "import.empty";
-        case ProfileFileError::duplicateIDs:
-            return "import.duplicates";
-    }
-    return "import.shape";
-}
-
-}  // namespace
-
 ProfileFileControls::ProfileFileControls(ProfileSwitcher& switcher, ProfileFiles& files,
                                          Dialogs& dialogs, SettingsView& view)
     : switcher_(switcher), files_(files), dialogs_(dialogs), view_(view) {}
@@ -87,7 +67,7 @@ void ProfileFileControls::importProfiles() {
     }
     auto outcome = readProfileFile(*bytes);
     if (const auto* error = std::get_if<ProfileFileError>(&outcome)) {
-        dialogs_.showMessage({L("import.failed"), L(problemKey(*error))});
+        dialogs_.showMessage({L("import.failed"), describeProfileFileError(*error)});
         return;
     }
     const std::size_t added =

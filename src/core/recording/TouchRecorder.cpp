@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/localization/Localizer.h"
+#include "core/trace/TraceFiles.h"
 #include "core/trace/TraceFormat.h"
 
 namespace tactora {
@@ -27,12 +28,12 @@ void TouchRecorder::recordTouches() {
 }
 
 void TouchRecorder::start() {
-    const std::optional<std::string> path = sink_.begin();
-    if (!path) {
-        view_.setStatusText(L("trace.failed"));
+    const TraceSinkStart started = sink_.begin();
+    if (!started.path) {
+        view_.setStatusText(describeTraceSinkFailure(started.failure));
         return;
     }
-    path_ = *path;
+    path_ = *started.path;
     const double now = clock_.uptime();
     trace_.start(sink_, now);
     // The state a replay must start from, so that it decides as this program does.

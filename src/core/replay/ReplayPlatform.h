@@ -220,7 +220,7 @@ class PermissionResetTool final : public tactora::PermissionResetTool {
 // A replay records nothing.
 class TraceSink final : public tactora::TraceSink {
   public:
-    std::optional<std::string> begin() override { return std::nullopt; }
+    TraceSinkStart begin() override { return {}; }
     void write(std::string /*text*/) override {}
     void end() override {}
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -7,12 +8,16 @@
 #include <vector>
 
 #include "core/gestures/Finger.h"
+#include "core/platform/ContactFrame.h"
 #include "core/platform/EventTypes.h"
 
 namespace tactora {
 
 // One contact frame as the controller received it; empty when the last finger lifted.
 struct TraceFrame {
+    // As many contacts as the live path passes on from one frame of the surface.
+    static constexpr std::size_t mostContacts = ContactFrame::capacity;
+
     std::vector<Finger> fingers;
 
     bool operator==(const TraceFrame&) const = default;

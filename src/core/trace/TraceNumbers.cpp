@@ -13,9 +13,11 @@ namespace tactora::trace {
 
 namespace {
 
-constexpr int maxSecondsDecimals = 17;
 constexpr int maxPositionDigits = 9;  // enough for every float to read back exactly
 constexpr std::size_t longestNumber = 64;
+// A number the reader takes has at most this many decimals, and its value has a fixed-point form
+// with no more decimals than that which reads back to it: the writer searches that far.
+constexpr int maxSecondsDecimals = static_cast<int>(longestNumber) - 2;
 
 bool isDigit(char c) {
     return std::isdigit(static_cast<unsigned char>(c)) != 0;
@@ -121,7 +123,7 @@ std::optional<double> parseSeconds(std::string_view text) {
         return std::nullopt;
     }
     const double seconds = std::strtod(buffer->data(), nullptr);
-    if (!std::isfinite(seconds)) {
+    if (!std::isfinite(seconds) || seconds >= latestSeconds) {
         return std::nullopt;
     }
     return seconds;

@@ -22,6 +22,10 @@ const char* keyOf(TraceProblem problem) {
             return "trace.error.event";
         case TraceProblem::contact:
             return "trace.error.contact";
+        case TraceProblem::contactID:
+            return "trace.error.id";
+        case TraceProblem::crowded:
+            return "trace.error.crowded";
         case TraceProblem::button:
             return "trace.error.button";
         case TraceProblem::source:

@@ -38,15 +38,33 @@ class Words {
     std::string_view rest_;
 };
 
+// A whole number written as an optional minus sign and digits, or why it isn't one.
 template <typename Integer>
-std::optional<Integer> parseInteger(std::string_view text) {
+struct ParsedInteger {
+    std::optional<Integer> value;
+    bool outOfRange = false;  // well written, but beyond what Integer holds
+};
+
+template <typename Integer>
+ParsedInteger<Integer> readInteger(std::string_view text) {
     Integer value{};
     const char* end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (text.empty() || error != std::errc() || stop != end) {
-        return std::nullopt;
+    if (text.empty() || stop != end) {
+        return {};
     }
-    return value;
+    if (error == std::errc::result_out_of_range) {
+        return {std::nullopt, true};
+    }
+    if (error != std::errc()) {
+        return {};
+    }
+    return {value};
+}
+
+template <typename Integer>
+std::optional<Integer> parseInteger(std::string_view text) {
+    return readInteger<Integer>(text).value;
 }
 
 // Either the event or the problem with it.
@@ -59,29 +77,41 @@ Parsed failed(TraceProblem problem) {
     return {std::nullopt, problem};
 }
 
-std::optional<Finger> parseContact(std::string_view text) {
+// One contact, or what is wrong with it.
+struct ParsedContact {
+    std::optional<Finger> finger;
+    TraceProblem problem = TraceProblem::contact;
+};
+
+ParsedContact parseContact(std::string_view text) {
     const std::size_t colon = text.find(':');
     const std::size_t comma = text.find(',');
     if (colon == std::string_view::npos || comma == std::string_view::npos || comma < colon) {
-        return std::nullopt;
+        return {};
     }
-    const auto id = parseInteger<std::int64_t>(text.substr(0, colon));
+    const ParsedInteger<std::int64_t> id = readInteger<std::int64_t>(text.substr(0, colon));
+    if (id.outOfRange) {
+        return {std::nullopt, TraceProblem::contactID};
+    }
     const auto x = trace::parsePosition(text.substr(colon + 1, comma - colon - 1));
     const auto y = trace::parsePosition(text.substr(comma + 1));
-    if (!id || !x || !y) {
-        return std::nullopt;
+    if (!id.value || !x || !y) {
+        return {};
     }
-    return Finger(*id, static_cast<double>(*x), static_cast<double>(*y));
+    return {Finger(*id.value, static_cast<double>(*x), static_cast<double>(*y))};
 }
 
 Parsed parseFrame(Words& words) {
     TraceFrame frame;
-    while (const auto contact = words.next()) {
-        const std::optional<Finger> finger = parseContact(*contact);
-        if (!finger) {
-            return failed(TraceProblem::contact);
+    while (const auto word = words.next()) {
+        const ParsedContact contact = parseContact(*word);
+        if (!contact.finger) {
+            return failed(contact.problem);
         }
-        frame.fingers.push_back(*finger);
+        if (frame.fingers.size() == TraceFrame::mostContacts) {
+            return failed(TraceProblem::crowded);
+        }
+        frame.fingers.push_back(*contact.finger);
     }
     return {frame};
 }
