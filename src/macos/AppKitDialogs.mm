@@ -33,7 +33,35 @@ NSTextField* makeRecordingLabel(const std::string& text) {
     return label;
 }
 
+// An alert gives Escape to a button only when its title is the English "Cancel"; in every
+// other language the button has to be given it.
+void cancelWithEscape(NSButton* cancel) {
+    cancel.keyEquivalent = @"\033";
+}
+
 }  // namespace
+
+NSAlert* makeNamingAlert(const NamingDialogTexts& texts) {
+    NSAlert* alert = makeAlert(texts.message, texts.informative);
+    [alert addButtonWithTitle:toNSString(texts.saveButton)];
+    cancelWithEscape([alert addButtonWithTitle:toNSString(texts.cancelButton)]);
+    NSTextField* field = [[NSTextField alloc] initWithFrame:NSMakeRect(0, 0, 320, 24)];
+    field.stringValue = toNSString(texts.initialText);
+    alert.accessoryView = field;
+    alert.window.initialFirstResponder = field;
+    return alert;
+}
+
+NSAlert* makeConfirmationAlert(const ConfirmationTexts& texts) {
+    NSAlert* alert = makeAlert(texts.message, texts.informative);
+    alert.alertStyle = NSAlertStyleWarning;
+    NSButton* confirm = [alert addButtonWithTitle:toNSString(texts.confirmButton)];
+    confirm.hasDestructiveAction = YES;
+    // Neither Return nor Enter confirms: a destructive step takes a deliberate click.
+    confirm.keyEquivalent = @"";
+    cancelWithEscape([alert addButtonWithTitle:toNSString(texts.cancelButton)]);
+    return alert;
+}
 
 bool AppKitDialogs::runRecordingDialog(const RecordingDialogTexts& texts,
                                        const RecordingKeyHandler& onKey) {
@@ -55,31 +83,15 @@ bool AppKitDialogs::runRecordingDialog(const RecordingDialogTexts& texts,
 }
 
 std::optional<std::string> AppKitDialogs::runNamingDialog(const NamingDialogTexts& texts) {
-    NSAlert* alert = makeAlert(texts.message, texts.informative);
-    [alert addButtonWithTitle:toNSString(texts.saveButton)];
-    // An alert gives Escape to a button only when its title is the English "Cancel".
-    NSButton* cancel = [alert addButtonWithTitle:toNSString(texts.cancelButton)];
-    cancel.keyEquivalent = @"\033";
-    NSTextField* field = [[NSTextField alloc] initWithFrame:NSMakeRect(0, 0, 320, 24)];
-    field.stringValue = toNSString(texts.initialText);
-    alert.accessoryView = field;
-    alert.window.initialFirstResponder = field;
+    NSAlert* alert = makeNamingAlert(texts);
     if ([alert runModal] != NSAlertFirstButtonReturn) {
         return std::nullopt;
     }
-    return toStdString(field.stringValue);
+    return toStdString(static_cast<NSTextField*>(alert.accessoryView).stringValue);
 }
 
 bool AppKitDialogs::runConfirmation(const ConfirmationTexts& texts) {
-    NSAlert* alert = makeAlert(texts.message, texts.informative);
-    alert.alertStyle = NSAlertStyleWarning;
-    NSButton* confirm = [alert addButtonWithTitle:toNSString(texts.confirmButton)];
-    confirm.hasDestructiveAction = YES;
-    // Return answers Cancel: a destructive step takes a deliberate click.
-    confirm.keyEquivalent = @"";
-    NSButton* cancel = [alert addButtonWithTitle:toNSString(texts.cancelButton)];
-    cancel.keyEquivalent = @"\r";
-    return [alert runModal] == NSAlertFirstButtonReturn;
+    return [makeConfirmationAlert(texts) runModal] == NSAlertFirstButtonReturn;
 }
 
 void AppKitDialogs::showMessage(const MessageTexts& texts) {

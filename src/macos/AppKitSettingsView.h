@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/platform/SettingsView.h"
+#include "core/platform/StatusItemAppearance.h"
 #import "macos/TASettingsControls.h"
 
 namespace tactora::macos {
@@ -44,6 +45,8 @@ class AppKitSettingsView final : public SettingsView {
 
   private:
     TASettingsControls* __strong controls_;
+    // What the status item shows, so that an unchanged appearance makes no new image.
+    std::optional<StatusItemAppearance> statusItemShown_;
 };
 
 }  // namespace tactora::macos

@@ -1,19 +1,31 @@
 #include "macos/AppKitSettingsView.h"
 
+#include "macos/ControlUpdates.h"
 #include "macos/StringConversion.h"
 
 namespace tactora::macos {
 
+namespace {
+
+NSControlStateValue stateFor(bool on) {
+    return on ? NSControlStateValueOn : NSControlStateValueOff;
+}
+
+}  // namespace
+
+// Every setter compares before it assigns (ControlUpdates.h): the refresh timer repeats the
+// controller's values five times a second while the window is shown.
+
 void AppKitSettingsView::setStatusText(const std::string& text) {
-    controls_.status.stringValue = toNSString(text);
+    updateStringValue(controls_.status, toNSString(text));
 }
 
 void AppKitSettingsView::setPermissionText(const std::string& text) {
-    controls_.permission.stringValue = toNSString(text);
+    updateStringValue(controls_.permission, toNSString(text));
 }
 
 void AppKitSettingsView::setLiveText(const std::string& text) {
-    controls_.live.stringValue = toNSString(text);
+    updateStringValue(controls_.live, toNSString(text));
 }
 
 bool AppKitSettingsView::isEnabledOn() const {
@@ -21,7 +33,7 @@ bool AppKitSettingsView::isEnabledOn() const {
 }
 
 void AppKitSettingsView::setEnabledOn(bool on) {
-    controls_.enabled.state = on ? NSControlStateValueOn : NSControlStateValueOff;
+    updateState(controls_.enabled, stateFor(on));
 }
 
 bool AppKitSettingsView::isKeepOnChecked() const {
@@ -29,7 +41,7 @@ bool AppKitSettingsView::isKeepOnChecked() const {
 }
 
 void AppKitSettingsView::setKeepOnChecked(bool on) {
-    controls_.keepOn.state = on ? NSControlStateValueOn : NSControlStateValueOff;
+    updateState(controls_.keepOn, stateFor(on));
 }
 
 bool AppKitSettingsView::isLoginItemChecked() const {
@@ -37,20 +49,15 @@ bool AppKitSettingsView::isLoginItemChecked() const {
 }
 
 void AppKitSettingsView::setLoginItemChecked(bool on) {
-    controls_.loginItem.state = on ? NSControlStateValueOn : NSControlStateValueOff;
+    updateState(controls_.loginItem, stateFor(on));
 }
 
 void AppKitSettingsView::setResetPermissionsVisible(bool visible) {
-    // Compared first: the refresh timer calls this five times a second.
-    if (controls_.resetPermissions.hidden == visible) {
-        controls_.resetPermissions.hidden = !visible;
-    }
+    updateHidden(controls_.resetPermissions, visible ? NO : YES);
 }
 
 void AppKitSettingsView::setLoginItemsSettingsVisible(bool visible) {
-    if (controls_.openLoginItems.hidden == visible) {
-        controls_.openLoginItems.hidden = !visible;
-    }
+    updateHidden(controls_.openLoginItems, visible ? NO : YES);
 }
 
 void AppKitSettingsView::setProfileItems(const std::vector<ProfileMenuItem>& items) {
@@ -80,7 +87,10 @@ std::optional<std::string> AppKitSettingsView::selectedProfileID() const {
 }
 
 void AppKitSettingsView::setDeleteProfileEnabled(bool enabled) {
-    controls_.deleteProfileItem.enabled = enabled;
+    const BOOL wanted = enabled ? YES : NO;
+    if (controls_.deleteProfileItem.enabled != wanted) {
+        controls_.deleteProfileItem.enabled = wanted;
+    }
 }
 
 void AppKitSettingsView::showApplications(const ApplicationsSheet& sheet) {
@@ -107,14 +117,14 @@ void AppKitSettingsView::setRecordButton(std::size_t slot, const RecordButtonSta
         return;
     }
     NSButton* button = controls_.recordButtons[slot];
-    button.enabled = state.enabled;
-    button.title = toNSString(state.title);
-    button.toolTip = toNSString(state.toolTip);
+    updateEnabled(button, state.enabled ? YES : NO);
+    updateTitle(button, toNSString(state.title));
+    updateToolTip(button, toNSString(state.toolTip));
 }
 
 void AppKitSettingsView::setStatusItem(const StatusItemAppearance& appearance) {
     NSStatusBarButton* button = controls_.statusItem.button;
-    if (button == nil) {
+    if (button == nil || appearance == statusItemShown_) {
         return;
     }
     NSImage* image =
@@ -123,11 +133,11 @@ void AppKitSettingsView::setStatusItem(const StatusItemAppearance& appearance) {
     [image setTemplate:YES];
     button.image = image;
     button.title = toNSString(appearance.title);
-    if (!appearance.title.empty()) {
-        // The feedback's finger count goes beside the symbol, not in its place.
-        button.imagePosition = NSImageLeading;
-    }
-    button.toolTip = toNSString(appearance.toolTip);
+    // The feedback's finger count goes beside the symbol, not in its place; without it the
+    // button is the symbol alone again, with no room kept for a title.
+    button.imagePosition = appearance.title.empty() ? NSImageOnly : NSImageLeading;
+    updateToolTip(button, toNSString(appearance.toolTip));
+    statusItemShown_ = appearance;
 }
 
 }  // namespace tactora::macos

@@ -1,5 +1,7 @@
 #include "macos/AppKitShell.h"
 
+#include <algorithm>
+
 #include "macos/BundledIcon.h"
 #include "macos/MenuBuilder.h"
 #include "macos/SettingsWindowBuilder.h"
@@ -32,6 +34,11 @@ void AppKitShell::addMainMenu(const std::string& title, const std::vector<MenuEn
     NSMenuItem* item = [[NSMenuItem alloc] init];
     item.submenu = menu;
     [NSApp.mainMenu addItem:item];
+    const bool windowCommands = std::ranges::any_of(
+        items, [](const MenuEntry& entry) { return entry.command == MenuCommand::minimize; });
+    if (windowCommands) {
+        NSApp.windowsMenu = menu;
+    }
 }
 
 void AppKitShell::buildWindow(const SettingsWindowTexts& texts) {

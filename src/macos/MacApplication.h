@@ -30,10 +30,15 @@ namespace tactora::macos {
 // The interactive application: the AppKit implementations of the program's services, the
 // program itself (the controller and the parts beside it) and the delegate that forwards to it.
 // Made after the shared application.
+//
+// Made once and never destroyed. The sensor's thread reaches the controller, and through it the
+// main queue here, with every frame; stopping the multitouch framework does not promise that a
+// frame it is delivering has returned, so nothing that a frame touches may go away before the
+// process does. AppKit ends the process with exit() after applicationWillTerminate (which stops
+// the sensor), so the application simply lives as long as the process.
 class MacApplication {
   public:
     MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defaults);
-    ~MacApplication();
 
     MacApplication(const MacApplication&) = delete;
     MacApplication& operator=(const MacApplication&) = delete;
@@ -42,7 +47,6 @@ class MacApplication {
     void run();
 
   private:
-    Sensor& sensor_;
     UptimeClock clock_;
     DispatchMainQueue queue_;
     AppKitWorkspace workspace_;

@@ -14,8 +14,7 @@
 namespace tactora::macos {
 
 MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defaults)
-    : sensor_(sensor),
-      tap_(&forwardTapEvent),
+    : tap_(&forwardTapEvent),
       controls_([[TASettingsControls alloc]
           initWithEnableTitle:toNSString(settingsWindowTexts().enableSwitch)]),
       delegate_([[TAApplicationDelegate alloc] init]),
@@ -46,13 +45,8 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
     [delegate_ attachProgram:program_.get()];
 }
 
-MacApplication::~MacApplication() {
-    // The sensor's thread reaches the controller through the global; it must be quiet first.
-    sensor_.stop();
-    clearApplicationController();
-}
-
 void MacApplication::run() {
+    // Never cleared: see the class's comment.
     setApplicationController(program_->sharedController());
     // The application keeps its delegate weakly; this object keeps it alive.
     NSApp.delegate = delegate_;

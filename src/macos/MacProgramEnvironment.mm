@@ -31,8 +31,10 @@ std::optional<std::vector<std::int64_t>> MacProgramEnvironment::appIconPixelWidt
 void MacProgramEnvironment::runApplication() {
     // AppKit's controls need the shared application to exist before they are made.
     [NSApplication sharedApplication];
-    MacApplication application(sensor_, preferences_.standard());
-    application.run();
+    // Deliberately never deleted (see MacApplication): the sensor's thread may still be in a
+    // frame callback when the process ends.
+    auto* const application = new MacApplication(sensor_, preferences_.standard());
+    application->run();
 }
 
 }  // namespace tactora::macos

@@ -34,17 +34,44 @@ SEL selectorFor(MenuCommand command) {
             return @selector(performClose:);
         case MenuCommand::recordTouches:
             return @selector(recordTouches);
+        case MenuCommand::about:
+            return @selector(orderFrontStandardAboutPanel:);
+        case MenuCommand::hide:
+            return @selector(hide:);
+        case MenuCommand::hideOthers:
+            return @selector(hideOtherApplications:);
+        case MenuCommand::showAll:
+            return @selector(unhideAllApplications:);
+        case MenuCommand::minimize:
+            return @selector(performMiniaturize:);
+        case MenuCommand::bringAllToFront:
+            return @selector(arrangeInFront:);
         case MenuCommand::separator:
             break;
     }
     return nullptr;
 }
 
-// The controller's own commands; the others travel the responder chain from the focus.
+// The controller's own commands.
 bool goesToController(MenuCommand command) {
     return command == MenuCommand::show || command == MenuCommand::pause ||
            command == MenuCommand::quit || command == MenuCommand::toggleMenuBarFeedback ||
            command == MenuCommand::recordTouches;
+}
+
+// The shared application's own commands, which it answers whichever window is in front.
+bool goesToApplication(MenuCommand command) {
+    return command == MenuCommand::about || command == MenuCommand::hide ||
+           command == MenuCommand::hideOthers || command == MenuCommand::showAll ||
+           command == MenuCommand::bringAllToFront;
+}
+
+// Every other command travels the responder chain from the focus.
+id targetFor(MenuCommand command, TAApplicationDelegate* controller) {
+    if (goesToController(command)) {
+        return controller;
+    }
+    return goesToApplication(command) ? NSApp : nil;
 }
 
 }  // namespace
@@ -64,8 +91,11 @@ NSMenuItem* MenuBuilder::item(const MenuEntry& entry) const {
     NSMenuItem* built = [[NSMenuItem alloc] initWithTitle:toNSString(entry.title)
                                                    action:selectorFor(entry.command)
                                             keyEquivalent:toNSString(entry.keyEquivalent)];
-    built.target = goesToController(entry.command) ? target_ : nil;
+    built.target = targetFor(entry.command, target_);
     built.state = entry.checked ? NSControlStateValueOn : NSControlStateValueOff;
+    if (entry.withOption) {
+        built.keyEquivalentModifierMask = NSEventModifierFlagCommand | NSEventModifierFlagOption;
+    }
     return built;
 }
 

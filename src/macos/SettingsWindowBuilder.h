@@ -32,9 +32,11 @@ class SettingsWindowBuilder {
     void add(NSView* view);
     // Places one of the controller's lines, wrapping to the column.
     void addWrapping(NSTextField* label);
-    // A wrapping label in the secondary colour.
+    // A wrapping label in the secondary colour, as wide as the column or `width`.
     void addNote(const std::string& text, CGFloat fontSize);
+    static NSTextField* makeNote(const std::string& text, CGFloat fontSize, CGFloat width);
     void addHeader(const std::string& hero);
+    void addResetPermissions(const SettingsWindowTexts& texts);
     void addPermissionRow(const SettingsWindowTexts& texts);
     void addProfileRow(const SettingsWindowTexts& texts);
     NSPopUpButton* makeProfileActions(const SettingsWindowTexts& texts);
@@ -43,8 +45,7 @@ class SettingsWindowBuilder {
     // Gives a control made with the controls its title and its action.
     void wire(NSButton* button, const std::string& title, SEL action);
     void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);
-    // Puts the live view in the free strip beside the gesture rows, outside the column.
-    void placeSurface(NSWindow* window);
+    void addLiveArea(const SettingsWindowTexts& texts);
     NSPopUpButton* makeActionMenu(NSInteger slot, const std::vector<std::string>& names);
     NSButton* makeRecordButton(NSInteger slot, const std::string& title);
     NSButton* makeButton(std::string_view title, SEL action);
@@ -52,9 +53,6 @@ class SettingsWindowBuilder {
     TASettingsControls* __strong controls_;
     TAApplicationDelegate* __strong target_;
     NSStackView* __strong column_;
-    // The first and last views of the gesture table, which the live view runs beside.
-    NSView* __strong tableTop_;
-    NSView* __strong tableBottom_;
 };
 
 }  // namespace tactora::macos

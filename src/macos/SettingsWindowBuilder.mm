@@ -22,8 +22,12 @@ constexpr CGFloat fingerWidth = 100;
 constexpr CGFloat narrowestLabel = 80;
 // Buttons give way (their titles are cut short) only after the labels have wrapped.
 const NSLayoutPriority buttonCompressionResistance = NSLayoutPriorityDefaultLow + 100;
-// The gesture rows are 671 points wide, leaving 63 of the column free beside them.
-constexpr CGFloat surfaceWidth = 52;
+// The live view, beside the lines under the gesture table: a picture of the surface as tall as
+// the view, 60 points wide, and the texts beside it, wide enough for the longest action name
+// of every language on one line.
+constexpr CGFloat surfaceWidth = 270;
+constexpr CGFloat surfaceHeight = 104;
+constexpr CGFloat surfaceGap = 16;
 
 void fixWidth(NSView* view, CGFloat width) {
     [view.widthAnchor constraintEqualToConstant:width].active = YES;
@@ -67,17 +71,14 @@ NSWindow* SettingsWindowBuilder::build(const SettingsWindowTexts& texts) {
     addWrapping(controls_.status);
     controls_.permission.font = [NSFont systemFontOfSize:12];
     addWrapping(controls_.permission);
+    addResetPermissions(texts);
     addPermissionRow(texts);
     addProfileRow(texts);
     addSwitchRow(texts);
     for (const GestureRow& row : texts.gestureRows) {
         addGestureRow(row, texts);
     }
-    placeSurface(window);
-    addNote(texts.recordHint, 11);
-    controls_.live.font = [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightRegular];
-    addWrapping(controls_.live);
-    add(makeButton(texts.testDesktop, @selector(testDesktop)));
+    addLiveArea(texts);
     addNote(texts.footer, 11);
     return window;
 }
@@ -101,6 +102,8 @@ void SettingsWindowBuilder::makeColumn(NSWindow* window) {
     column_.orientation = NSUserInterfaceLayoutOrientationVertical;
     column_.alignment = NSLayoutAttributeLeading;
     column_.spacing = 10;
+    // A hidden row (the repair buttons while nothing needs repairing) takes no room.
+    column_.detachesHiddenViews = YES;
     column_.translatesAutoresizingMaskIntoConstraints = NO;
     NSView* content = window.contentView;
     [content addSubview:column_];
@@ -131,9 +134,14 @@ void SettingsWindowBuilder::addWrapping(NSTextField* label) {
 }
 
 void SettingsWindowBuilder::addNote(const std::string& text, CGFloat fontSize) {
-    NSTextField* note = makeWrappingLabel(text, [NSFont systemFontOfSize:fontSize], columnWidth);
+    add(makeNote(text, fontSize, columnWidth));
+}
+
+NSTextField* SettingsWindowBuilder::makeNote(const std::string& text, CGFloat fontSize,
+                                             CGFloat width) {
+    NSTextField* note = makeWrappingLabel(text, [NSFont systemFontOfSize:fontSize], width);
     note.textColor = NSColor.secondaryLabelColor;
-    add(note);
+    return note;
 }
 
 void SettingsWindowBuilder::addHeader(const std::string& hero) {
@@ -148,8 +156,15 @@ void SettingsWindowBuilder::addHeader(const std::string& hero) {
     add(header);
 }
 
-// The three permission buttons, then the two that repair things, hidden (and so taking no room
-// in the row) until the controller shows them.
+// Right under the permission line it explains, hidden (and so taking no room in the column)
+// until the controller shows it.
+void SettingsWindowBuilder::addResetPermissions(const SettingsWindowTexts& texts) {
+    wire(controls_.resetPermissions, texts.resetPermissions, @selector(resetPermissions));
+    controls_.resetPermissions.bezelStyle = NSBezelStylePush;
+    letGiveWay(controls_.resetPermissions);
+    add(controls_.resetPermissions);
+}
+
 void SettingsWindowBuilder::addPermissionRow(const SettingsWindowTexts& texts) {
     NSMutableArray<NSView*>* views = [NSMutableArray array];
     for (const TitledAction& button : {TitledAction{texts.allowAccessibility, @selector(access)},
@@ -157,17 +172,7 @@ void SettingsWindowBuilder::addPermissionRow(const SettingsWindowTexts& texts) {
                                        TitledAction{texts.reconnect, @selector(reconnect)}}) {
         [views addObject:makeButton(button.title, button.action)];
     }
-    wire(controls_.resetPermissions, texts.resetPermissions, @selector(resetPermissions));
-    controls_.resetPermissions.bezelStyle = NSBezelStylePush;
-    letGiveWay(controls_.resetPermissions);
-    [views addObject:controls_.resetPermissions];
-    wire(controls_.openLoginItems, texts.openLoginItems, @selector(openLoginItems));
-    controls_.openLoginItems.bezelStyle = NSBezelStylePush;
-    letGiveWay(controls_.openLoginItems);
-    [views addObject:controls_.openLoginItems];
-    NSStackView* row = makeRow(views, 8);
-    row.detachesHiddenViews = YES;
-    add(row);
+    add(makeRow(views, 8));
 }
 
 void SettingsWindowBuilder::addProfileRow(const SettingsWindowTexts& texts) {
@@ -220,16 +225,25 @@ NSMenuItem* SettingsWindowBuilder::makeMenuItem(std::string_view title, SEL acti
 }
 
 // The master switch keeps its place in the column; the two choices that keep gestures going
-// sit on its line.
+// sit on its line, and the button that opens the system's login items beside the one it serves,
+// hidden until the controller shows it.
 void SettingsWindowBuilder::addSwitchRow(const SettingsWindowTexts& texts) {
     controls_.enabled.target = target_;
     controls_.enabled.action = @selector(toggle);
     wire(controls_.keepOn, texts.keepGesturesOn, @selector(toggleKeepOn));
     wire(controls_.loginItem, texts.openAtLogin, @selector(toggleLoginItem));
-    for (NSButton* box in @[ controls_.enabled, controls_.keepOn, controls_.loginItem ]) {
-        letGiveWay(box);
+    wire(controls_.openLoginItems, texts.openLoginItems, @selector(openLoginItems));
+    controls_.openLoginItems.bezelStyle = NSBezelStylePush;
+    NSArray<NSButton*>* views =
+        @[ controls_.enabled, controls_.keepOn, controls_.loginItem, controls_.openLoginItems ];
+    for (NSButton* view in views) {
+        letGiveWay(view);
     }
-    add(makeRow(@[ controls_.enabled, controls_.keepOn, controls_.loginItem ], 18));
+    NSStackView* row = makeRow(views, 18);
+    [row setCustomSpacing:8 afterView:controls_.loginItem];
+    row.alignment = NSLayoutAttributeCenterY;
+    row.detachesHiddenViews = YES;
+    add(row);
 }
 
 void SettingsWindowBuilder::wire(NSButton* button, const std::string& title, SEL action) {
@@ -244,9 +258,6 @@ void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsW
             makeWrappingLabel(*row.heading, [NSFont boldSystemFontOfSize:12], columnWidth);
         heading.textColor = NSColor.secondaryLabelColor;
         add(heading);
-        if (tableTop_ == nil) {
-            tableTop_ = heading;
-        }
     }
     NSTextField* fingers = makeWrappingLabel(
         row.fingerLabel, [NSFont systemFontOfSize:NSFont.systemFontSize], fingerWidth);
@@ -259,23 +270,28 @@ void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsW
         ],
         18);
     add(rowView);
-    tableBottom_ = rowView;
 }
 
-void SettingsWindowBuilder::placeSurface(NSWindow* window) {
-    if (tableTop_ == nil || tableBottom_ == nil) {
-        return;
-    }
-    TASurfaceView* surface = controls_.surface;
-    surface.translatesAutoresizingMaskIntoConstraints = NO;
-    NSView* content = window.contentView;
-    [content addSubview:surface];
-    [NSLayoutConstraint activateConstraints:@[
-        [surface.trailingAnchor constraintEqualToAnchor:content.trailingAnchor constant:-margin],
-        [surface.widthAnchor constraintEqualToConstant:surfaceWidth],
-        [surface.topAnchor constraintEqualToAnchor:tableTop_.topAnchor],
-        [surface.bottomAnchor constraintEqualToAnchor:tableBottom_.bottomAnchor],
+// Under the gesture table, the hint, the live line and the test button, in that order, and the
+// live view beside them at the column's trailing edge, where the column has room to spare.
+void SettingsWindowBuilder::addLiveArea(const SettingsWindowTexts& texts) {
+    constexpr CGFloat linesWidth = columnWidth - surfaceWidth - surfaceGap;
+    controls_.live.font = [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightRegular];
+    wrapWithin(controls_.live, linesWidth);
+    NSStackView* lines = [NSStackView stackViewWithViews:@[
+        makeNote(texts.recordHint, 11, linesWidth), controls_.live,
+        makeButton(texts.testDesktop, @selector(testDesktop))
     ]];
+    lines.orientation = NSUserInterfaceLayoutOrientationVertical;
+    lines.alignment = NSLayoutAttributeLeading;
+    lines.spacing = column_.spacing;
+    fixWidth(lines, linesWidth);
+    TASurfaceView* surface = controls_.surface;
+    fixWidth(surface, surfaceWidth);
+    [surface.heightAnchor constraintEqualToConstant:surfaceHeight].active = YES;
+    NSStackView* row = makeRow(@[ lines, surface ], surfaceGap);
+    row.alignment = NSLayoutAttributeTop;
+    add(row);
 }
 
 NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,

@@ -6,8 +6,14 @@
 
 namespace tactora::macos {
 
-// A user-initiated, latency-critical activity of the process that still lets the system sleep
-// when idle: while it is held, App Nap does not defer the event tap, timers or queued work.
+// What the activity tells the system: user-initiated work, so that App Nap does not defer the
+// event tap, the timers or queued work, while the system may still sleep when idle. It is not
+// latency-critical: that is meant for short timing-critical work such as recording audio, costs
+// energy for as long as it is held (hours, here) and cancels the timers' tolerance.
+inline constexpr NSActivityOptions gestureActivityOptions =
+    NSActivityUserInitiatedAllowingIdleSystemSleep;
+
+// The process activity held while gestures are on.
 class SystemProcessActivity final : public ProcessActivity {
   public:
     void begin() override;

@@ -6,10 +6,8 @@ void SystemProcessActivity::begin() {
     if (activity_ != nil) {
         return;
     }
-    activity_ = [NSProcessInfo.processInfo
-        beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep |
-                                 NSActivityLatencyCritical
-                          reason:@"Gestures are on"];
+    activity_ = [NSProcessInfo.processInfo beginActivityWithOptions:gestureActivityOptions
+                                                             reason:@"Gestures are on"];
 }
 
 void SystemProcessActivity::end() {

@@ -22,7 +22,11 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nonatomic, weak, nullable) id<TAApplicationsSheetTarget> target;
 
 // Shows the sheet on `window` with this content or, while it is shown, replaces its content.
+// Escape closes it as Done does; Delete and Forward Delete remove the selected application.
 - (void)showOnWindow:(NSWindow*)window content:(const tactora::ApplicationsSheet&)content;
+
+// The sheet's own window, once it has been shown.
+@property(nonatomic, readonly, nullable) NSWindow* sheetWindow;
 
 @end
 

@@ -15,14 +15,61 @@ constexpr CGFloat tableHeight = 200;
 NSString* const nameColumn = @"name";
 NSString* const bundleColumn = @"bundle";
 
+// Whether `event` is a press of Delete or Forward Delete, without Command, Option or Control.
+bool isDeleteKey(NSEvent* event) {
+    const NSEventModifierFlags others =
+        NSEventModifierFlagCommand | NSEventModifierFlagOption | NSEventModifierFlagControl;
+    NSString* characters = event.charactersIgnoringModifiers;
+    if ((event.modifierFlags & others) != 0 || characters.length != 1) {
+        return false;
+    }
+    const unichar key = [characters characterAtIndex:0];
+    return key == NSDeleteCharacter || key == NSBackspaceCharacter || key == NSDeleteFunctionKey;
+}
+
 }  // namespace
+
+// The sheet's window: Escape closes it as its Done button does.
+@interface TAApplicationsSheetWindow : NSWindow
+@property(nonatomic, copy, nullable) void (^onCancel)(void);
+@end
+
+@implementation TAApplicationsSheetWindow
+
+// The window receives this when Escape (or Command-period) reaches it and no button of the
+// sheet answers that key.
+- (void)cancelOperation:(id)sender {
+    if (self.onCancel != nil) {
+        self.onCancel();
+    }
+}
+
+@end
+
+// The list of applications: Delete and Forward Delete remove the selected one, as in the
+// system's own lists.
+@interface TAApplicationsTable : NSTableView
+@property(nonatomic, copy, nullable) void (^onDelete)(void);
+@end
+
+@implementation TAApplicationsTable
+
+- (void)keyDown:(NSEvent*)event {
+    if (isDeleteKey(event) && self.selectedRow >= 0 && self.onDelete != nil) {
+        self.onDelete();
+        return;
+    }
+    [super keyDown:event];
+}
+
+@end
 
 @implementation TAApplicationsSheet {
     std::vector<tactora::ApplicationRow> _rows;
-    NSWindow* _sheet;
+    TAApplicationsSheetWindow* _sheet;
     NSTextField* _title;
     NSTextField* _explanation;
-    NSTableView* _table;
+    TAApplicationsTable* _table;
     NSPopUpButton* _add;
     NSButton* _remove;
     NSButton* _done;
@@ -43,12 +90,21 @@ NSString* const bundleColumn = @"bundle";
     }
 }
 
+- (nullable NSWindow*)sheetWindow {
+    return _sheet;
+}
+
 - (void)build {
-    _sheet = [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, sheetWidth, 400)
-                                         styleMask:NSWindowStyleMaskTitled
-                                           backing:NSBackingStoreBuffered
-                                             defer:YES];
+    _sheet =
+        [[TAApplicationsSheetWindow alloc] initWithContentRect:NSMakeRect(0, 0, sheetWidth, 400)
+                                                     styleMask:NSWindowStyleMaskTitled
+                                                       backing:NSBackingStoreBuffered
+                                                         defer:YES];
     _sheet.releasedWhenClosed = NO;
+    __weak TAApplicationsSheet* weakSelf = self;
+    _sheet.onCancel = ^{
+        [weakSelf done:nil];
+    };
     const CGFloat column = sheetWidth - 2 * sheetMargin;
     _title = tactora::macos::makeLabel("", [NSFont boldSystemFontOfSize:NSFont.systemFontSize]);
     _explanation = tactora::macos::makeWrappingLabel("", [NSFont systemFontOfSize:11], column);
@@ -73,7 +129,11 @@ NSString* const bundleColumn = @"bundle";
 }
 
 - (NSView*)makeTable:(CGFloat)width {
-    _table = [[NSTableView alloc] initWithFrame:NSZeroRect];
+    _table = [[TAApplicationsTable alloc] initWithFrame:NSZeroRect];
+    __weak TAApplicationsSheet* weakSelf = self;
+    _table.onDelete = ^{
+        [weakSelf removeSelected:nil];
+    };
     for (NSString* identifier in @[ nameColumn, bundleColumn ]) {
         NSTableColumn* column = [[NSTableColumn alloc] initWithIdentifier:identifier];
         column.width = (width - 24) / 2;

@@ -19,8 +19,8 @@ NS_ASSUME_NONNULL_BEGIN
 // Beside the master switch; titled when the window is built.
 @property(nonatomic, readonly) NSButton* keepOn;
 @property(nonatomic, readonly) NSButton* loginItem;
-// In the permission row, hidden until the controller says they are needed; titled when the
-// window is built.
+// Under the permission line and beside the login item's box, hidden until the controller says
+// they are needed; titled when the window is built.
 @property(nonatomic, readonly) NSButton* resetPermissions;
 @property(nonatomic, readonly) NSButton* openLoginItems;
 @property(nonatomic, readonly) NSPopUpButton* profileMenu;
@@ -31,7 +31,7 @@ NS_ASSUME_NONNULL_BEGIN
 // One per gesture slot, in slot order.
 @property(nonatomic, readonly) NSMutableArray<NSPopUpButton*>* actionMenus;
 @property(nonatomic, readonly) NSMutableArray<NSButton*>* recordButtons;
-// The live view of the touch surface, placed beside the gesture rows.
+// The live view of the touch surface, placed under the gesture rows.
 @property(nonatomic, readonly) TASurfaceView* surface;
 @property(nonatomic, nullable) NSWindow* window;
 @property(nonatomic, nullable) NSStatusItem* statusItem;

@@ -15,7 +15,9 @@ int main(int argc, const char* argv[]) {
         tactora::installTextHandling(tactora::makePlatformTextHandling());
         tactora::setStringTable(std::make_shared<tactora::macos::BundleStringTable>());
         const std::vector<std::string> arguments(argv, argv + argc);
-        tactora::macos::MacProgramEnvironment environment;
+        // Never destroyed, like the application it makes (see MacApplication), which refers to
+        // its sensor until the process ends.
+        auto& environment = *new tactora::macos::MacProgramEnvironment();
         return tactora::runProgram(arguments, environment);
     }
 }

@@ -29,6 +29,24 @@ TEST(ApplicationControllerDeathTest, TapEventWithoutAControllerStopsTheProgram) 
     EXPECT_DEATH(handleTapEvent(event.type, event), "Event tap without a controller");
 }
 
+TEST(ApplicationControllerTest, TheControllerLivesOnWhileSetAfterItsMakerLetsGo) {
+    ControllerHarness h;
+    const std::weak_ptr<Controller> made = h.controller;
+    h.app.reset();
+    h.controller.reset();
+    ASSERT_FALSE(made.expired());
+
+    const std::int32_t ids[] = {1, 2};
+    const float xs[] = {0.4F, 0.6F};
+    const float ys[] = {0.5F, 0.5F};
+    Controller::frameCallback(2, ids, xs, ys);
+    h.queue.runReady();
+    EXPECT_EQ(applicationController()->gesture().count, 2);
+
+    clearApplicationController();
+    EXPECT_TRUE(made.expired());
+}
+
 TEST(ApplicationControllerTest, FramesWithoutAControllerAreDropped) {
     const std::int32_t ids[] = {1};
     const float xs[] = {0.5F};

@@ -116,8 +116,17 @@ TEST_F(ControllerLifecycleTest, WithoutABundleIdentifierTheLaunchGoesOn) {
 TEST_F(ControllerLifecycleTest, MenusOpenPauseAndQuit) {
     h.c().applicationDidFinishLaunching();
 
-    EXPECT_EQ(h.shell.mainMenu, (std::vector<MenuEntry>{{"menu.open", MenuCommand::show, ""},
-                                                        {"menu.quit", MenuCommand::quit, "q"}}));
+    EXPECT_EQ(h.shell.mainMenu, (std::vector<MenuEntry>{
+                                    {"menu.about", MenuCommand::about, ""},
+                                    {"", MenuCommand::separator, ""},
+                                    {"menu.preferences", MenuCommand::show, ","},
+                                    {"menu.open", MenuCommand::show, ""},
+                                    {"", MenuCommand::separator, ""},
+                                    {"menu.hide", MenuCommand::hide, "h"},
+                                    {"menu.hide_others", MenuCommand::hideOthers, "h", false, true},
+                                    {"menu.show_all", MenuCommand::showAll, ""},
+                                    {"", MenuCommand::separator, ""},
+                                    {"menu.quit", MenuCommand::quit, "q"}}));
     EXPECT_EQ(h.shell.statusMenu,
               (std::vector<MenuEntry>{{"menu.open", MenuCommand::show, ""},
                                       {"menu.pause", MenuCommand::pause, ""},
@@ -141,8 +150,12 @@ TEST_F(ControllerLifecycleTest, MenuBarAddsTheStandardEditAndWindowMenusAfterThe
                                       {"menu.paste", MenuCommand::paste, "v"},
                                       {"menu.select_all", MenuCommand::selectAll, "a"}}));
     EXPECT_EQ(h.shell.addedMenus[1].first, "menu.window");
-    EXPECT_EQ(h.shell.addedMenus[1].second,
-              (std::vector<MenuEntry>{{"menu.close_window", MenuCommand::closeWindow, "w"}}));
+    EXPECT_EQ(
+        h.shell.addedMenus[1].second,
+        (std::vector<MenuEntry>{{"menu.minimize", MenuCommand::minimize, "m"},
+                                {"menu.close_window", MenuCommand::closeWindow, "w"},
+                                {"", MenuCommand::separator, ""},
+                                {"menu.bring_all_to_front", MenuCommand::bringAllToFront, ""}}));
 }
 
 TEST_F(ControllerLifecycleTest, AnotherCopysRequestShowsTheWindow) {

@@ -116,7 +116,7 @@ TEST_F(SettingsWindowTextsTest, TheControlsThatKeepGesturesGoingInBothLanguages)
     EXPECT_EQ(portuguese.keepGesturesOn, "Manter gestos ativos");
     EXPECT_EQ(portuguese.openAtLogin, "Abrir ao iniciar sessão");
     EXPECT_EQ(portuguese.resetPermissions, "Redefinir Permissões…");
-    EXPECT_EQ(portuguese.openLoginItems, "Abrir Ajustes de Itens de Início…");
+    EXPECT_EQ(portuguese.openLoginItems, "Abrir Itens de Início…");
 }
 
 TEST_F(SettingsWindowTextsTest, TitleIsNotTranslated) {

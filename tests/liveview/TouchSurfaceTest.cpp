@@ -166,6 +166,55 @@ TEST_F(TouchSurfaceTest, VoiceOverHearsTheFingersAndTheLastGestureAfterItsHighli
     EXPECT_EQ(later.accessibilityText, "1 | tap 2 | Copy");
 }
 
+TEST_F(TouchSurfaceTest, AGestureIsAnnouncedInTheFirstSnapshotThatShowsItAndNoOther) {
+    surface.gesture(GestureKind::tap, 2, start);
+
+    EXPECT_EQ(surface.snapshot(start).announcement, "tap 2");
+    EXPECT_EQ(surface.snapshot(start + 0.2).announcement, "");
+    EXPECT_TRUE(surface.snapshot(start + 0.4).highlighted);
+    EXPECT_EQ(surface.snapshot(start + 0.4).announcement, "");
+}
+
+TEST_F(TouchSurfaceTest, ItsActionIsAnnouncedByNameWhenItRuns) {
+    surface.gesture(GestureKind::tap, 2, start);
+    static_cast<void>(surface.snapshot(start));
+    surface.action("Copy", start + 0.08);
+
+    EXPECT_EQ(surface.snapshot(start + 0.08).announcement, "Copy");
+    EXPECT_EQ(surface.snapshot(start + 0.2).announcement, "");
+}
+
+TEST_F(TouchSurfaceTest, AGestureAndItsActionFirstShownTogetherAreAnnouncedTogether) {
+    surface.gesture(GestureKind::click, 3, start);
+    surface.action("Paste", start);
+
+    EXPECT_EQ(surface.snapshot(start + 0.5).announcement, "0 | click 3 | Paste");
+}
+
+TEST_F(TouchSurfaceTest, AGestureFirstShownAfterItsHighlightEndedIsNeverAnnounced) {
+    surface.gesture(GestureKind::tap, 4, start);
+    surface.action("Copy", start + 0.08);
+
+    EXPECT_EQ(surface.snapshot(start + 5).announcement, "");
+    EXPECT_EQ(surface.snapshot(start + 5.1).announcement, "");
+}
+
+TEST_F(TouchSurfaceTest, ANewGestureIsAnnouncedWithoutTheLastOnesAction) {
+    surface.gesture(GestureKind::tap, 2, start);
+    surface.action("Copy", start + 0.08);
+    surface.gesture(GestureKind::click, 1, start + 0.3);
+
+    EXPECT_EQ(surface.snapshot(start + 0.3).announcement, "click 1");
+}
+
+TEST_F(TouchSurfaceTest, FramesAloneAnnounceNothing) {
+    const std::vector<Finger> fingers{{1, 0.5, 0.5}, {2, 0.6, 0.5}};
+    surface.frame(fingers, start);
+    EXPECT_EQ(surface.snapshot(start).announcement, "");
+    surface.frame({}, start + 0.1);
+    EXPECT_EQ(surface.snapshot(start + 0.1).announcement, "");
+}
+
 TEST_F(TouchSurfaceTest, EqualMomentsGiveEqualSnapshots) {
     const std::vector<Finger> three{{1, 0.1, 0.1}, {2, 0.2, 0.2}, {3, 0.3, 0.3}};
     const std::vector<Finger> one{{1, 0.1, 0.1}};

@@ -1,5 +1,7 @@
-// The settings window as the shell builds it, in every language the bundle ships: its size, the
-// column's insets, no control outside the column, no text cut off, and the rows in order.
+// The settings window as the shell builds it, in every language the bundle ships and with every
+// control that is sometimes hidden shown: its size, the column's insets, no control outside the
+// column, no text or button cut off, the rows in order, the live view's room, and the values the
+// refresh repeats left alone.
 #import <AppKit/AppKit.h>
 
 #include <gtest/gtest.h>
@@ -15,10 +17,12 @@
 #include "core/localization/Localizer.h"
 #include "core/localization/StringsTable.h"
 #include "macos/AppBundle.h"
+#include "macos/AppKitSettingsView.h"
 #include "macos/SettingsWindowBuilder.h"
 #include "macos/StringConversion.h"
 #import "macos/TAApplicationDelegate.h"
 #import "macos/TASettingsControls.h"
+#import "macos/TASurfaceView.h"
 
 namespace tactora::testing {
 namespace {
@@ -71,6 +75,9 @@ class SettingsWindowTest : public ::testing::TestWithParam<std::string> {
         controls_.permission.stringValue = @(L("permissions", L("pending"), L("pending")).c_str());
         controls_.live.stringValue =
             @(L("live", 4, L("gesture.click", 4), L("action.forward")).c_str());
+        // The repair buttons as when both are needed: the widest the rows get.
+        controls_.resetPermissions.hidden = NO;
+        controls_.openLoginItems.hidden = NO;
         window_ = macos::SettingsWindowBuilder(controls_, target_).build(texts);
         [window_.contentView layoutSubtreeIfNeeded];
     }
@@ -140,6 +147,128 @@ TEST_P(SettingsWindowTest, EveryLabelShowsAllOfItsText) {
         EXPECT_LE(needed.height, label.frame.size.height + slack) << label.stringValue.UTF8String;
         EXPECT_LE(needed.width, label.frame.size.width + slack) << label.stringValue.UTF8String;
     }
+}
+
+TEST_P(SettingsWindowTest, NoButtonOrPopUpIsCutOff) {
+    std::size_t checked = 0;
+    for (NSView* view : allSubviews(column())) {
+        if (![view isKindOfClass:NSButton.class] || view.hiddenOrHasHiddenAncestor) {
+            continue;
+        }
+        // What the title (or the widest item) needs, against the room the layout gave it.
+        NSButton* control = static_cast<NSButton*>(view);
+        const NSSize needed = control.intrinsicContentSize;
+        const NSRect given = [control alignmentRectForFrame:control.frame];
+        EXPECT_LE(needed.width, given.size.width + slack) << control.title.UTF8String;
+        EXPECT_LE(needed.height, given.size.height + slack) << control.title.UTF8String;
+        ++checked;
+    }
+    // The three permission buttons, the repair button, the profile row's four buttons and two
+    // pop-ups, the three boxes and the login items button, sixteen in the gesture table, and
+    // the test button.
+    EXPECT_GE(checked, 30U);
+}
+
+TEST_P(SettingsWindowTest, TheRepairButtonsSitUnderThePermissionLineAndBesideTheLoginBox) {
+    EXPECT_EQ(rowOf(controls_.resetPermissions), rowOf(controls_.permission) + 1);
+    EXPECT_EQ(rowOf(controls_.openLoginItems), rowOf(controls_.loginItem));
+    EXPECT_EQ(rowOf(controls_.loginItem), rowOf(controls_.enabled));
+    EXPECT_LT(NSMaxX(inContent(controls_.loginItem)), NSMinX(inContent(controls_.openLoginItems)));
+}
+
+TEST_P(SettingsWindowTest, AHiddenRepairButtonTakesNoRoom) {
+    const CGFloat profileTop = NSMaxY(inContent(controls_.profileMenu));
+    controls_.resetPermissions.hidden = YES;
+    [content() layoutSubtreeIfNeeded];
+    EXPECT_GT(NSMaxY(inContent(controls_.profileMenu)), profileTop + 10);
+}
+
+TEST_P(SettingsWindowTest, TheLiveViewSitsUnderTheGestureTableWithinTheColumn) {
+    TASurfaceView* surface = controls_.surface;
+    EXPECT_GT(rowOf(surface), rowOf(controls_.actionMenus[7]));
+    EXPECT_LT(rowOf(surface), column().arrangedSubviews.count);
+    const NSRect frame = inContent(surface);
+    EXPECT_LE(NSMaxY(frame), NSMinY(inContent(controls_.actionMenus[7])));
+    EXPECT_GE(NSMinY(frame), -slack);
+    for (NSView* view : allSubviews(column())) {
+        if ([view isKindOfClass:NSControl.class] && ![surface isDescendantOf:view]) {
+            EXPECT_FALSE(NSIntersectsRect(frame, inContent(view))) << view.description.UTF8String;
+        }
+    }
+}
+
+TEST_P(SettingsWindowTest, FourFingersRestingSideBySideShowFourSeparateDots) {
+    TASurfaceView* surface = controls_.surface;
+    // Fingers side by side near the front rest about a sixth of the surface's width apart.
+    std::vector<NSRect> dots;
+    for (const double left : {0.25, 0.4, 0.55, 0.7}) {
+        dots.push_back([surface dotRectForContact:SurfaceContact{.left = left, .top = 0.2}]);
+    }
+    for (std::size_t i = 0; i < dots.size(); ++i) {
+        EXPECT_GE(dots[i].size.width, 6);
+        for (std::size_t j = i + 1; j < dots.size(); ++j) {
+            EXPECT_FALSE(NSIntersectsRect(dots[i], dots[j])) << i << " " << j;
+        }
+    }
+}
+
+TEST_P(SettingsWindowTest, EveryGestureAndActionNameFitsOnOneLineInTheLiveView) {
+    TASurfaceView* surface = controls_.surface;
+    const CGFloat width = surface.textWidth;
+    // The first action, the system default, is never shown as a performed action.
+    for (std::size_t index = 1; index < choices().size(); ++index) {
+        NSString* name = @(choices()[index].c_str());
+        EXPECT_LE([name sizeWithAttributes:TASurfaceView.actionAttributes].width, width)
+            << name.UTF8String;
+    }
+    for (std::int64_t fingers = 1; fingers <= 4; ++fingers) {
+        for (const char* key : {"gesture.tap", "gesture.click"}) {
+            NSString* name = @(L(key, fingers).c_str());
+            EXPECT_LE([name sizeWithAttributes:TASurfaceView.gestureAttributes].width, width)
+                << name.UTF8String;
+        }
+    }
+}
+
+// The refresh timer hands the view the same values five times a second; they must not make
+// the window lay itself out again.
+TEST_P(SettingsWindowTest, RepeatingTheShownValuesLeavesTheLayoutAlone) {
+    const auto needingLayout = [this] {
+        std::size_t count = content().needsLayout ? 1 : 0;
+        for (NSView* view : allSubviews(content())) {
+            count += view.needsLayout ? 1 : 0;
+        }
+        return count;
+    };
+    const std::size_t before = needingLayout();
+    macos::AppKitSettingsView view(controls_);
+    view.setStatusText(macos::toStdString(controls_.status.stringValue));
+    view.setPermissionText(macos::toStdString(controls_.permission.stringValue));
+    view.setLiveText(macos::toStdString(controls_.live.stringValue));
+    view.setEnabledOn(false);
+    view.setKeepOnChecked(false);
+    view.setLoginItemChecked(false);
+    view.setResetPermissionsVisible(true);
+    view.setLoginItemsSettingsVisible(true);
+    NSButton* record = controls_.recordButtons[0];
+    view.setRecordButton(0, {.enabled = record.enabled == YES,
+                             .title = macos::toStdString(record.title),
+                             .toolTip = ""});
+
+    EXPECT_EQ(needingLayout(), before);
+    EXPECT_FALSE(controls_.resetPermissions.hidden);
+    EXPECT_TRUE([controls_.status.stringValue isEqualToString:@(longestStatus().c_str())]);
+}
+
+TEST_P(SettingsWindowTest, ANewValueIsShown) {
+    macos::AppKitSettingsView view(controls_);
+    view.setStatusText("A new line");
+    view.setEnabledOn(true);
+    view.setResetPermissionsVisible(false);
+
+    EXPECT_TRUE([controls_.status.stringValue isEqualToString:@"A new line"]);
+    EXPECT_EQ(controls_.enabled.state, NSControlStateValueOn);
+    EXPECT_TRUE(controls_.resetPermissions.hidden);
 }
 
 TEST_P(SettingsWindowTest, RowsComeInOrder) {

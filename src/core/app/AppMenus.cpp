@@ -8,7 +8,18 @@ namespace tactora {
 
 std::vector<MenuEntry> mainMenuItems() {
     return {
+        {L("menu.about"), MenuCommand::about, ""},
+        {"", MenuCommand::separator, ""},
+        {L("menu.preferences"), MenuCommand::show, ","},
         {L("menu.open"), MenuCommand::show, ""},
+        {"", MenuCommand::separator, ""},
+        {L("menu.hide"), MenuCommand::hide, "h"},
+        {.title = L("menu.hide_others"),
+         .command = MenuCommand::hideOthers,
+         .keyEquivalent = "h",
+         .withOption = true},
+        {L("menu.show_all"), MenuCommand::showAll, ""},
+        {"", MenuCommand::separator, ""},
         {L("menu.quit"), MenuCommand::quit, "q"},
     };
 }
@@ -48,7 +59,10 @@ std::string windowMenuTitle() {
 
 std::vector<MenuEntry> windowMenuItems() {
     return {
+        {L("menu.minimize"), MenuCommand::minimize, "m"},
         {L("menu.close_window"), MenuCommand::closeWindow, "w"},
+        {"", MenuCommand::separator, ""},
+        {L("menu.bring_all_to_front"), MenuCommand::bringAllToFront, ""},
     };
 }
 

@@ -8,7 +8,10 @@
 
 namespace tactora {
 
-// The application menu's items: open the settings, quit (⌘Q). Texts localised; main thread.
+// The application menu's items, around its two own (open the settings, quit ⌘Q) as every Mac
+// application has them: About Tactora, a separator, Settings… (⌘,), open the settings, a
+// separator, Hide Tactora (⌘H), Hide Others (⌥⌘H), Show All, a separator, quit (⌘Q). Texts
+// localised; main thread.
 std::vector<MenuEntry> mainMenuItems();
 
 // The status item's menu: open the settings, pause, the `extras` of the parts beside the
@@ -21,7 +24,9 @@ std::vector<MenuEntry> statusMenuItems(std::span<const MenuEntry> extras);
 std::string editMenuTitle();
 std::vector<MenuEntry> editMenuItems();
 
-// The menu bar's Window menu: Close Window (⌘W).
+// The menu bar's Window menu, which the shell makes the application's windows menu (the system
+// lists the open windows in it): Minimize (⌘M), Close Window (⌘W), a separator, Bring All to
+// Front.
 std::string windowMenuTitle();
 std::vector<MenuEntry> windowMenuItems();
 

@@ -9,9 +9,11 @@ namespace tactora {
 
 namespace {
 
+// Never destroyed: the sensor's thread may still be delivering a frame while the process ends,
+// and a static destructor run by exit() must not let go of the controller under it.
 std::shared_ptr<Controller>& instance() {
-    static std::shared_ptr<Controller> controller;
-    return controller;
+    static auto* const controller = new std::shared_ptr<Controller>();
+    return *controller;
 }
 
 }  // namespace

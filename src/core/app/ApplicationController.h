@@ -13,8 +13,10 @@ class Controller;
 // The one application-wide controller, through which the C-style callbacks that carry no
 // context (the sensor's frame callback, the event tap's callback) reach it.
 //
-// Set on the main thread before the sensor is first started, and cleared only after the sensor
-// has stopped for good. The sensor's thread merely reads it in between, so it needs no lock.
+// Set on the main thread before the sensor is first started. The application keeps it set (and
+// so the controller alive) until the process ends: stopping the sensor does not promise that a
+// frame callback already under way has returned. Tests clear it once their fake sensor is quiet.
+// The sensor's thread merely reads it, so it needs no lock.
 void setApplicationController(std::shared_ptr<Controller> controller);
 void clearApplicationController();
 

@@ -45,6 +45,8 @@ void TouchSurface::gesture(GestureKind kind, std::int64_t fingers, double at) {
     last_ = Gesture{
         .kind = kind, .fingers = fingers, .action = std::nullopt, .until = at + highlightDuration};
     ++gestureRevision_;
+    gestureUnannounced_ = true;
+    actionUnannounced_ = false;
 }
 
 void TouchSurface::action(const std::string& name, double at) {
@@ -54,6 +56,7 @@ void TouchSurface::action(const std::string& name, double at) {
     last_->action = name;
     last_->until = std::max(last_->until, at + highlightDuration);
     ++gestureRevision_;
+    actionUnannounced_ = true;
 }
 
 std::optional<double> TouchSurface::highlightEnd() const {
@@ -74,7 +77,24 @@ const SurfaceSnapshot& TouchSurface::snapshot(double now) {
     snapshot_.fingers = fresh ? fingers_ : 0;
     snapshot_.highlighted = last_ && now < last_->until;
     updateTexts();
+    updateAnnouncement();
     return snapshot_;
+}
+
+void TouchSurface::updateAnnouncement() {
+    snapshot_.announcement.clear();
+    if (snapshot_.highlighted) {
+        // Both at once (the window came up during the highlight): what the view says of itself.
+        if (gestureUnannounced_ && actionUnannounced_) {
+            snapshot_.announcement = snapshot_.accessibilityText;
+        } else if (gestureUnannounced_) {
+            snapshot_.announcement = snapshot_.gestureText;
+        } else if (actionUnannounced_) {
+            snapshot_.announcement = snapshot_.actionText;
+        }
+    }
+    gestureUnannounced_ = false;
+    actionUnannounced_ = false;
 }
 
 void TouchSurface::updateTexts() {

@@ -41,7 +41,9 @@ class TouchSurface {
     // When the last gesture's highlight ends; nothing before any gesture.
     std::optional<double> highlightEnd() const;
 
-    // What to show at `now`. The reference stays valid until the next call.
+    // What to show at `now`. The reference stays valid until the next call. A gesture, and its
+    // action, is announced in the first snapshot asked for while it is highlighted and in no
+    // other: one seen only after its highlight has ended is never announced.
     const SurfaceSnapshot& snapshot(double now);
 
     // The view's position of a contact at the sensor's (x, y); positions outside the surface
@@ -57,6 +59,7 @@ class TouchSurface {
     };
 
     void updateTexts();
+    void updateAnnouncement();
 
     std::array<SurfaceContact, SurfaceSnapshot::capacity> contacts_{};
     std::size_t contactCount_ = 0;
@@ -65,6 +68,9 @@ class TouchSurface {
     std::optional<Gesture> last_;
     // Bumped whenever the last gesture or its action changes, so its texts are rebuilt once.
     std::uint64_t gestureRevision_ = 0;
+    // Whether the last gesture, and its action, have yet to be announced.
+    bool gestureUnannounced_ = false;
+    bool actionUnannounced_ = false;
 
     SurfaceSnapshot snapshot_;
     std::optional<std::int64_t> shownFingers_;

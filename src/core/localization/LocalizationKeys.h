@@ -63,6 +63,14 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("menu.select_all"),
     LocalizationKey("menu.window"),
     LocalizationKey("menu.close_window"),
+    // The rest of the standard application and Window menus.
+    LocalizationKey("menu.about"),
+    LocalizationKey("menu.preferences"),
+    LocalizationKey("menu.hide"),
+    LocalizationKey("menu.hide_others"),
+    LocalizationKey("menu.show_all"),
+    LocalizationKey("menu.minimize"),
+    LocalizationKey("menu.bring_all_to_front"),
     // Sensor states: each gets the bridge's error code, which only a failed start shows.
     LocalizationKey("sensor.not_started", {unshownIntegerArgument}),
     LocalizationKey("sensor.connected", {unshownIntegerArgument}),

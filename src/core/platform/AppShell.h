@@ -25,6 +25,8 @@ class AppShell {
     virtual void buildMainMenu(const std::vector<MenuEntry>& items) = 0;
 
     // Adds a menu titled `title` holding `items` to the menu bar, after the menus already there.
+    // A menu that holds MenuCommand::minimize becomes the application's windows menu, in which
+    // the system lists the open windows.
     virtual void addMainMenu(const std::string& title, const std::vector<MenuEntry>& items) = 0;
 
     // Builds the settings window around the controls of SettingsView, showing `texts` and

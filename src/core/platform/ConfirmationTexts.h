@@ -5,7 +5,7 @@
 namespace tactora {
 
 // A question that asks the user to confirm something that cannot be undone: the confirming
-// button does the destructive thing, the cancel button (the default) does nothing.
+// button does the destructive thing, the cancel button (which Escape chooses) does nothing.
 struct ConfirmationTexts {
     std::string message;
     std::string informative;

@@ -28,6 +28,10 @@ struct SurfaceSnapshot {
     std::string actionText;
     // What VoiceOver reads: the finger count and the last gesture, highlighted or not.
     std::string accessibilityText;
+    // What VoiceOver announces as this snapshot is shown: the gesture just recognised, or the
+    // action it just performed, or the accessibility text when both are new; empty when nothing
+    // new happened since the last one.
+    std::string announcement;
 
     std::span<const SurfaceContact> contacts() const {
         return std::span(contactStorage).first(contactCount);

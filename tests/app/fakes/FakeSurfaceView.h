@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "core/platform/SurfaceView.h"
 
@@ -21,6 +23,9 @@ class FakeSurfaceView final : public SurfaceView {
     void show(const SurfaceSnapshot& snapshot) override {
         shown = snapshot;
         ++shows;
+        if (!snapshot.announcement.empty()) {
+            announcements.push_back(snapshot.announcement);
+        }
     }
 
     void setVisible(bool visible) const { visibility_(visible); }
@@ -28,6 +33,8 @@ class FakeSurfaceView final : public SurfaceView {
 
     SurfaceSnapshot shown;
     std::size_t shows = 0;
+    // What VoiceOver was asked to announce, in order.
+    std::vector<std::string> announcements;
 
   private:
     std::function<void(bool)> visibility_;
