@@ -45,6 +45,19 @@ namespace tactora {
 // settings window and the synthetic input it posts. The shell merely forwards the application
 // delegate's calls, the menu and control actions and the tap's events to it.
 //
+// The parts of the program, and where they live:
+//   app/          this controller: recogniser feed, dispatch guard, actions, held presses and
+//                 the tap's decision, shortcut recording, profile controls, status display,
+//                 and for now keeping gestures on (keepon/ holds its pure state machines)
+//   frontmost/    profiles that follow the application in front, and the applications sheet
+//   liveview/     the live view of the touch surface
+//   feedback/     the finger count in the menu bar
+//   recording/    touch traces written while the program runs
+//   profilefiles/ deleting, exporting and importing profiles
+//   composition/  Tactora: this controller and the parts above, wired together
+// The parts learn what happens through the observer list and reach the controller only
+// through StatusDisplay, ProfileSwitcher and ProfileTitleSource.
+//
 // Held by std::shared_ptr: work it schedules holds it weakly and does nothing once it is gone.
 // Every member runs on the main thread, except frameCallback(), which runs on the sensor's.
 class Controller final : public StatusDisplay,
