@@ -89,7 +89,7 @@
 }
 
 - (void)editApplications {
-    _program->controller().editApplications();
+    _program->frontmost().editApplications();
 }
 
 - (void)importProfiles {
@@ -101,15 +101,15 @@
 }
 
 - (void)addApplication:(NSString*)bundleID {
-    _program->controller().addApplication(tactora::macos::toStdString(bundleID));
+    _program->frontmost().addApplication(tactora::macos::toStdString(bundleID));
 }
 
 - (void)removeApplication:(NSString*)bundleID {
-    _program->controller().removeApplication(tactora::macos::toStdString(bundleID));
+    _program->frontmost().removeApplication(tactora::macos::toStdString(bundleID));
 }
 
 - (void)closeApplications {
-    _program->controller().closeApplications();
+    _program->frontmost().closeApplications();
 }
 
 - (void)changed:(NSControl*)sender {

@@ -15,7 +15,7 @@
 namespace tactora::testing {
 namespace {
 
-class CountingSwitcher final : public ProfileSwitcher {
+class CountingSwitcher final : public ProfileSwitcher, public FrontmostFollower {
   public:
     ProfileStore& profiles() override { return store; }
     void switchProfileAutomatically(const Uuid& id) override {
@@ -24,6 +24,7 @@ class CountingSwitcher final : public ProfileSwitcher {
     }
     void refreshProfileUI() override {}
     void dropPendingWork() override { ++drops; }
+    void tellFrontApplication(const FrontApplicationNote& /*note*/) override {}
     Uuid frontmostProfile() override { return store.chosenID(); }
     void followFrontmost() override {}
 
@@ -39,7 +40,7 @@ class ProfileFileControlsTest : public ::testing::Test {
     FakeProfileFiles files{log};
     FakeDialogs dialogs{log};
     FakeSettingsView view{log};
-    ProfileFileControls controls{switcher, files, dialogs, view};
+    ProfileFileControls controls{switcher, switcher, files, dialogs, view};
 };
 
 TEST_F(ProfileFileControlsTest, TheLastProfileIsNeverDeletedButPendingWorkIsDropped) {

@@ -25,8 +25,7 @@ class StoreOnly final : public ProfileSwitcher {
     void switchProfileAutomatically(const Uuid& id) override { store.activate(id); }
     void refreshProfileUI() override {}
     void dropPendingWork() override {}
-    Uuid frontmostProfile() override { return store.chosenID(); }
-    void followFrontmost() override {}
+    void tellFrontApplication(const FrontApplicationNote& /*note*/) override {}
 
     ProfileStore store{std::make_shared<MemoryPreferences>(), "Default"};
 };

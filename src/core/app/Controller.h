@@ -21,13 +21,13 @@
 #include "core/app/ObserverList.h"
 #include "core/app/Press.h"
 #include "core/app/ProfileSwitcher.h"
+#include "core/app/ProfileTitleSource.h"
 #include "core/app/StatusDisplay.h"
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureDispatchContext.h"
 #include "core/gestures/GestureState.h"
 #include "core/keepon/KeepOn.h"
 #include "core/keepon/PermissionMemory.h"
-#include "core/platform/ApplicationsSheet.h"
 #include "core/platform/ContactFrame.h"
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
@@ -44,6 +44,19 @@ namespace tactora {
 // profile store, and decides everything that happens between the sensor, the event tap, the
 // settings window and the synthetic input it posts. The shell merely forwards the application
 // delegate's calls, the menu and control actions and the tap's events to it.
+//
+// The parts of the program, and where they live:
+//   app/          this controller: recogniser feed, dispatch guard, actions, held presses and
+//                 the tap's decision, shortcut recording, profile controls, status display,
+//                 and for now keeping gestures on (keepon/ holds its pure state machines)
+//   frontmost/    profiles that follow the application in front, and the applications sheet
+//   liveview/     the live view of the touch surface
+//   feedback/     the finger count in the menu bar
+//   recording/    touch traces written while the program runs
+//   profilefiles/ deleting, exporting and importing profiles
+//   composition/  Tactora: this controller and the parts above, wired together
+// The parts learn what happens through the observer list and reach the controller only
+// through StatusDisplay, ProfileSwitcher and ProfileTitleSource.
 //
 // Held by std::shared_ptr: work it schedules holds it weakly and does nothing once it is gone.
 // Every member runs on the main thread, except frameCallback(), which runs on the sensor's.
@@ -218,32 +231,10 @@ class Controller final : public StatusDisplay,
     void duplicateProfile();
     void nameProfile(NamingMode mode);
     void dropPendingWork() override;
-    Uuid frontmostProfile() override;
-    void followFrontmost() override;
-
-    // --- Profiles of applications ------------------------------------------------------------
-
-    // Another application came to the front (`processID` none when no application is in front;
-    // `bundleID` empty when it has none). Its profile becomes active, or the user's choice when
-    // it has none, through the same steps as selectProfile(). This application coming to the
-    // front changes nothing.
-    void frontmostApplicationChanged(std::optional<std::int32_t> processID, std::string bundleID);
-    // The bundle id of the last application other than this one that came to the front.
-    const std::string& frontmostBundleID() const { return frontmostBundleID_; }
-    // Whether the active profile is not the user's choice but that of the application in front.
-    bool profileFollowsApplication();
-    // What the pop-up and the status item call the active profile: its name, and the
-    // application's when the application in front chose it.
-    std::string activeProfileTitle();
-
-    // The profile actions' applications item: shows the sheet of the active profile's
-    // applications, which the next three operations edit until it closes.
-    void editApplications();
-    // Assigns the application to the sheet's profile (moving it from any other).
-    void addApplication(const std::string& bundleID);
-    // Takes the application away from the sheet's profile.
-    void removeApplication(const std::string& bundleID);
-    void closeApplications();
+    void tellFrontApplication(const FrontApplicationNote& note) override;
+    // Where the pop-up and the status item's tooltip get the active profile's name from (not
+    // owned; null for the profile's own name).
+    void setProfileTitleSource(ProfileTitleSource* source) { titleSource_ = source; }
 
     // Tells `observer` (not owned; it must stay alive until removed) what the controller
     // receives and decides from now on; see ControllerObserver.
@@ -307,15 +298,13 @@ class Controller final : public StatusDisplay,
     void startRefreshTimer();
     void observeWake();
     void observeShowRequests();
-    void observeFrontmostApplication();
 
     enum class ProfileSwitch { chosen, automatic };
     // The steps of selectProfile() around the store's change: pending actions cancelled, held
     // presses released, recogniser reset, the store's select() (a choice) or activate(), then
     // the status texts and controls refreshed.
     void switchProfile(const Uuid& id, ProfileSwitch kind);
-    ApplicationsSheet applicationsSheet();
-    std::string applicationName(const std::string& bundleID) const;
+    std::string activeProfileTitle();
     void applySwitch(bool byUser);
     void showStatusMenu();
 
@@ -336,9 +325,7 @@ class Controller final : public StatusDisplay,
     std::optional<ProfileStore> profiles_;
     bool recording_ = false;
     std::int64_t actionGeneration_ = 0;
-    std::string frontmostBundleID_;
-    std::string frontmostName_;          // what the user calls that application
-    std::optional<Uuid> editedProfile_;  // the applications sheet's profile while it is open
+    ProfileTitleSource* titleSource_ = nullptr;
 
     KeepOn keepOn_;
     PermissionMemory permissionMemory_;

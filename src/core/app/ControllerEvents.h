@@ -110,6 +110,15 @@ struct ProfileNote {
     double time = 0;
 };
 
+// Another application came to the front, or none is in front (this application coming to the
+// front is not told).
+struct FrontApplicationNote {
+    std::optional<std::int32_t> processID;  // none when no application is in front
+    std::string bundleID;                   // empty when there is none or it has none
+    std::string name;                       // what the user calls it
+    double time = 0;
+};
+
 // This application became the active one, or stopped being it.
 struct ActiveNote {
     bool active = false;

@@ -29,9 +29,6 @@ void Controller::applicationDidFinishLaunching() {
     startRefreshTimer();
     observeWake();
     observeShowRequests();
-    observeFrontmostApplication();
-    frontmostApplicationChanged(services_.workspace.frontmostProcessID(),
-                                services_.workspace.frontmostBundleID());
     watchDevices();
     observers_.launched(services_.clock.uptime());
     show();

@@ -39,6 +39,8 @@ class ControllerObserver {
     virtual void switchChanged(const SwitchNote& /*note*/) {}
     // The user selected a profile, or one was made active for them.
     virtual void profileSelected(const ProfileNote& /*note*/) {}
+    // Another application came to the front.
+    virtual void frontApplicationChanged(const FrontApplicationNote& /*note*/) {}
     // This application became active, or stopped being it.
     virtual void activeChanged(const ActiveNote& /*note*/) {}
 

@@ -105,6 +105,14 @@ void Controller::switchProfileAutomatically(const Uuid& id) {
     switchProfile(id, ProfileSwitch::automatic);
 }
 
+void Controller::tellFrontApplication(const FrontApplicationNote& note) {
+    observers_.frontApplicationChanged(note);
+}
+
+std::string Controller::activeProfileTitle() {
+    return titleSource_ != nullptr ? titleSource_->activeProfileTitle() : profiles().current().name;
+}
+
 void Controller::newProfile() {
     nameProfile(NamingMode::create);
 }

@@ -61,6 +61,12 @@ void ObserverList::activeChanged(const ActiveNote& note) {
     tell(note);
 }
 
+void ObserverList::frontApplicationChanged(const FrontApplicationNote& note) {
+    for (ControllerObserver* observer : observers_) {
+        observer->frontApplicationChanged(note);
+    }
+}
+
 void ObserverList::launched(double time) {
     for (ControllerObserver* observer : observers_) {
         observer->launched(time);

@@ -63,6 +63,8 @@ class ObserverList {
     void switchChanged(const SwitchNote& note);
     void profileSelected(const ProfileNote& note);
     void activeChanged(const ActiveNote& note);
+    // Never told from the tap's callback, so never kept.
+    void frontApplicationChanged(const FrontApplicationNote& note);
     void launched(double time);
     void refreshed(double time);
     void terminating(double time);

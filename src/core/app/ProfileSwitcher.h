@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/app/ControllerEvents.h"
 #include "core/profiles/ProfileStore.h"
 #include "core/profiles/Uuid.h"
 
@@ -22,10 +23,8 @@ class ProfileSwitcher {
     // Drops pending gesture actions, lets go of held presses and resets the recogniser, so
     // that nothing half seen completes after a dialog.
     virtual void dropPendingWork() = 0;
-    // The profile of the application in front, or the user's choice when it has none.
-    virtual Uuid frontmostProfile() = 0;
-    // Switches to frontmostProfile() when that is not the active one already.
-    virtual void followFrontmost() = 0;
+    // Tells the controller's observers that another application came to the front.
+    virtual void tellFrontApplication(const FrontApplicationNote& note) = 0;
 };
 
 }  // namespace tactora

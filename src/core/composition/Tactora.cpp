@@ -9,21 +9,29 @@ static_assert(TouchSurface::contactLifetime == Controller::liveContact,
 
 Tactora::Tactora(ControllerServices services)
     : controller_(Controller::create(services)),
+      frontmost_(FrontmostProfiles::create(*controller_, services.workspace, services.view,
+                                           services.clock)),
       liveView_(LiveView::create(services.surface, services.clock, services.queue)),
       feedback_(
           MenuBarFeedback::create(services.defaults, *controller_, services.clock, services.queue)),
       recorder_(services.traceSink, services.clock, services.workspace, services.view, *controller_,
                 *controller_),
-      profileFiles_(*controller_, services.files, services.dialogs, services.view) {
+      profileFiles_(*controller_, *frontmost_, services.files, services.dialogs, services.view) {
     // The recorder comes first, so that it writes what comes in before the others act on it.
     controller_->addObserver(recorder_);
+    // Before the live view, so that the profile of the application in front is active by the
+    // time the others learn that launching finished.
+    controller_->addObserver(*frontmost_);
     controller_->addObserver(*liveView_);
+    controller_->setProfileTitleSource(frontmost_.get());
     controller_->addObserver(*feedback_);
 }
 
 Tactora::~Tactora() {
     controller_->removeObserver(*feedback_);
     controller_->removeObserver(*liveView_);
+    controller_->removeObserver(*frontmost_);
+    controller_->setProfileTitleSource(nullptr);
     controller_->removeObserver(recorder_);
 }
 

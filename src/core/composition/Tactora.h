@@ -5,6 +5,7 @@
 #include "core/app/Controller.h"
 #include "core/app/ControllerServices.h"
 #include "core/feedback/MenuBarFeedback.h"
+#include "core/frontmost/FrontmostProfiles.h"
 #include "core/liveview/LiveView.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
@@ -15,6 +16,7 @@ namespace tactora {
 // owns what the base system gives it; each part here learns what happens as one of its
 // observers and reaches it only through a narrow interface of its own:
 //
+//   frontmost/   profiles that follow the application in front, and the applications sheet
 //   liveview/    the settings window's live view of the touch surface
 //   feedback/    the finger count in the menu bar
 //   recording/   the recording of touch traces
@@ -33,6 +35,7 @@ class Tactora {
 
     Controller& controller() { return *controller_; }
     const std::shared_ptr<Controller>& sharedController() const { return controller_; }
+    FrontmostProfiles& frontmost() { return *frontmost_; }
     LiveView& liveView() { return *liveView_; }
     MenuBarFeedback& feedback() { return *feedback_; }
     TouchRecorder& recorder() { return recorder_; }
@@ -40,6 +43,7 @@ class Tactora {
 
   private:
     std::shared_ptr<Controller> controller_;
+    std::shared_ptr<FrontmostProfiles> frontmost_;
     std::shared_ptr<LiveView> liveView_;
     std::shared_ptr<MenuBarFeedback> feedback_;
     TouchRecorder recorder_;

@@ -55,7 +55,7 @@ class SettingsView {
     virtual void setDeleteProfileEnabled(bool enabled) = 0;
 
     // Shows the applications sheet on the settings window with this content, or, while it is
-    // shown, replaces its content. Closing it reaches the controller's closeApplications().
+    // shown, replaces its content. Closing it reaches the frontmost part's closeApplications().
     virtual void showApplications(const ApplicationsSheet& sheet) = 0;
 
     // Selects the catalogue entry `action` (0...14) in the action pop-up of gesture slot `slot`.

@@ -11,9 +11,9 @@
 
 namespace tactora {
 
-ProfileFileControls::ProfileFileControls(ProfileSwitcher& switcher, ProfileFiles& files,
-                                         Dialogs& dialogs, SettingsView& view)
-    : switcher_(switcher), files_(files), dialogs_(dialogs), view_(view) {}
+ProfileFileControls::ProfileFileControls(ProfileSwitcher& switcher, FrontmostFollower& follower,
+                                         ProfileFiles& files, Dialogs& dialogs, SettingsView& view)
+    : switcher_(switcher), follower_(follower), files_(files), dialogs_(dialogs), view_(view) {}
 
 void ProfileFileControls::deleteProfile() {
     // As before the naming dialog: nothing half seen may complete after the alert.
@@ -34,7 +34,7 @@ void ProfileFileControls::deleteProfile() {
         return;
     }
     // The store brought back the user's choice; the application in front may have its own.
-    switcher_.switchProfileAutomatically(switcher_.frontmostProfile());
+    switcher_.switchProfileAutomatically(follower_.frontmostProfile());
 }
 
 void ProfileFileControls::exportProfiles() {
@@ -73,7 +73,7 @@ void ProfileFileControls::importProfiles() {
     const std::size_t added =
         switcher_.profiles().importProfiles(std::get<std::vector<WorkProfile>>(std::move(outcome)));
     // An imported profile may claim the application in front, if no other profile had it.
-    switcher_.followFrontmost();
+    follower_.followFrontmost();
     switcher_.refreshProfileUI();
     view_.setStatusText(L("import.done", static_cast<std::int64_t>(added)));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/app/FrontmostFollower.h"
 #include "core/app/ProfileSwitcher.h"
 #include "core/platform/ConfirmationTexts.h"
 #include "core/platform/Dialogs.h"
@@ -16,8 +17,8 @@ namespace tactora {
 // Main thread only; reaches the profiles through the controller's profile switcher.
 class ProfileFileControls {
   public:
-    ProfileFileControls(ProfileSwitcher& switcher, ProfileFiles& files, Dialogs& dialogs,
-                        SettingsView& view);
+    ProfileFileControls(ProfileSwitcher& switcher, FrontmostFollower& follower, ProfileFiles& files,
+                        Dialogs& dialogs, SettingsView& view);
 
     // Asks, then deletes the active profile; the last profile is never deleted.
     void deleteProfile();
@@ -28,6 +29,7 @@ class ProfileFileControls {
 
   private:
     ProfileSwitcher& switcher_;
+    FrontmostFollower& follower_;
     ProfileFiles& files_;
     Dialogs& dialogs_;
     SettingsView& view_;

@@ -5,6 +5,7 @@
 
 #include "core/app/Controller.h"
 #include "core/app/Globals.h"
+#include "core/frontmost/FrontmostProfiles.h"
 #include "core/profiles/MemoryPreferences.h"
 #include "core/profiles/ProfileJson.h"
 #include "core/profiles/ProfileStore.h"
@@ -46,7 +47,19 @@ struct Stage {
           controller(
               Controller::create({queue, queue, workspace, permissions, poster, tap, sensor, shell,
                                   view, dialogs, traceSink, std::move(defaults), surface, files,
-                                  devices, loginItem, activity, secureInput, resetTool})) {}
+                                  devices, loginItem, activity, secureInput, resetTool})),
+          frontmost(FrontmostProfiles::create(*controller, workspace, view, queue)) {
+        controller->addObserver(*frontmost);
+        controller->setProfileTitleSource(frontmost.get());
+    }
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+    Stage(Stage&&) = delete;
+    Stage& operator=(Stage&&) = delete;
+    ~Stage() {
+        controller->setProfileTitleSource(nullptr);
+        controller->removeObserver(*frontmost);
+    }
 
     // Launched, with gestures switched on as the user would.
     void launch() {
@@ -55,11 +68,11 @@ struct Stage {
         controller->toggle();
     }
 
-    // The one place where another application coming to the front reaches the controller.
+    // The one place where another application coming to the front reaches the program.
     void frontApplication(const TraceFrontApplication& front) {
         workspace.frontmost = front.processID;
         workspace.bundleID = front.bundleID;
-        controller->frontmostApplicationChanged(front.processID, front.bundleID);
+        frontmost->frontmostApplicationChanged(front.processID, front.bundleID);
     }
 
     void apply(const TraceFrame& frame) { controller->receive(frame.fingers); }
@@ -108,6 +121,8 @@ struct Stage {
     replay::SecureInput secureInput;
     replay::PermissionResetTool resetTool;
     std::shared_ptr<Controller> controller;
+    // Profiles that follow the application in front, beside the controller as in the program.
+    std::shared_ptr<FrontmostProfiles> frontmost;
 };
 
 }  // namespace

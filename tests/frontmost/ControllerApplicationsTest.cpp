@@ -117,7 +117,7 @@ TEST_F(ControllerApplicationsTest, ThisApplicationComingToTheFrontChangesNothing
     const std::int64_t before = h.c().actionGeneration();
     h.workspace.bringToFront(h.workspace.own, "app.tactora.Tactora");
     EXPECT_EQ(store().activeID(), videoID);
-    EXPECT_EQ(h.c().frontmostBundleID(), safari);
+    EXPECT_EQ(h.a().frontmost().frontmostBundleID(), safari);
     EXPECT_EQ(h.c().actionGeneration(), before);
 }
 
@@ -136,7 +136,7 @@ TEST_F(ControllerApplicationsTest, UserChoosingAProfileByHandWhileAnAssignedAppl
     EXPECT_EQ(store().chosenID(), audioID);
     EXPECT_EQ(savedChoice(), audioID.text());
     EXPECT_EQ(shownProfile(), "Audio");
-    EXPECT_FALSE(h.c().profileFollowsApplication());
+    EXPECT_FALSE(h.a().frontmost().profileFollowsApplication());
 
     h.workspace.bringToFront(mailPID, mail);
     EXPECT_EQ(store().activeID(), audioID);
@@ -272,7 +272,7 @@ TEST_F(ControllerApplicationsTest, SheetListsTheProfilesApplicationsAndTheRunnin
                            {400, mail, "Mail"},
                            {musicPID, music, "Music"}};
     choose(videoID);
-    h.c().editApplications();
+    h.a().frontmost().editApplications();
     ASSERT_TRUE(h.view.applications);
     EXPECT_EQ(h.view.applications->title, "apps of Video");
     EXPECT_EQ(h.view.applications->applications, (std::vector<ApplicationRow>{{safari, "Safari"}}));
@@ -282,30 +282,30 @@ TEST_F(ControllerApplicationsTest, SheetListsTheProfilesApplicationsAndTheRunnin
 
 TEST_F(ControllerApplicationsTest, SheetAddsMovesAndRemovesApplicationsOfItsProfile) {
     choose(videoID);
-    h.c().editApplications();
-    h.c().addApplication(music);
+    h.a().frontmost().editApplications();
+    h.a().frontmost().addApplication(music);
     EXPECT_EQ(store().profileFor(music), videoID);
     EXPECT_EQ(h.view.applications->applications.size(), 2U);
 
-    h.c().removeApplication(safari);
+    h.a().frontmost().removeApplication(safari);
     EXPECT_EQ(store().profileFor(safari), std::nullopt);
     EXPECT_EQ(h.view.applications->applications, (std::vector<ApplicationRow>{{music, "Music"}}));
 
-    h.c().closeApplications();
-    h.c().addApplication(mail);
+    h.a().frontmost().closeApplications();
+    h.a().frontmost().addApplication(mail);
     EXPECT_EQ(store().profileFor(mail), std::nullopt);
 }
 
 TEST_F(ControllerApplicationsTest, SheetDoesNotRemoveAnotherProfilesApplication) {
-    h.c().editApplications();  // Default's
-    h.c().removeApplication(safari);
+    h.a().frontmost().editApplications();  // Default's
+    h.a().frontmost().removeApplication(safari);
     EXPECT_EQ(store().profileFor(safari), videoID);
 }
 
 TEST_F(ControllerApplicationsTest, RemovingTheApplicationInFrontFromItsProfileBringsBackTheChoice) {
     h.workspace.bringToFront(safariPID, safari);
-    h.c().editApplications();  // Video's, active for Safari
-    h.c().removeApplication(safari);
+    h.a().frontmost().editApplications();  // Video's, active for Safari
+    h.a().frontmost().removeApplication(safari);
     EXPECT_EQ(store().activeID(), defaultID);
 }
 

@@ -1,0 +1,135 @@
+#include "core/frontmost/FrontmostProfiles.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/localization/Localizer.h"
+
+namespace tactora {
+
+std::shared_ptr<FrontmostProfiles> FrontmostProfiles::create(ProfileSwitcher& switcher,
+                                                             Workspace& workspace,
+                                                             SettingsView& view, Clock& clock) {
+    return std::make_shared<FrontmostProfiles>(Passkey{}, switcher, workspace, view, clock);
+}
+
+FrontmostProfiles::FrontmostProfiles(Passkey /*unused*/, ProfileSwitcher& switcher,
+                                     Workspace& workspace, SettingsView& view, Clock& clock)
+    : switcher_(switcher), workspace_(workspace), view_(view), clock_(clock) {}
+
+void FrontmostProfiles::launched(double /*time*/) {
+    workspace_.observeFrontmostApplication(
+        [weak = weak_from_this()](std::optional<std::int32_t> processID, std::string bundleID) {
+            if (const auto self = weak.lock()) {
+                self->frontmostApplicationChanged(processID, std::move(bundleID));
+            }
+        });
+    frontmostApplicationChanged(workspace_.frontmostProcessID(), workspace_.frontmostBundleID());
+}
+
+void FrontmostProfiles::frontmostApplicationChanged(std::optional<std::int32_t> processID,
+                                                    std::string bundleID) {
+    // The user comes here to edit profiles: the one of the application left behind stays.
+    if (processID && *processID == workspace_.ownProcessID()) {
+        return;
+    }
+    frontmostBundleID_ = processID ? std::move(bundleID) : std::string();
+    // Looked up once here rather than on every redraw of the status item.
+    frontmostName_ =
+        frontmostBundleID_.empty() ? std::string() : applicationName(frontmostBundleID_);
+    switcher_.tellFrontApplication({.processID = processID,
+                                    .bundleID = frontmostBundleID_,
+                                    .name = frontmostName_,
+                                    .time = clock_.uptime()});
+    followFrontmost();
+}
+
+Uuid FrontmostProfiles::frontmostProfile() {
+    ProfileStore& profiles = switcher_.profiles();
+    const std::optional<Uuid> assigned =
+        frontmostBundleID_.empty() ? std::nullopt : profiles.profileFor(frontmostBundleID_);
+    return assigned.value_or(profiles.chosenID());
+}
+
+void FrontmostProfiles::followFrontmost() {
+    const Uuid target = frontmostProfile();
+    if (target != switcher_.profiles().activeID()) {
+        switcher_.switchProfileAutomatically(target);
+    }
+}
+
+bool FrontmostProfiles::profileFollowsApplication() {
+    return switcher_.profiles().activeID() != switcher_.profiles().chosenID();
+}
+
+std::string FrontmostProfiles::activeProfileTitle() {
+    const std::string& name = switcher_.profiles().current().name;
+    if (!profileFollowsApplication()) {
+        return name;
+    }
+    return L("profile.automatic", name, frontmostName_);
+}
+
+std::string FrontmostProfiles::applicationName(const std::string& bundleID) const {
+    return workspace_.applicationName(bundleID).value_or(bundleID);
+}
+
+void FrontmostProfiles::editApplications() {
+    editedProfile_ = switcher_.profiles().activeID();
+    view_.showApplications(applicationsSheet());
+}
+
+void FrontmostProfiles::addApplication(const std::string& bundleID) {
+    if (!editedProfile_ || !switcher_.profiles().assign(bundleID, *editedProfile_)) {
+        return;
+    }
+    followFrontmost();
+    view_.showApplications(applicationsSheet());
+}
+
+void FrontmostProfiles::removeApplication(const std::string& bundleID) {
+    if (!editedProfile_ || switcher_.profiles().profileFor(bundleID) != editedProfile_) {
+        return;
+    }
+    switcher_.profiles().unassign(bundleID);
+    followFrontmost();
+    view_.showApplications(applicationsSheet());
+}
+
+void FrontmostProfiles::closeApplications() {
+    editedProfile_.reset();
+}
+
+ApplicationsSheet FrontmostProfiles::applicationsSheet() {
+    const auto& all = switcher_.profiles().profiles();
+    const auto edited = std::ranges::find(all, *editedProfile_, &WorkProfile::id);
+    ApplicationsSheet sheet{
+        .title = L("apps.title", edited->name),
+        .explanation = L("apps.info"),
+        .nameColumn = L("apps.column.name"),
+        .bundleColumn = L("apps.column.id"),
+        .addButton = L("apps.add"),
+        .removeButton = L("apps.remove"),
+        .chooseItem = L("apps.choose"),
+        .chooseMessage = L("apps.choose.message"),
+        .doneButton = L("apps.done"),
+        .applications = {},
+        .running = {},
+    };
+    for (const std::string& bundleID : edited->apps) {
+        sheet.applications.push_back({bundleID, applicationName(bundleID)});
+    }
+    const std::int32_t own = workspace_.ownProcessID();
+    for (const RunningApplication& app : workspace_.regularApplications()) {
+        const bool listed = std::ranges::find(edited->apps, app.bundleID) != edited->apps.end() ||
+                            std::ranges::find(sheet.running, app.bundleID,
+                                              &ApplicationRow::bundleID) != sheet.running.end();
+        if (app.processID != own && !app.bundleID.empty() && !listed) {
+            sheet.running.push_back({app.bundleID, app.name});
+        }
+    }
+    std::ranges::sort(sheet.running, {}, &ApplicationRow::name);
+    return sheet;
+}
+
+}  // namespace tactora
