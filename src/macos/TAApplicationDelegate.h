@@ -18,6 +18,10 @@ NS_ASSUME_NONNULL_BEGIN
 
 - (void)attachController:(std::shared_ptr<tactora::Controller>)controller;
 
+// Whether the system opened the application as a login item, as the open-application Apple
+// event of this launch said; known from applicationWillFinishLaunching: on.
+@property(nonatomic, readonly) BOOL launchedAsLoginItem;
+
 - (void)show;
 - (void)quit;
 - (void)pause;

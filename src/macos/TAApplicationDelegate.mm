@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/app/Controller.h"
+#include "macos/LaunchEvent.h"
 #include "macos/StringConversion.h"
 
 @implementation TAApplicationDelegate {
@@ -11,6 +12,14 @@
 
 - (void)attachController:(std::shared_ptr<tactora::Controller>)controller {
     _controller = std::move(controller);
+}
+
+// The Apple event being handled while launching finishes is the one that opened the
+// application.
+- (void)applicationWillFinishLaunching:(NSNotification*)notification {
+    _launchedAsLoginItem = tactora::macos::launchOrigin(
+                               [NSAppleEventManager sharedAppleEventManager].currentAppleEvent) ==
+                           tactora::LaunchOrigin::loginItem;
 }
 
 - (void)applicationDidFinishLaunching:(NSNotification*)notification {

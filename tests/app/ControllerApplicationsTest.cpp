@@ -246,6 +246,66 @@ TEST_F(ControllerApplicationsTest, DeletingTheChoiceWhileAnotherApplicationHasIt
     EXPECT_EQ(store().activeID(), audioID);
 }
 
+TEST_F(ControllerApplicationsTest, DeletingTheChoiceShowsTheApplicationsProfileAsItsOwn) {
+    h.workspace.bringToFront(musicPID, music);
+    choose(defaultID);
+    h.c().deleteProfile();
+    ASSERT_EQ(store().chosenID(), videoID);
+    ASSERT_EQ(store().activeID(), audioID);
+    // The pop-up and the tooltip both name Music's profile as the one in front.
+    EXPECT_EQ(shownProfile(), "Audio (for Music)");
+    h.c().refresh();
+    EXPECT_EQ(h.view.statusItem->toolTip, "Tactora · menu.active · Audio (for Music)");
+    EXPECT_EQ(savedChoice(), videoID.text());
+    // Music leaving brings the new choice.
+    h.workspace.bringToFront(mailPID, mail);
+    EXPECT_EQ(store().activeID(), videoID);
+    EXPECT_EQ(shownProfile(), "Video");
+}
+
+TEST_F(ControllerApplicationsTest, AddingTheApplicationInFrontToTheEditedProfileSwitchesAtOnce) {
+    h.workspace.bringToFront(musicPID, music);
+    h.c().editApplications();
+    h.c().removeApplication(music);
+    ASSERT_EQ(store().activeID(), defaultID);
+    h.c().addApplication(music);
+    EXPECT_EQ(store().activeID(), audioID);
+    EXPECT_EQ(shownProfile(), "Audio (for Music)");
+}
+
+TEST_F(ControllerApplicationsTest, AHeldPressFinishesBeforeTheApplicationsProfileTakesOver) {
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    ASSERT_EQ(h.send(down), EventDisposition::pass);
+    ASSERT_EQ(down.type, event::rightMouseDown);
+    // Dragged into Safari's window: Safari comes to the front while the press is held.
+    h.workspace.bringToFront(safariPID, safari);
+    EXPECT_EQ(store().activeID(), defaultID);
+    FakeTapEvent drag = h.mouseEvent(event::leftMouseDragged);
+    h.send(drag);
+    EXPECT_EQ(drag.type, event::rightMouseDragged);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    ASSERT_EQ(h.send(up), EventDisposition::pass);
+    // One press, one matching up, at the physical release; nothing posted of its own.
+    EXPECT_EQ(up.type, event::rightMouseUp);
+    EXPECT_TRUE(h.poster.posted.empty());
+    h.queue.runReady();
+    EXPECT_EQ(store().activeID(), videoID);
+    EXPECT_EQ(shownProfile(), "Video (for Safari)");
+}
+
+TEST_F(ControllerApplicationsTest, AProfileChosenByHandWhileAPressIsHeldReplacesTheWaitingSwitch) {
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    ASSERT_EQ(h.send(down), EventDisposition::pass);
+    h.workspace.bringToFront(safariPID, safari);
+    choose(audioID);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    h.send(up);
+    h.queue.advance(1);
+    EXPECT_EQ(store().activeID(), audioID);
+}
+
 TEST_F(ControllerApplicationsTest, CancellingTheDeletionChangesNothing) {
     h.dialogs.confirm = false;
     const auto before = store().profiles();

@@ -254,6 +254,19 @@ TEST_F(ControllerSurfaceTest, ATapShowsItsFingerCountInTheMenuBarForOneSecond) {
     EXPECT_EQ(statusTitle(h), "");
 }
 
+TEST_F(ControllerSurfaceTest, FeedbackOffAndOnWithinItsTimeBringsNoOldCountBack) {
+    h.c().toggleMenuBarFeedback();
+    h.assign(6, action::copy);
+    h.tap(3);
+    h.queue.advance(Controller::tapDelay);
+    ASSERT_EQ(statusTitle(h), "3");
+    h.c().toggleMenuBarFeedback();
+    h.queue.advance(0.2);
+    h.c().toggleMenuBarFeedback();
+    h.c().refresh();
+    EXPECT_EQ(statusTitle(h), "");
+}
+
 TEST_F(ControllerSurfaceTest, AnInterceptedClickShowsItsFingerCountAtOnce) {
     h.c().toggleMenuBarFeedback();
     h.assign(1, action::right);

@@ -24,6 +24,7 @@
 #include "core/gestures/GestureDispatchContext.h"
 #include "core/gestures/GestureState.h"
 #include "core/keepon/KeepOn.h"
+#include "core/keepon/LaunchPresence.h"
 #include "core/keepon/PermissionMemory.h"
 #include "core/platform/ApplicationsSheet.h"
 #include "core/platform/ContactFrame.h"
@@ -84,8 +85,11 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // terminates; otherwise builds the menus, the window and the status item, connects the
     // sensor, starts the refresh timer, watches for wake and for other copies' requests to
     // show the window, and shows the window. Gestures stay off until the user switches them on.
+    // Started by the login item it stays in the menu bar: no window and no Dock icon until the
+    // user opens the window.
     void applicationDidFinishLaunching();
-    // Both drop pending gesture actions, let go of held presses and reset the recogniser.
+    // Both drop pending gesture actions, let go of held presses and reset the recogniser;
+    // becoming active also reads the login item's status afresh.
     void applicationDidBecomeActive();
     void applicationDidResignActive();
     // Pauses, then stops the sensor.
@@ -95,7 +99,8 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // AppKit to do. Otherwise it returns true, leaving AppKit's usual handling.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
 
-    // Brings the settings window to the front and activates the application.
+    // Brings the settings window to the front and activates the application, with its Dock icon
+    // from then on; reads the login item's status afresh.
     void show();
     void quit();
     // Switches gestures off: cancels pending actions, turns the switch off and applies it.
@@ -133,22 +138,30 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // The "Keep gestures on" checkbox's action: takes its state, and the master switch's as
     // the user's choice.
     void toggleKeepOn();
-    // A multitouch mouse arrived or left: reconnects, deviceSettle seconds later.
-    void deviceArrived();
-    void deviceLeft();
+    // A multitouch mouse arrived while none is connected: reconnects deviceSettle seconds later,
+    // then retries as after a wake until it is connected. A mouse arriving while another one
+    // works changes nothing.
+    void deviceArrived(std::uint64_t device);
+    // The connected mouse left: pauses and reconnects, deviceSettle seconds later. Another
+    // device leaving changes nothing.
+    void deviceLeft(std::uint64_t device);
     // The "Open at login" checkbox's action: registers or unregisters the login item.
     void toggleLoginItem();
     // Opens the Login Items pane of System Settings, where a pending login item is approved.
     void openLoginItems();
-    // Resets both permissions of this application with the system's tool, then asks for both
-    // again as access() and monitor() do. A failed reset shows the tool's exit status.
+    // Pauses gestures, then resets both permissions of this application with the system's
+    // tool, off the main thread and a few seconds at most each; then asks again for the first
+    // permission missing, as access() or monitor() does. A failed reset shows the tool's exit
+    // status, one that took too long says so.
     void resetPermissions();
 
     const KeepOn& keepOn() const { return keepOn_; }
 
     // --- Status display ----------------------------------------------------------------------
 
-    // Rewrites the permission line and the live line, then the status item.
+    // Rewrites the permission line and the live line, then the status item. Never asks for the
+    // login item's status: that is a query to a system service, read only when the window is
+    // shown, the application becomes active, and after registering or unregistering.
     void refresh();
     // Redraws the status item, but only when its image, title or tooltip would change.
     void updateMenuIcon();
@@ -237,10 +250,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     // --- Profile files -----------------------------------------------------------------------
 
-    // Writes every profile to a file chosen with a save panel.
+    // Writes every profile to a file chosen with a save panel, once the panel closes.
     void exportProfiles();
-    // Appends the profiles of a file chosen with an open panel; a file that is not such a list
-    // changes nothing and is explained in a message.
+    // Appends the profiles of a file chosen with an open panel, once the panel closes; a file
+    // that is not such a list changes nothing and is explained in a message.
     void importProfiles();
 
     // --- Live view of the touch surface and feedback in the menu bar ---------------------------
@@ -308,6 +321,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void scheduleDeviceReconnect();
     void syncActivity();
     void refreshLoginItem();
+    void exportTo(const std::string& path);
+    void importFrom(const std::string& path);
+    void resetNextPermission(std::size_t index, const std::string& bundleID);
+    void permissionsReset();
     void warnIfSecureInput();
     std::string permissionLine(bool accessibility, bool inputMonitoring);
     void watchDevices();
@@ -335,8 +352,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void switchProfile(const Uuid& id, ProfileSwitch kind);
     // The profile of the application in front, or the user's choice when it has none.
     Uuid frontmostProfile();
-    // Switches to frontmostProfile() when that is not the active one already.
+    // Switches to frontmostProfile() when that is not the active one already; while a press is
+    // held, only once it has ended.
     void followFrontmost();
+    void resumeFollowing();
     ApplicationsSheet applicationsSheet();
     std::string applicationName(const std::string& bundleID) const;
     void applySwitch(bool byUser);
@@ -368,6 +387,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     std::string frontmostBundleID_;
     std::string frontmostName_;          // what the user calls that application
     std::optional<Uuid> editedProfile_;  // the applications sheet's profile while it is open
+    bool followPending_ = false;         // an automatic switch waits for a held press to end
 
     KeepOn keepOn_;
     PermissionMemory permissionMemory_;
@@ -380,6 +400,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     std::string sensorText_;
     std::optional<std::pair<bool, bool>> lastPermissions_;
     std::optional<LoginItemStatus> loginStatus_;
+    LaunchPresence launch_{LaunchOrigin::user};
 
     bool windowBuilt_ = false;
     bool statusItemCreated_ = false;

@@ -26,10 +26,30 @@ Uuid Controller::frontmostProfile() {
 }
 
 void Controller::followFrontmost() {
+    // A press held now was rewritten by the profile in front: it keeps that profile until its
+    // up has been sent, at the physical release (see resumeFollowing()).
+    followPending_ = !presses_.empty();
+    if (followPending_) {
+        return;
+    }
     const Uuid target = frontmostProfile();
     if (target != profiles().activeID()) {
         switchProfile(target, ProfileSwitch::automatic);
     }
+}
+
+// After the last held press ended: the switch that waited for it happens, once the event tap's
+// callback that ended it has returned.
+void Controller::resumeFollowing() {
+    if (!followPending_ || !presses_.empty()) {
+        return;
+    }
+    services_.queue.async([weak = weak_from_this()] {
+        const auto self = weak.lock();
+        if (self && self->followPending_) {
+            self->followFrontmost();
+        }
+    });
 }
 
 bool Controller::profileFollowsApplication() {

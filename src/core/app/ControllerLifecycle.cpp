@@ -16,7 +16,12 @@ void Controller::applicationDidFinishLaunching() {
         services_.workspace.terminate();
         return;
     }
-    services_.shell.setRegularActivationPolicy();
+    launch_ = LaunchPresence(services_.shell.launchOrigin());
+    if (launch_.showsDockIcon()) {
+        services_.shell.setRegularActivationPolicy();
+    } else {
+        services_.shell.setAccessoryActivationPolicy();
+    }
     services_.shell.applyApplicationIcon();
     services_.shell.buildMainMenu(mainMenuItems());
     services_.shell.addMainMenu(editMenuTitle(), editMenuItems());
@@ -26,6 +31,8 @@ void Controller::applicationDidFinishLaunching() {
     updateMenuIcon();
     showStatusMenu();
     reconnect();
+    // After the reconnect's own line, so that a login item waiting for approval is said.
+    refreshLoginItem();
     startRefreshTimer();
     observeWake();
     observeShowRequests();
@@ -33,12 +40,15 @@ void Controller::applicationDidFinishLaunching() {
     frontmostApplicationChanged(services_.workspace.frontmostProcessID(),
                                 services_.workspace.frontmostBundleID());
     watchDevices();
-    show();
+    if (launch_.showsWindowAtLaunch()) {
+        show();
+    }
 }
 
 void Controller::applicationDidBecomeActive() {
     noteTrace(services_.clock.uptime(), TraceActive{true});
     dropPendingWork();
+    refreshLoginItem();
 }
 
 void Controller::applicationDidResignActive() {
@@ -63,6 +73,10 @@ bool Controller::applicationShouldHandleReopen(bool hasVisibleWindows) {
 }
 
 void Controller::show() {
+    if (launch_.windowOpened()) {
+        services_.shell.setRegularActivationPolicy();
+    }
+    refreshLoginItem();
     services_.shell.showWindow();
     services_.workspace.activate();
 }
@@ -72,8 +86,9 @@ void Controller::quit() {
 }
 
 void Controller::pause() {
-    if (programActions_ == 0) {
-        keepOn_.userChose(false);
+    if (programActions_ == 0 && keepOn_.userChose(false)) {
+        // "Gestures come back on by themselves once …" no longer holds.
+        services_.view.setStatusText(sensorText_);
     }
     cancelPendingActions();
     services_.view.setEnabledOn(false);
@@ -83,8 +98,8 @@ void Controller::pause() {
 
 void Controller::toggle() {
     const bool byUser = programActions_ == 0 && pausing_ == 0;
-    if (byUser) {
-        keepOn_.userChose(services_.view.isEnabledOn());
+    if (byUser && keepOn_.userChose(services_.view.isEnabledOn())) {
+        services_.view.setStatusText(sensorText_);
     }
     applySwitch(byUser);
     noteGestures();

@@ -31,13 +31,19 @@ const char* problemKey(ProfileFileError error) {
 
 void Controller::exportProfiles() {
     dropPendingWork();
-    const std::optional<std::string> path =
-        services_.files.chooseExportPath(L("export.file") + ".json", L("export.message"));
-    if (!path) {
-        return;
-    }
+    services_.files.chooseExportPath(L("export.file") + ".json", L("export.message"),
+                                     [weak = weak_from_this()](std::optional<std::string> path) {
+                                         const auto self = weak.lock();
+                                         if (self && path) {
+                                             self->exportTo(*path);
+                                         }
+                                     });
+}
+
+// Written when the panel closes: the profiles as they are then.
+void Controller::exportTo(const std::string& path) {
     const std::optional<std::string> json = encodeProfiles(profiles().profiles());
-    if (!json || !services_.files.write(*path, *json)) {
+    if (!json || !services_.files.write(path, *json)) {
         services_.dialogs.showMessage({L("export.failed"), L("export.write")});
         return;
     }
@@ -47,12 +53,18 @@ void Controller::exportProfiles() {
 
 void Controller::importProfiles() {
     dropPendingWork();
-    const std::optional<std::string> path = services_.files.chooseImportPath(L("import.message"));
-    if (!path) {
-        return;
-    }
+    services_.files.chooseImportPath(L("import.message"),
+                                     [weak = weak_from_this()](std::optional<std::string> path) {
+                                         const auto self = weak.lock();
+                                         if (self && path) {
+                                             self->importFrom(*path);
+                                         }
+                                     });
+}
+
+void Controller::importFrom(const std::string& path) {
     // One byte more than allowed tells a file at the limit from a larger one.
-    const std::optional<std::string> bytes = services_.files.read(*path, maxProfileFileBytes + 1);
+    const std::optional<std::string> bytes = services_.files.read(path, maxProfileFileBytes + 1);
     if (!bytes) {
         services_.dialogs.showMessage({L("import.failed"), L("import.unreadable")});
         return;

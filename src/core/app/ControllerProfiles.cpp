@@ -87,6 +87,8 @@ void Controller::selectProfile() {
 }
 
 void Controller::switchProfile(const Uuid& id, ProfileSwitch kind) {
+    // Whatever switch waited for a held press, this one replaces it.
+    followPending_ = false;
     dropPendingWork();
     if (kind == ProfileSwitch::chosen) {
         profiles().select(id);

@@ -36,7 +36,6 @@ void Controller::refresh() {
         showSurface();
     }
     updateMenuIcon();
-    refreshLoginItem();
     keepOnAtRefresh(accessibility, inputMonitoring);
 }
 

@@ -72,6 +72,7 @@ void Controller::releasePresses() {
         }
     }
     presses_.clear();
+    resumeFollowing();
 }
 
 void Controller::tapDisabled() {
@@ -157,6 +158,7 @@ EventDisposition Controller::pressContinues(EventType type, TapEvent& event, std
     }
     const Press press = held->second;
     presses_.erase(held);
+    resumeFollowing();
     if (press.button) {
         rewrite(event, *press.button, false, false);
         return EventDisposition::pass;

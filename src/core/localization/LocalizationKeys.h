@@ -184,6 +184,8 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("permission.stale"),
     LocalizationKey("reset.failed", {integerArgument}),
     LocalizationKey("reset.done"),
+    LocalizationKey("reset.running"),
+    LocalizationKey("reset.timedOut"),
     LocalizationKey("login.approval"),
     LocalizationKey("login.failed", {integerArgument}),
     LocalizationKey("secure.input"),
