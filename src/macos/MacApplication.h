@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "core/app/Controller.h"
+#include "core/composition/Tactora.h"
 #include "core/platform/Sensor.h"
 #include "core/profiles/Preferences.h"
 #include "macos/AppKitDialogs.h"
@@ -27,8 +27,9 @@
 
 namespace tactora::macos {
 
-// The interactive application: the AppKit implementations of the controller's services, the
-// controller itself and the delegate that forwards to it. Made after the shared application.
+// The interactive application: the AppKit implementations of the program's services, the
+// program itself (the controller and the parts beside it) and the delegate that forwards to it.
+// Made after the shared application.
 class MacApplication {
   public:
     MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defaults);
@@ -61,7 +62,7 @@ class MacApplication {
     AppKitSettingsView view_;
     AppKitShell shell_;
     AppKitSurfaceView surface_;
-    std::shared_ptr<Controller> controller_;
+    std::unique_ptr<Tactora> program_;
 };
 
 }  // namespace tactora::macos

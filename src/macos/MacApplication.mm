@@ -23,7 +23,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
       view_(controls_),
       shell_(controls_, delegate_),
       surface_(controls_),
-      controller_(Controller::create({
+      program_(std::make_unique<Tactora>(ControllerServices{
           .clock = clock_,
           .queue = queue_,
           .workspace = workspace_,
@@ -44,7 +44,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
           .secureInput = secureInput_,
           .resetTool = resetTool_,
       })) {
-    [delegate_ attachController:controller_];
+    [delegate_ attachProgram:program_.get()];
 }
 
 MacApplication::~MacApplication() {
@@ -54,7 +54,7 @@ MacApplication::~MacApplication() {
 }
 
 void MacApplication::run() {
-    setApplicationController(controller_);
+    setApplicationController(program_->sharedController());
     // The application keeps its delegate weakly; this object keeps it alive.
     NSApp.delegate = delegate_;
     // SIGTERM (scripts/run, `kill`) quits as the menu does, so the sensor and the event tap are
@@ -62,7 +62,7 @@ void MacApplication::run() {
     signal(SIGTERM, SIG_IGN);
     dispatch_source_t termination =
         dispatch_source_create(DISPATCH_SOURCE_TYPE_SIGNAL, SIGTERM, 0, dispatch_get_main_queue());
-    const std::weak_ptr<Controller> weak = controller_;
+    const std::weak_ptr<Controller> weak = program_->sharedController();
     dispatch_source_set_event_handler(termination, ^{
         if (const auto controller = weak.lock()) {
             controller->quit();

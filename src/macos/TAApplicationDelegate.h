@@ -7,16 +7,18 @@
 #import "macos/TAApplicationsSheet.h"
 
 namespace tactora {
-class Controller;
+class Tactora;
 }
 
 NS_ASSUME_NONNULL_BEGIN
 
 // The application's delegate and the target of every menu item and control: it hands each call
-// to the controller unchanged. The action selectors are the controller's operation names.
+// unchanged to the part of the program that owns it, the controller or one beside it. The
+// action selectors are those parts' operation names.
 @interface TAApplicationDelegate : NSObject <NSApplicationDelegate, TAApplicationsSheetTarget>
 
-- (void)attachController:(std::shared_ptr<tactora::Controller>)controller;
+// `program` is not owned; it must outlive every call the delegate receives.
+- (void)attachProgram:(tactora::Tactora*)program;
 
 // Whether the system opened the application as a login item, as the open-application Apple
 // event of this launch said; known from applicationWillFinishLaunching: on.

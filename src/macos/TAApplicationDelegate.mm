@@ -1,17 +1,15 @@
 #import "macos/TAApplicationDelegate.h"
 
-#include <utility>
-
-#include "core/app/Controller.h"
+#include "core/composition/Tactora.h"
 #include "macos/LaunchEvent.h"
 #include "macos/StringConversion.h"
 
 @implementation TAApplicationDelegate {
-    std::shared_ptr<tactora::Controller> _controller;
+    tactora::Tactora* _program;  // not owned
 }
 
-- (void)attachController:(std::shared_ptr<tactora::Controller>)controller {
-    _controller = std::move(controller);
+- (void)attachProgram:(tactora::Tactora*)program {
+    _program = program;
 }
 
 // The Apple event being handled while launching finishes is the one that opened the
@@ -23,23 +21,23 @@
 }
 
 - (void)applicationDidFinishLaunching:(NSNotification*)notification {
-    _controller->applicationDidFinishLaunching();
+    _program->controller().applicationDidFinishLaunching();
 }
 
 - (void)applicationDidBecomeActive:(NSNotification*)notification {
-    _controller->applicationDidBecomeActive();
+    _program->controller().applicationDidBecomeActive();
 }
 
 - (void)applicationDidResignActive:(NSNotification*)notification {
-    _controller->applicationDidResignActive();
+    _program->controller().applicationDidResignActive();
 }
 
 - (void)applicationWillTerminate:(NSNotification*)notification {
-    _controller->applicationWillTerminate();
+    _program->controller().applicationWillTerminate();
 }
 
 - (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag {
-    return _controller->applicationShouldHandleReopen(flag) ? YES : NO;
+    return _program->controller().applicationShouldHandleReopen(flag) ? YES : NO;
 }
 
 // Nothing is restored between launches; saying so keeps AppKit from warning about it.
@@ -48,111 +46,111 @@
 }
 
 - (void)show {
-    _controller->show();
+    _program->controller().show();
 }
 
 - (void)quit {
-    _controller->quit();
+    _program->controller().quit();
 }
 
 - (void)pause {
-    _controller->pause();
+    _program->controller().pause();
 }
 
 - (void)recordTouches {
-    _controller->recordTouches();
+    _program->recorder().recordTouches();
 }
 
 - (void)toggle {
-    _controller->toggle();
+    _program->controller().toggle();
 }
 
 - (void)access {
-    _controller->access();
+    _program->controller().access();
 }
 
 - (void)monitor {
-    _controller->monitor();
+    _program->controller().monitor();
 }
 
 - (void)reconnect {
-    _controller->reconnect();
+    _program->controller().reconnect();
 }
 
 - (void)selectProfile {
-    _controller->selectProfile();
+    _program->controller().selectProfile();
 }
 
 - (void)newProfile {
-    _controller->newProfile();
+    _program->controller().newProfile();
 }
 
 - (void)renameProfile {
-    _controller->renameProfile();
+    _program->controller().renameProfile();
 }
 
 - (void)duplicateProfile {
-    _controller->duplicateProfile();
+    _program->controller().duplicateProfile();
 }
 
 - (void)deleteProfile {
-    _controller->deleteProfile();
+    _program->profileFiles().deleteProfile();
 }
 
 - (void)editApplications {
-    _controller->editApplications();
+    _program->controller().editApplications();
 }
 
 - (void)importProfiles {
-    _controller->importProfiles();
+    _program->profileFiles().importProfiles();
 }
 
 - (void)exportProfiles {
-    _controller->exportProfiles();
+    _program->profileFiles().exportProfiles();
 }
 
 - (void)addApplication:(NSString*)bundleID {
-    _controller->addApplication(tactora::macos::toStdString(bundleID));
+    _program->controller().addApplication(tactora::macos::toStdString(bundleID));
 }
 
 - (void)removeApplication:(NSString*)bundleID {
-    _controller->removeApplication(tactora::macos::toStdString(bundleID));
+    _program->controller().removeApplication(tactora::macos::toStdString(bundleID));
 }
 
 - (void)closeApplications {
-    _controller->closeApplications();
+    _program->controller().closeApplications();
 }
 
 - (void)changed:(NSControl*)sender {
-    _controller->changed(sender.tag);
+    _program->controller().changed(sender.tag);
 }
 
 - (void)recordShortcut:(NSControl*)sender {
-    _controller->recordShortcut(sender.tag);
+    _program->controller().recordShortcut(sender.tag);
 }
 
 - (void)testDesktop {
-    _controller->testDesktop();
+    _program->controller().testDesktop();
 }
 
 - (void)toggleMenuBarFeedback {
-    _controller->toggleMenuBarFeedback();
+    _program->feedback().toggle();
 }
 
 - (void)toggleKeepOn {
-    _controller->toggleKeepOn();
+    _program->controller().toggleKeepOn();
 }
 
 - (void)toggleLoginItem {
-    _controller->toggleLoginItem();
+    _program->controller().toggleLoginItem();
 }
 
 - (void)resetPermissions {
-    _controller->resetPermissions();
+    _program->controller().resetPermissions();
 }
 
 - (void)openLoginItems {
-    _controller->openLoginItems();
+    _program->controller().openLoginItems();
 }
 
 @end

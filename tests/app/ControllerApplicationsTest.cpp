@@ -209,7 +209,7 @@ TEST_F(ControllerApplicationsTest, ApplicationWithoutAKnownNameIsShownByItsBundl
 TEST_F(ControllerApplicationsTest, DeletingTheProfileOfTheFrontmostApplication) {
     h.workspace.bringToFront(safariPID, safari);
     const std::int64_t before = h.c().actionGeneration();
-    h.c().deleteProfile();
+    h.a().profileFiles().deleteProfile();
 
     EXPECT_EQ(h.dialogs.confirmationTexts->message, "delete Video");
     ASSERT_EQ(store().profiles().size(), 2U);
@@ -223,14 +223,14 @@ TEST_F(ControllerApplicationsTest, DeletingTheProfileOfTheFrontmostApplication) 
 
 TEST_F(ControllerApplicationsTest, DeletingTheChosenProfileMakesTheFirstRemainingActive) {
     choose(audioID);
-    h.c().deleteProfile();
+    h.a().profileFiles().deleteProfile();
     EXPECT_EQ(store().activeID(), defaultID);
     EXPECT_EQ(savedChoice(), defaultID.text());
     EXPECT_EQ(h.c().lastGesture(), "—");
 }
 
 TEST_F(ControllerApplicationsTest, DeletingTheFirstProfileMakesTheNextOneActive) {
-    h.c().deleteProfile();
+    h.a().profileFiles().deleteProfile();
     EXPECT_EQ(store().activeID(), videoID);
     EXPECT_EQ(store().chosenID(), videoID);
 }
@@ -240,7 +240,7 @@ TEST_F(ControllerApplicationsTest, DeletingTheChoiceWhileAnotherApplicationHasIt
     choose(defaultID);
     h.workspace.bringToFront(musicPID, music);
     choose(defaultID);  // Music in front, Default chosen by hand and shown
-    h.c().deleteProfile();
+    h.a().profileFiles().deleteProfile();
     // Video is the first remaining and becomes the choice; Music still has Audio.
     EXPECT_EQ(store().chosenID(), videoID);
     EXPECT_EQ(store().activeID(), audioID);
@@ -249,7 +249,7 @@ TEST_F(ControllerApplicationsTest, DeletingTheChoiceWhileAnotherApplicationHasIt
 TEST_F(ControllerApplicationsTest, DeletingTheChoiceShowsTheApplicationsProfileAsItsOwn) {
     h.workspace.bringToFront(musicPID, music);
     choose(defaultID);
-    h.c().deleteProfile();
+    h.a().profileFiles().deleteProfile();
     ASSERT_EQ(store().chosenID(), videoID);
     ASSERT_EQ(store().activeID(), audioID);
     // The pop-up and the tooltip both name Music's profile as the one in front.
@@ -309,18 +309,18 @@ TEST_F(ControllerApplicationsTest, AProfileChosenByHandWhileAPressIsHeldReplaces
 TEST_F(ControllerApplicationsTest, CancellingTheDeletionChangesNothing) {
     h.dialogs.confirm = false;
     const auto before = store().profiles();
-    h.c().deleteProfile();
+    h.a().profileFiles().deleteProfile();
     EXPECT_EQ(h.log.count("dialogs.confirmation"), 1);
     EXPECT_EQ(store().profiles(), before);
 }
 
 TEST_F(ControllerApplicationsTest, LastProfileCannotBeDeleted) {
     EXPECT_EQ(h.view.deleteEnabled, true);
-    h.c().deleteProfile();
-    h.c().deleteProfile();
+    h.a().profileFiles().deleteProfile();
+    h.a().profileFiles().deleteProfile();
     EXPECT_EQ(store().profiles().size(), 1U);
     EXPECT_EQ(h.view.deleteEnabled, false);
-    h.c().deleteProfile();
+    h.a().profileFiles().deleteProfile();
     EXPECT_EQ(h.log.count("dialogs.confirmation"), 2);
     EXPECT_EQ(store().profiles().size(), 1U);
 }

@@ -30,6 +30,7 @@
 #include "core/app/ApplicationController.h"
 #include "core/app/Controller.h"
 #include "core/app/Globals.h"
+#include "core/composition/Tactora.h"
 #include "core/localization/Localizer.h"
 #include "core/localization/StringsTable.h"
 #include "core/platform/EventTypes.h"
@@ -63,7 +64,8 @@ inline std::shared_ptr<const StringsTable> testTable() {
     });
 }
 
-// A controller wired to fakes, installed as the application controller, on virtual time.
+// The running program (the controller and the parts beside it) wired to fakes, its controller
+// installed as the application controller, on virtual time.
 class ControllerHarness {
   public:
     ControllerHarness() : ControllerHarness(std::make_shared<MemoryPreferences>()) {}
@@ -73,11 +75,13 @@ class ControllerHarness {
         sensor.mice.insert(mouseSender);
         setStringTable(testTable());
         initializeGlobals();
-        controller = Controller::create(services());
+        app = std::make_unique<Tactora>(services());
+        controller = app->sharedController();
         setApplicationController(controller);
     }
     ~ControllerHarness() {
         clearApplicationController();
+        app.reset();
         setStringTable(nullptr);
     }
     ControllerHarness(const ControllerHarness&) = delete;
@@ -86,6 +90,7 @@ class ControllerHarness {
     ControllerHarness& operator=(ControllerHarness&&) = delete;
 
     Controller& c() { return *controller; }
+    Tactora& a() { return *app; }
 
     // Everything the controller reaches the platform through, for a second controller on the
     // same fakes.
@@ -160,6 +165,7 @@ class ControllerHarness {
     FakeProcessActivity activity;
     FakeSecureInput secureInput;
     FakePermissionResetTool resetTool;
+    std::unique_ptr<Tactora> app;
     std::shared_ptr<Controller> controller;
 };
 

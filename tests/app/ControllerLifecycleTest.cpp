@@ -158,6 +158,7 @@ TEST_F(ControllerLifecycleTest, AShowRequestAfterTheControllerIsGoneDoesNothing)
     h.c().applicationDidFinishLaunching();
     const std::function<void()> request = h.workspace.showRequested;
     clearApplicationController();
+    h.app.reset();
     h.controller.reset();
     h.log.clear();
 
@@ -196,6 +197,7 @@ TEST_F(ControllerLifecycleTest, RefreshTimerRunsEveryFifthOfASecondWhileTheContr
 
     h.view.live.clear();
     clearApplicationController();
+    h.app.reset();
     h.controller.reset();
     h.queue.advance(1);
     EXPECT_TRUE(h.view.live.empty());
@@ -322,6 +324,7 @@ TEST_F(ControllerLifecycleTest, WakingPausesThenReconnects) {
 TEST_F(ControllerLifecycleTest, WakeAfterTheControllerIsGoneDoesNothing) {
     h.c().applicationDidFinishLaunching();
     clearApplicationController();
+    h.app.reset();
     h.controller.reset();
     h.log.clear();
     h.workspace.wake();

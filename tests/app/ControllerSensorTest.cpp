@@ -182,6 +182,7 @@ TEST_F(ControllerSensorTest, AnotherApplicationInFrontWithinTheWaitCancelsTheTap
 TEST_F(ControllerSensorTest, TapOutlivingTheControllerDoesNothing) {
     h.tap(2);
     clearApplicationController();
+    h.app.reset();
     h.controller.reset();
     h.queue.advance(0.1);
 

@@ -1,5 +1,7 @@
 #include "core/app/AppMenus.h"
 
+#include <algorithm>
+
 #include "core/localization/Localizer.h"
 
 namespace tactora {
@@ -11,16 +13,17 @@ std::vector<MenuEntry> mainMenuItems() {
     };
 }
 
-std::vector<MenuEntry> statusMenuItems(bool menuBarFeedback, bool recordingTouches) {
-    return {
+std::vector<MenuEntry> statusMenuItems(std::span<const MenuEntry> extras) {
+    std::vector<MenuEntry> items{
         {L("menu.open"), MenuCommand::show, ""},
         {L("menu.pause"), MenuCommand::pause, ""},
-        {L("menu.feedback"), MenuCommand::toggleMenuBarFeedback, "", menuBarFeedback},
-        {L(recordingTouches ? "menu.trace.stop" : "menu.trace.start"), MenuCommand::recordTouches,
-         ""},
-        {"", MenuCommand::separator, ""},
-        {L("menu.exit"), MenuCommand::quit, "q"},
     };
+    std::vector<MenuEntry> added(extras.begin(), extras.end());
+    std::ranges::stable_sort(added, {}, &MenuEntry::command);
+    items.insert(items.end(), added.begin(), added.end());
+    items.push_back({"", MenuCommand::separator, ""});
+    items.push_back({L("menu.exit"), MenuCommand::quit, "q"});
+    return items;
 }
 
 std::string editMenuTitle() {

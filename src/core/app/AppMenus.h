@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -10,10 +11,10 @@ namespace tactora {
 // The application menu's items: open the settings, quit (⌘Q). Texts localised; main thread.
 std::vector<MenuEntry> mainMenuItems();
 
-// The status item's menu: open the settings, pause, show gestures in the menu bar (checked
-// when `menuBarFeedback` is on), record touches (which reads "Stop Recording" while a
-// recording is under way), a separator, exit (⌘Q).
-std::vector<MenuEntry> statusMenuItems(bool menuBarFeedback, bool recordingTouches);
+// The status item's menu: open the settings, pause, the `extras` of the parts beside the
+// controller (show gestures in the menu bar, record touches) in the order of their commands, a
+// separator, exit (⌘Q).
+std::vector<MenuEntry> statusMenuItems(std::span<const MenuEntry> extras);
 
 // The menu bar's Edit menu, so that text fields take the usual keys: Undo (⌘Z), Redo (⇧⌘Z), a
 // separator, Cut (⌘X), Copy (⌘C), Paste (⌘V), Select All (⌘A).

@@ -16,7 +16,7 @@ Controller::Controller(Passkey /*unused*/, ControllerServices services)
     : services_(std::move(services)),
       keepOn_(services_.defaults),
       permissionMemory_(services_.defaults),
-      feedback_(services_.defaults) {
+      observers_(services_.queue) {
     frameFingers_.reserve(ContactFrame::capacity);
     services_.view.setLiveText(L("live", std::int64_t{0}, lastGesture_, lastAction_));
 }
@@ -37,13 +37,29 @@ GestureDispatchContext Controller::dispatchContext() {
 }
 
 bool Controller::mayDispatch(const GestureDispatchContext& context) {
-    if (trace_.isRecording()) {
-        noteFrontApplication(services_.clock.uptime());
-    }
+    return !guardRefusal(context);
+}
+
+std::optional<DropReason> Controller::guardRefusal(const GestureDispatchContext& context) {
+    const bool enabled = services_.view.isEnabledOn();
     const bool configuring = recording_ || services_.workspace.isActive();
-    return context.isCurrent(actionGeneration_, profiles().activeID(),
-                             services_.workspace.frontmostProcessID(), services_.view.isEnabledOn(),
-                             configuring);
+    const std::optional<std::int32_t> front = services_.workspace.frontmostProcessID();
+    if (context.isCurrent(actionGeneration_, profiles().activeID(), front, enabled, configuring)) {
+        return std::nullopt;
+    }
+    if (!enabled) {
+        return DropReason::switchChanged;
+    }
+    if (configuring) {
+        return DropReason::gesturesOff;
+    }
+    if (context.profile != profiles().activeID()) {
+        return DropReason::profileChanged;
+    }
+    if (!front || context.targetPID != front) {
+        return DropReason::applicationChanged;
+    }
+    return DropReason::switchChanged;
 }
 
 ProfileStore& Controller::profiles() {

@@ -13,13 +13,15 @@
 
 #include "core/actions/ActionIndex.h"
 #include "core/actions/SavedShortcut.h"
+#include "core/app/ControllerEvents.h"
 #include "core/app/ControllerObserver.h"
 #include "core/app/ControllerServices.h"
 #include "core/app/GestureKind.h"
-#include "core/app/MenuBarFeedback.h"
 #include "core/app/NamingMode.h"
+#include "core/app/ObserverList.h"
 #include "core/app/Press.h"
-#include "core/app/TouchSurface.h"
+#include "core/app/ProfileSwitcher.h"
+#include "core/app/StatusDisplay.h"
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureDispatchContext.h"
 #include "core/gestures/GestureState.h"
@@ -31,12 +33,11 @@
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/LoginItemStatus.h"
+#include "core/platform/MenuEntry.h"
 #include "core/platform/MouseButton.h"
 #include "core/platform/StatusItemAppearance.h"
 #include "core/platform/TapEvent.h"
 #include "core/profiles/ProfileStore.h"
-#include "core/trace/TraceLine.h"
-#include "core/trace/TraceRecorder.h"
 
 namespace tactora {
 
@@ -47,7 +48,9 @@ namespace tactora {
 //
 // Held by std::shared_ptr: work it schedules holds it weakly and does nothing once it is gone.
 // Every member runs on the main thread, except frameCallback(), which runs on the sensor's.
-class Controller : public std::enable_shared_from_this<Controller> {
+class Controller final : public StatusDisplay,
+                         public ProfileSwitcher,
+                         public std::enable_shared_from_this<Controller> {
     struct Passkey {
         explicit Passkey() = default;
     };
@@ -77,7 +80,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     Controller& operator=(const Controller&) = delete;
     Controller(Controller&&) = delete;
     Controller& operator=(Controller&&) = delete;
-    ~Controller() = default;
+    ~Controller() override = default;
 
     // --- Lifecycle: the application delegate and the menus ---------------------------------
 
@@ -162,7 +165,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // Rewrites the permission line and the live line, then the status item. Never asks for the
     // login item's status: that is a query to a system service, read only when the window is
     // shown, the application becomes active, and after registering or unregistering.
-    void refresh();
+    void refresh() override;
+    void setLiveNote(std::string note) override;
+    void setStatusItemTitle(std::string title) override;
+    void setStatusMenuEntry(MenuEntry entry) override;
     // Redraws the status item, but only when its image, title or tooltip would change.
     void updateMenuIcon();
 
@@ -178,7 +184,9 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // --- Actions -----------------------------------------------------------------------------
 
     // Carries out catalogue entry `action`; `shortcut` is used by the custom action only.
-    void perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut);
+    // `origin` and `fingers` say, for the observers, which gesture it stood for.
+    void perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
+                 ActionOrigin origin = ActionOrigin::direct, std::int64_t fingers = 0);
     // Posts one marked mouse button event at the pointer.
     void post(MouseButton button, bool down, std::int64_t clickState = 1);
     // Posts one marked key press, down then up.
@@ -208,11 +216,12 @@ class Controller : public std::enable_shared_from_this<Controller> {
     // --- Profiles ----------------------------------------------------------------------------
 
     // The profile store, created on first use.
-    ProfileStore& profiles();
+    ProfileStore& profiles() override;
+    void switchProfileAutomatically(const Uuid& id) override;
     // The active profile's actions, one per gesture slot.
     const std::vector<ActionIndex>& mapping();
     // Brings the profile pop-up and the gesture rows into line with the store.
-    void refreshProfileUI();
+    void refreshProfileUI() override;
     // An action pop-up's action; `slot` is its tag.
     void changed(std::int64_t slot);
     // The profile pop-up's action.
@@ -221,8 +230,11 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void renameProfile();
     void duplicateProfile();
     void nameProfile(NamingMode mode);
-    // The profile actions' delete item: asks, then deletes the profile shown in the pop-up.
-    void deleteProfile();
+    void dropPendingWork() override;
+    Uuid frontmostProfile() override;
+    // Switches to frontmostProfile() when that is not the active one already; while a press is
+    // held, only once it has ended.
+    void followFrontmost() override;
 
     // --- Profiles of applications ------------------------------------------------------------
 
@@ -248,32 +260,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void removeApplication(const std::string& bundleID);
     void closeApplications();
 
-    // --- Profile files -----------------------------------------------------------------------
-
-    // Writes every profile to a file chosen with a save panel, once the panel closes.
-    void exportProfiles();
-    // Appends the profiles of a file chosen with an open panel, once the panel closes; a file
-    // that is not such a list changes nothing and is explained in a message.
-    void importProfiles();
-
-    // --- Live view of the touch surface and feedback in the menu bar ---------------------------
-
-    // The settings window became visible on screen, or stopped being visible. The live view is
-    // kept up to date only while it is visible; while it is not, frames cost it nothing.
-    void surfaceVisibilityChanged(bool visible);
-    // The status menu's item that shows gestures in the menu bar: turns the preference over.
-    void toggleMenuBarFeedback();
-
-    // --- Touch traces ------------------------------------------------------------------------
-
-    // The status menu's "Record Touches…" item: starts writing a trace of everything the
-    // controller receives, or stops the one under way. Off until the user chooses it.
-    void recordTouches();
-    bool recordingTouches() const { return trace_.isRecording(); }
-
-    // Tells `observer` (not owned; it must outlive the controller, or be taken away with null)
-    // what is recognised and performed from now on.
-    void setObserver(ControllerObserver* observer) { observer_ = observer; }
+    // Tells `observer` (not owned; it must stay alive until removed) what the controller
+    // receives and decides from now on; see ControllerObserver.
+    void addObserver(ControllerObserver& observer) { observers_.add(observer); }
+    void removeObserver(ControllerObserver& observer) { observers_.remove(observer); }
 
     // --- State, for the status display and for tests -----------------------------------------
 
@@ -288,8 +278,6 @@ class Controller : public std::enable_shared_from_this<Controller> {
     bool senderIsMouse() const { return senderIsMouse_; }
     bool recording() const { return recording_; }
     std::int64_t actionGeneration() const { return actionGeneration_; }
-    bool surfaceVisible() const { return surfaceVisible_; }
-    bool menuBarFeedbackOn() const { return feedback_.isOn(); }
 
   private:
     static void receiveFrame(const ContactFrame& frame);
@@ -306,6 +294,9 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     void tapDisabled();
     bool isFromMouse(const TapEvent& event);
+    EventDisposition decide(EventType type, TapEvent& event);
+    // Why the guard refuses `context` now; nothing when it may run.
+    std::optional<DropReason> guardRefusal(const GestureDispatchContext& context);
     EventDisposition pressDown(TapEvent& event, std::int64_t button, double now);
     EventDisposition pressContinues(EventType type, TapEvent& event, std::int64_t button);
     void performOnRelease(const Press& press);
@@ -321,8 +312,6 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void scheduleDeviceReconnect();
     void syncActivity();
     void refreshLoginItem();
-    void exportTo(const std::string& path);
-    void importFrom(const std::string& path);
     void resetNextPermission(std::size_t index, const std::string& bundleID);
     void permissionsReset();
     void warnIfSecureInput();
@@ -336,35 +325,17 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void observeWake();
     void observeShowRequests();
     void observeFrontmostApplication();
-    void dropPendingWork();
-
-    void noteGesture(GestureKind kind, std::int64_t fingers, double at);
-    void noteAction(ActionIndex action, const std::optional<SavedShortcut>& shortcut, double at);
-    void fireFeedback(std::int64_t fingers, double at);
-    void highlightChanged();
-    void scheduleHighlightEnd();
-    void showSurface();
 
     enum class ProfileSwitch { chosen, automatic };
     // The steps of selectProfile() around the store's change: pending actions cancelled, held
     // presses released, recogniser reset, the store's select() (a choice) or activate(), then
     // the status texts and controls refreshed.
     void switchProfile(const Uuid& id, ProfileSwitch kind);
-    // The profile of the application in front, or the user's choice when it has none.
-    Uuid frontmostProfile();
-    // Switches to frontmostProfile() when that is not the active one already; while a press is
-    // held, only once it has ended.
-    void followFrontmost();
+    // An automatic switch that waited for a held press happens once the last one has ended.
     void resumeFollowing();
     ApplicationsSheet applicationsSheet();
     std::string applicationName(const std::string& bundleID) const;
     void applySwitch(bool byUser);
-    void noteTapEvent(EventType type, const TapEvent& event);
-    void startTrace();
-    void stopTrace();
-    void noteTrace(double now, TraceEvent event);
-    void noteFrontApplication(double now);
-    void noteGestures();
     void showStatusMenu();
 
     ActionIndex actionAt(std::int64_t slot);
@@ -408,14 +379,14 @@ class Controller : public std::enable_shared_from_this<Controller> {
     std::optional<StatusItemAppearance> shownAppearance_;
     std::vector<Finger> frameFingers_;  // reused for every frame, so frames allocate nothing
 
-    TouchSurface surface_;
-    bool surfaceVisible_ = false;
-    MenuBarFeedback feedback_;
-    TraceRecorder trace_;
-    std::string tracePath_;
-    std::optional<TraceFrontApplication> tracedFront_;
-    std::optional<bool> tracedGestures_;
-    ControllerObserver* observer_ = nullptr;  // not owned
+    // What the parts beside the controller add to the status display.
+    struct StatusExtras {
+        std::string liveNote;
+        std::string title;
+        std::vector<MenuEntry> menuEntries;
+    };
+    StatusExtras statusExtras_;
+    ObserverList observers_;
 };
 
 }  // namespace tactora

@@ -19,10 +19,16 @@ const std::string& actionName(ActionIndex action) {
 
 }  // namespace
 
-void Controller::perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut) {
-    if (observer_ != nullptr) {
-        observer_->actionPerformed(action);
-    }
+void Controller::perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
+                         ActionOrigin origin, std::int64_t fingers) {
+    observers_.actionPerformed({
+        .action = action,
+        .shortcut = shortcut,
+        .origin = origin,
+        .fingers = fingers,
+        .asButton = std::nullopt,
+        .time = services_.clock.uptime(),
+    });
     if (action == action::custom) {
         performShortcut(shortcut);
         return;

@@ -40,24 +40,25 @@ void Controller::applicationDidFinishLaunching() {
     frontmostApplicationChanged(services_.workspace.frontmostProcessID(),
                                 services_.workspace.frontmostBundleID());
     watchDevices();
+    observers_.launched(services_.clock.uptime());
     if (launch_.showsWindowAtLaunch()) {
         show();
     }
 }
 
 void Controller::applicationDidBecomeActive() {
-    noteTrace(services_.clock.uptime(), TraceActive{true});
+    observers_.activeChanged({.active = true, .time = services_.clock.uptime()});
     dropPendingWork();
     refreshLoginItem();
 }
 
 void Controller::applicationDidResignActive() {
-    noteTrace(services_.clock.uptime(), TraceActive{false});
+    observers_.activeChanged({.active = false, .time = services_.clock.uptime()});
     dropPendingWork();
 }
 
 void Controller::applicationWillTerminate() {
-    stopTrace();
+    observers_.terminating(services_.clock.uptime());
     // The program's pause: the user's choice is kept for the next launch.
     const ScopedCount program(programActions_);
     pause();
@@ -102,7 +103,10 @@ void Controller::toggle() {
         services_.view.setStatusText(sensorText_);
     }
     applySwitch(byUser);
-    noteGestures();
+    // A pause from the menu is the user's too.
+    observers_.switchChanged({.on = services_.view.isEnabledOn(),
+                              .byUser = programActions_ == 0,
+                              .time = services_.clock.uptime()});
 }
 
 // Applies the switch's state; `byUser` when the user ticked it, not the program.
@@ -159,11 +163,6 @@ bool Controller::activateOtherInstance() {
 void Controller::buildWindow() {
     services_.shell.buildWindow(settingsWindowTexts());
     windowBuilt_ = true;
-    services_.surface.observeVisibility([weak = weak_from_this()](bool visible) {
-        if (const auto self = weak.lock()) {
-            self->surfaceVisibilityChanged(visible);
-        }
-    });
     services_.view.setKeepOnChecked(keepOn_.enabled());
     refreshProfileUI();
 }

@@ -1,26 +1,53 @@
 #pragma once
 
-#include <cstdint>
+#include <span>
 
-#include "core/actions/ActionIndex.h"
-#include "core/platform/MouseButton.h"
+#include "core/app/ControllerEvents.h"
+#include "core/gestures/Finger.h"
 
 namespace tactora {
 
-// Told what the controller decided, as it decides it; the replay of a trace prints it. Every
-// call comes on the main thread, from inside the controller's own operation.
+// Told what the controller received and decided. An observer overrides only what it needs;
+// every call comes on the main thread, after the decision it tells of. What the event tap
+// decided is told from the main queue once the tap's callback has returned, so an observer can
+// never delay the tap's answer; everything else is told from inside the controller's own
+// operation. An observer must not add or remove observers from inside a call.
 class ControllerObserver {
   public:
     virtual ~ControllerObserver() = default;
 
-    // The last finger lifted and the touch was a tap with this many fingers.
-    virtual void tapRecognised(std::int64_t fingers) = 0;
-    // The mouse's button went down with this many fingers resting on fresh contacts.
-    virtual void clickRecognised(std::int64_t fingers) = 0;
-    // An action is being carried out (action 0, the system's own behaviour, included).
-    virtual void actionPerformed(ActionIndex action) = 0;
-    // A physical press is being turned into `button`'s press, for `action`.
-    virtual void pressRewritten(ActionIndex action, MouseButton button) = 0;
+    // A contact frame reached the recogniser (empty when the last finger lifted). `fingers`
+    // lives only for the call.
+    virtual void frameReceived(std::span<const Finger> /*fingers*/, double /*time*/) {}
+    // A touch became a gesture: a tap, or a click with fingers resting.
+    virtual void gestureRecognised(const GestureNote& /*note*/) {}
+    // A touch ended without a gesture, or its gesture could not run.
+    virtual void touchDropped(const TouchDropNote& /*note*/) {}
+    // An action was carried out.
+    virtual void actionPerformed(const ActionNote& /*note*/) {}
+    // A scheduled action's guard refused it.
+    virtual void actionDropped(const ActionDropNote& /*note*/) {}
+
+    // Whether mouseEventDecided() is wanted now. Asked on every event of the tap, so it must be
+    // cheap; while no observer wants them, the tap's pass path does no work for observers.
+    virtual bool wantsMouseEvents() const { return false; }
+    virtual void mouseEventDecided(const MouseEventNote& /*note*/) {}
+
+    // Held presses were let go of because something changed.
+    virtual void pressesReleased(const PressesReleasedNote& /*note*/) {}
+    // Gestures were switched on or off.
+    virtual void switchChanged(const SwitchNote& /*note*/) {}
+    // The user selected a profile, or one was made active for them.
+    virtual void profileSelected(const ProfileNote& /*note*/) {}
+    // This application became active, or stopped being it.
+    virtual void activeChanged(const ActiveNote& /*note*/) {}
+
+    // Launching finished: the window, its views and the status item exist.
+    virtual void launched(double /*time*/) {}
+    // The status display was brought up to date (every refreshInterval, and after changes).
+    virtual void refreshed(double /*time*/) {}
+    // The application is about to quit; told before gestures stop.
+    virtual void terminating(double /*time*/) {}
 
   protected:
     ControllerObserver() = default;

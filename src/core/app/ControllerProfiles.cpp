@@ -82,7 +82,6 @@ void Controller::selectProfile() {
     if (!id) {
         return;
     }
-    noteTrace(services_.clock.uptime(), TraceProfileSelected{id->text()});
     switchProfile(*id, ProfileSwitch::chosen);
 }
 
@@ -95,31 +94,17 @@ void Controller::switchProfile(const Uuid& id, ProfileSwitch kind) {
     } else {
         profiles().activate(id);
     }
+    observers_.profileSelected({.id = id.text(),
+                                .chosen = kind == ProfileSwitch::chosen,
+                                .time = services_.clock.uptime()});
     lastGesture_ = "—";
     lastAction_.clear();
     refreshProfileUI();
     refresh();
 }
 
-void Controller::deleteProfile() {
-    // As before the naming dialog: nothing half seen may complete after the alert.
-    dropPendingWork();
-    if (profiles().profiles().size() < 2) {
-        return;
-    }
-    const WorkProfile& doomed = profiles().current();
-    const Uuid id = doomed.id;
-    const ConfirmationTexts texts{
-        .message = L("profile.delete.message", doomed.name),
-        .informative = L("profile.delete.info"),
-        .confirmButton = L("profile.delete.button"),
-        .cancelButton = L("cancel"),
-    };
-    if (!services_.dialogs.runConfirmation(texts) || !profiles().remove(id)) {
-        return;
-    }
-    // The store brought back the user's choice; the application in front may have its own.
-    switchProfile(frontmostProfile(), ProfileSwitch::automatic);
+void Controller::switchProfileAutomatically(const Uuid& id) {
+    switchProfile(id, ProfileSwitch::automatic);
 }
 
 void Controller::newProfile() {

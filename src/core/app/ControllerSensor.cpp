@@ -10,6 +10,34 @@
 
 namespace tactora {
 
+namespace {
+
+// Why the sequence that `state` holds is no tap, were it to end at `time`; nothing when it is.
+std::optional<DropReason> whyNoTap(const GestureState& state, double time) {
+    if (!state.began) {
+        return std::nullopt;
+    }
+    const double duration = time - *state.began;
+    if (state.clicked) {
+        return DropReason::clickDuring;
+    }
+    if (state.invalid || state.peak > GestureState::maxFingers) {
+        return DropReason::tooManyFingers;
+    }
+    if (state.moved) {
+        return DropReason::moved;
+    }
+    if (duration < GestureState::shortestTap) {
+        return DropReason::tooShort;
+    }
+    if (duration > GestureState::longestTap) {
+        return DropReason::tooLong;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
 void Controller::reconnect() {
     {
         const ScopedCount program(programActions_);
@@ -67,30 +95,28 @@ void Controller::receive(const ContactFrame& frame) {
 void Controller::receive(std::span<const Finger> fingers) {
     const double now = services_.clock.uptime();
     lastFrame_ = now;
-    if (trace_.isRecording()) {
-        noteFrontApplication(now);
-        noteTrace(now, TraceFrame{{fingers.begin(), fingers.end()}});
-    }
+    // Only an empty frame ends a sequence; the reason is worked out before the state resets.
+    const std::optional<DropReason> dropped =
+        fingers.empty() ? whyNoTap(gesture_, now) : std::nullopt;
+    const std::int64_t peak = gesture_.peak;
     const std::optional<std::int64_t> count = gesture_.update(fingers, now);
-    if (surfaceVisible_) {
-        surface_.frame(fingers, now);
-    }
+    observers_.frameReceived(fingers, now);
     if (!count) {
-        if (surfaceVisible_) {
-            showSurface();
+        if (dropped) {
+            observers_.touchDropped({.reason = *dropped, .fingers = peak, .time = now});
         }
         return;
     }
     lastGesture_ = L("gesture.tap", *count);
-    noteGesture(GestureKind::tap, *count, now);
-    if (observer_ != nullptr) {
-        observer_->tapRecognised(*count);
-    }
     const std::int64_t slot = slot::forTap(*count);
     const ActionIndex action = actionAt(slot);
+    observers_.gestureRecognised(
+        {.kind = GestureKind::tap, .fingers = *count, .action = action, .time = now});
     const std::optional<SavedShortcut> shortcut = shortcutAt(slot);
     const GestureDispatchContext context = dispatchContext();
     if (!canRunGestures()) {
+        observers_.touchDropped(
+            {.reason = DropReason::gesturesOff, .fingers = *count, .time = now});
         return;
     }
     scheduleTap(*count, action, shortcut, context, now);
@@ -110,19 +136,17 @@ void Controller::scheduleTap(std::int64_t fingers, ActionIndex action,
 void Controller::performTap(std::int64_t fingers, ActionIndex action,
                             const std::optional<SavedShortcut>& shortcut,
                             const GestureDispatchContext& context, double recognisedAt) {
-    if (!mayDispatch(context)) {
-        return;
-    }
+    const double now = services_.clock.uptime();
+    std::optional<DropReason> refused = mayDispatch(context) ? std::nullopt : guardRefusal(context);
     // A click just before the release, or during the wait, means the touch was a click.
-    if (lastClick_ >= recognisedAt - tapDelay) {
+    if (!refused && lastClick_ >= recognisedAt - tapDelay) {
+        refused = DropReason::clickAfter;
+    }
+    if (refused) {
+        observers_.actionDropped({.action = action, .reason = *refused, .time = now});
         return;
     }
-    if (action != action::defaultAction) {
-        const double now = services_.clock.uptime();
-        fireFeedback(fingers, now);
-        noteAction(action, shortcut, now);
-    }
-    perform(action, shortcut);
+    perform(action, shortcut, ActionOrigin::tap, fingers);
 }
 
 }  // namespace tactora

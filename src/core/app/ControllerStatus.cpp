@@ -1,12 +1,11 @@
+#include <algorithm>
 #include <utility>
 
+#include "core/app/AppMenus.h"
 #include "core/app/Controller.h"
 #include "core/localization/Localizer.h"
 
 namespace tactora {
-
-static_assert(TouchSurface::contactLifetime == Controller::liveContact,
-              "The live view and the live line count fingers over the same time");
 
 namespace {
 
@@ -17,10 +16,6 @@ std::string permissionState(bool granted) {
 }  // namespace
 
 void Controller::refresh() {
-    if (trace_.expired(services_.clock.uptime())) {
-        stopTrace();
-        return;  // stopping refreshes
-    }
     const bool accessibility = services_.permissions.accessibilityTrusted();
     const bool inputMonitoring = services_.permissions.inputMonitoringGranted();
     permissionMemory_.observe(accessibility, inputMonitoring);
@@ -28,15 +23,39 @@ void Controller::refresh() {
     const bool fresh = services_.clock.uptime() - lastFrame_ < liveContact;
     const std::int64_t fingers = fresh ? gesture_.count : 0;
     std::string live = L("live", fingers, lastGesture_, lastAction_);
-    if (trace_.isRecording()) {
-        live += " · " + L("trace.live");
+    if (!statusExtras_.liveNote.empty()) {
+        live += " · " + statusExtras_.liveNote;
     }
     services_.view.setLiveText(live);
-    if (surfaceVisible_) {
-        showSurface();
-    }
     updateMenuIcon();
     keepOnAtRefresh(accessibility, inputMonitoring);
+    observers_.refreshed(services_.clock.uptime());
+}
+
+void Controller::showStatusMenu() {
+    if (statusItemCreated_) {
+        services_.shell.buildStatusMenu(statusMenuItems(statusExtras_.menuEntries));
+    }
+}
+
+void Controller::setLiveNote(std::string note) {
+    statusExtras_.liveNote = std::move(note);
+}
+
+void Controller::setStatusItemTitle(std::string title) {
+    statusExtras_.title = std::move(title);
+    updateMenuIcon();
+}
+
+void Controller::setStatusMenuEntry(MenuEntry entry) {
+    std::vector<MenuEntry>& entries = statusExtras_.menuEntries;
+    const auto same = std::ranges::find(entries, entry.command, &MenuEntry::command);
+    if (same != entries.end()) {
+        *same = std::move(entry);
+    } else {
+        entries.push_back(std::move(entry));
+    }
+    showStatusMenu();
 }
 
 std::string Controller::permissionLine(bool accessibility, bool inputMonitoring) {
@@ -62,7 +81,7 @@ void Controller::updateMenuIcon() {
         .accessibilityDescription = "Tactora",
         .toolTip =
             "Tactora · " + L(on ? "menu.active" : "menu.pause") + " · " + activeProfileTitle(),
-        .title = feedback_.title(services_.clock.uptime()),
+        .title = statusExtras_.title,
     };
     // The refresh timer calls this five times a second; the status bar redraws only on change.
     if (appearance == shownAppearance_) {

@@ -4,7 +4,6 @@
 #include "core/app/Globals.h"
 #include "core/localization/Localizer.h"
 #include "core/profiles/GestureSlot.h"
-#include "core/trace/TraceFormat.h"
 
 namespace tactora {
 
@@ -20,6 +19,30 @@ bool isDrag(EventType type) {
     return type == event::leftMouseDragged || type == event::rightMouseDragged;
 }
 
+// The event being decided, watched for a rewrite on its way through the decision.
+class WatchedEvent final : public TapEvent {
+  public:
+    explicit WatchedEvent(TapEvent& event) : event_(event) {}
+
+    std::int64_t integerField(EventField field) const override {
+        return event_.integerField(field);
+    }
+    void setIntegerField(EventField field, std::int64_t value) override {
+        if (field == event::buttonNumber) {
+            button_ = value;
+        }
+        event_.setIntegerField(field, value);
+    }
+    void setType(EventType type) override { event_.setType(type); }
+
+    // The button it was turned into, if it was.
+    std::optional<std::int64_t> rewrittenButton() const { return button_; }
+
+  private:
+    TapEvent& event_;
+    std::optional<std::int64_t> button_;
+};
+
 }  // namespace
 
 bool Controller::installTap() {
@@ -32,6 +55,8 @@ bool Controller::installTap() {
 }
 
 EventDisposition Controller::handle(EventType type, TapEvent& event) {
+    // The observers hear of this event once the tap has its answer.
+    const ObserverList::Deferral deferral(observers_);
     if (type == event::tapDisabledByTimeout || type == event::tapDisabledByUserInput) {
         tapDisabled();
         return EventDisposition::pass;
@@ -39,9 +64,29 @@ EventDisposition Controller::handle(EventType type, TapEvent& event) {
     if (event.integerField(event::sourceUserData) == marker) {
         return EventDisposition::pass;
     }
-    if (trace_.isRecording()) {
-        noteTapEvent(type, event);
+    MouseEventNote* note = observers_.deferMouseEvent();
+    if (note == nullptr) {
+        return decide(type, event);
     }
+    *note = {.type = type,
+             .button = event.integerField(event::buttonNumber),
+             .fromMouse = isFromMouse(event),
+             .fate = MouseEventFate::passed,
+             .rewrittenTo = MouseButton::left,
+             .time = services_.clock.uptime()};
+    WatchedEvent watched(event);
+    const EventDisposition disposition = decide(type, watched);
+    if (disposition == EventDisposition::swallow) {
+        note->fate = MouseEventFate::swallowed;
+    } else if (const std::optional<std::int64_t> button = watched.rewrittenButton()) {
+        note->fate = MouseEventFate::rewritten;
+        note->rewrittenTo = static_cast<MouseButton>(*button);
+    }
+    return disposition;
+}
+
+// The tap's decision proper, for an event that is not the program's own.
+EventDisposition Controller::decide(EventType type, TapEvent& event) {
     if (!canRunGestures() || !isFromMouse(event)) {
         return EventDisposition::pass;
     }
@@ -66,12 +111,20 @@ void Controller::rewrite(TapEvent& event, MouseButton button, bool down, bool dr
 }
 
 void Controller::releasePresses() {
+    if (presses_.empty()) {
+        return;
+    }
+    PressesReleasedNote note{.buttons = {}, .count = 0, .time = services_.clock.uptime()};
     for (const auto& [physical, press] : presses_) {
         if (press.button) {
             post(*press.button, false, 1);
+            if (note.count < note.buttons.size()) {
+                note.buttons.at(note.count++) = *press.button;
+            }
         }
     }
     presses_.clear();
+    observers_.pressesReleased(note);
     resumeFollowing();
 }
 
@@ -81,23 +134,13 @@ void Controller::tapDisabled() {
     services_.view.setEnabledOn(false);
     services_.view.setStatusText(L("error.paused"));
     syncActivity();
-    noteGestures();
+    observers_.switchChanged({.on = false, .byUser = false, .time = services_.clock.uptime()});
     if (!keepOn_.enabled() || !keepOn_.wanted()) {
         return;
     }
     if (const std::optional<double> seconds = keepOn_.tapDisabled(services_.clock.uptime())) {
         coolDown(*seconds);
     }
-}
-
-void Controller::noteTapEvent(EventType type, const TapEvent& event) {
-    if (trace::mouseEventWord(type).empty()) {
-        return;
-    }
-    const double now = services_.clock.uptime();
-    const bool fromMouse = isFromMouse(event);
-    noteFrontApplication(now);
-    noteTrace(now, TraceMouseEvent{type, event.integerField(event::buttonNumber), fromMouse});
 }
 
 bool Controller::isFromMouse(const TapEvent& event) {
@@ -117,26 +160,28 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
         return EventDisposition::pass;
     }
     lastGesture_ = L("gesture.click", fingers);
-    noteGesture(GestureKind::click, fingers, now);
-    if (observer_ != nullptr) {
-        observer_->clickRecognised(fingers);
-    }
     const std::int64_t slot = slot::forClick(fingers);
     const ActionIndex action = actionAt(slot);
+    observers_.gestureRecognised(
+        {.kind = GestureKind::click, .fingers = fingers, .action = action, .time = now});
     if (action == action::defaultAction) {
         return EventDisposition::pass;
     }
-    const Press press{action, shortcutAt(slot), catalogue::pressTarget(action), dispatchContext()};
+    const Press press{action, shortcutAt(slot), catalogue::pressTarget(action), dispatchContext(),
+                      fingers};
     presses_.insert_or_assign(button, press);
-    fireFeedback(fingers, now);
     if (!press.button) {
         return EventDisposition::swallow;
     }
     // A rewritten press does its action now; a swallowed one does it on release.
-    noteAction(action, press.shortcut, now);
-    if (observer_ != nullptr) {
-        observer_->pressRewritten(action, *press.button);
-    }
+    observers_.actionPerformed({
+        .action = action,
+        .shortcut = press.shortcut,
+        .origin = ActionOrigin::click,
+        .fingers = fingers,
+        .asButton = press.button,
+        .time = now,
+    });
     rewrite(event, *press.button, true, false);
     return EventDisposition::pass;
 }
@@ -171,10 +216,16 @@ void Controller::performOnRelease(const Press& press) {
     // Queued, so that the action runs after the tap callback has returned.
     services_.queue.async([weak = weak_from_this(), press] {
         const auto self = weak.lock();
-        if (self && self->mayDispatch(press.context)) {
-            self->noteAction(press.action, press.shortcut, self->services_.clock.uptime());
-            self->perform(press.action, press.shortcut);
+        if (!self) {
+            return;
         }
+        if (!self->mayDispatch(press.context)) {
+            self->observers_.actionDropped({.action = press.action,
+                                            .reason = *self->guardRefusal(press.context),
+                                            .time = self->services_.clock.uptime()});
+            return;
+        }
+        self->perform(press.action, press.shortcut, ActionOrigin::click, press.fingers);
     });
 }
 

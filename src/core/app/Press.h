@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "core/actions/ActionIndex.h"
@@ -18,6 +19,7 @@ struct Press {
     // performed on release.
     std::optional<MouseButton> button;
     GestureDispatchContext context;  // decides on release whether the action may still run
+    std::int64_t fingers = 0;        // the resting fingers of the click it stands for
 
     bool operator==(const Press&) const = default;
 };

@@ -117,9 +117,8 @@ std::string TraceReplay::run(const std::vector<TraceLine>& lines,
     const double start = lines.empty() ? 0 : lines.front().time;
     TraceReplay replay;
     Stage stage(start, defaultsWith(profiles));
-    replay.clock_ = &stage.queue;
     stage.launch();
-    stage.controller->setObserver(&replay);
+    stage.controller->addObserver(replay);
     for (const TraceLine& line : lines) {
         // A line comes before work due at its very moment: a recording notes a change of the
         // application in front when the waiting work looks at it, just before that work runs.
@@ -139,34 +138,28 @@ std::string TraceReplay::run(const std::vector<TraceLine>& lines,
     }
     const double end = lines.empty() ? start : lines.back().time;
     stage.queue.advanceTo(end + settle);
-    stage.controller->setObserver(nullptr);
+    stage.controller->removeObserver(replay);
     replay.output_ += replay.summary(end - start);
     return replay.output_;
 }
 
-void TraceReplay::tapRecognised(std::int64_t fingers) {
-    ++taps_;
-    print("tap " + std::to_string(fingers));
+void TraceReplay::gestureRecognised(const GestureNote& note) {
+    const bool tap = note.kind == GestureKind::tap;
+    ++(tap ? taps_ : clicks_);
+    print(note.time, (tap ? "tap " : "click ") + std::to_string(note.fingers));
 }
 
-void TraceReplay::clickRecognised(std::int64_t fingers) {
-    ++clicks_;
-    print("click " + std::to_string(fingers));
-}
-
-void TraceReplay::actionPerformed(ActionIndex action) {
+void TraceReplay::actionPerformed(const ActionNote& note) {
     ++actions_;
-    print("action " + actionKey(action));
+    std::string what = "action " + actionKey(note.action);
+    if (note.asButton) {
+        what += " button " + std::to_string(static_cast<std::uint32_t>(*note.asButton));
+    }
+    print(note.time, what);
 }
 
-void TraceReplay::pressRewritten(ActionIndex action, MouseButton button) {
-    ++actions_;
-    print("action " + actionKey(action) + " button " +
-          std::to_string(static_cast<std::uint32_t>(button)));
-}
-
-void TraceReplay::print(const std::string& what) {
-    output_ += seconds(clock_->uptime()) + ' ' + what + '\n';
+void TraceReplay::print(double time, const std::string& what) {
+    output_ += seconds(time) + ' ' + what + '\n';
 }
 
 std::string TraceReplay::summary(double seconds) const {

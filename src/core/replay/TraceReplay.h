@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "core/app/ControllerObserver.h"
-#include "core/platform/Clock.h"
 #include "core/profiles/WorkProfile.h"
 #include "core/trace/TraceLine.h"
 
@@ -36,15 +35,12 @@ class TraceReplay final : private ControllerObserver {
   private:
     TraceReplay() = default;
 
-    void tapRecognised(std::int64_t fingers) override;
-    void clickRecognised(std::int64_t fingers) override;
-    void actionPerformed(ActionIndex action) override;
-    void pressRewritten(ActionIndex action, MouseButton button) override;
+    void gestureRecognised(const GestureNote& note) override;
+    void actionPerformed(const ActionNote& note) override;
 
-    void print(const std::string& what);
+    void print(double time, const std::string& what);
     std::string summary(double seconds) const;
 
-    const Clock* clock_ = nullptr;
     std::string output_;
     std::size_t taps_ = 0;
     std::size_t clicks_ = 0;

@@ -1,4 +1,4 @@
-#include "core/app/TouchSurface.h"
+#include "core/liveview/TouchSurface.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "core/app/TouchSurface.h"
+#include "core/liveview/TouchSurface.h"
 #include "core/localization/Localizer.h"
 #include "core/localization/StringsTable.h"
 

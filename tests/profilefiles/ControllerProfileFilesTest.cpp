@@ -30,7 +30,7 @@ class ControllerProfileFilesTest : public ::testing::Test {
     void importFile(const std::string& bytes) {
         h.files.importPath = importPath;
         h.files.files[importPath] = bytes;
-        h.c().importProfiles();
+        h.a().profileFiles().importProfiles();
     }
 
     ProfileStore& store() { return h.c().profiles(); }
@@ -42,7 +42,7 @@ class ControllerProfileFilesTest : public ::testing::Test {
 
 TEST_F(ControllerProfileFilesTest, ExportWritesEveryProfileWithItsApplications) {
     h.files.exportPath = exportPath;
-    h.c().exportProfiles();
+    h.a().profileFiles().exportProfiles();
 
     EXPECT_EQ(h.files.suggested, "export.file.json");
     const auto written = decodeProfiles(h.files.files.at(exportPath));
@@ -55,7 +55,7 @@ TEST_F(ControllerProfileFilesTest, ExportWritesEveryProfileWithItsApplications) 
 
 TEST_F(ControllerProfileFilesTest, ExportWritesOnlyOnceTheSheetCloses) {
     h.files.holdPanels = true;
-    h.c().exportProfiles();
+    h.a().profileFiles().exportProfiles();
     EXPECT_TRUE(h.files.files.empty());
     // The sheet leaves the window usable: a profile added meanwhile is written too.
     store().add("Late", false);
@@ -69,7 +69,7 @@ TEST_F(ControllerProfileFilesTest, ExportWritesOnlyOnceTheSheetCloses) {
 TEST_F(ControllerProfileFilesTest, ImportReadsOnlyOnceTheSheetCloses) {
     h.files.holdPanels = true;
     h.files.files[importPath] = *encodeProfiles(store().profiles());
-    h.c().importProfiles();
+    h.a().profileFiles().importProfiles();
     EXPECT_EQ(store().profiles().size(), 2U);
     ASSERT_TRUE(h.files.closePanel(importPath));
     EXPECT_EQ(store().profiles().size(), 4U);
@@ -77,21 +77,21 @@ TEST_F(ControllerProfileFilesTest, ImportReadsOnlyOnceTheSheetCloses) {
 
 TEST_F(ControllerProfileFilesTest, AnImportSheetCancelledChangesNothing) {
     h.files.holdPanels = true;
-    h.c().importProfiles();
+    h.a().profileFiles().importProfiles();
     ASSERT_TRUE(h.files.closePanel(std::nullopt));
     EXPECT_EQ(store().profiles().size(), 2U);
     EXPECT_TRUE(h.dialogs.messages.empty());
 }
 
 TEST_F(ControllerProfileFilesTest, CancelledExportWritesNothing) {
-    h.c().exportProfiles();
+    h.a().profileFiles().exportProfiles();
     EXPECT_EQ(h.log.count("files.chooseExportPath"), 1);
     EXPECT_TRUE(h.files.files.empty());
 }
 
 TEST_F(ControllerProfileFilesTest, ExportThatCannotBeWrittenSaysSo) {
     h.files.exportPath = h.files.unwritable;
-    h.c().exportProfiles();
+    h.a().profileFiles().exportProfiles();
     ASSERT_EQ(h.dialogs.messages.size(), 1U);
     EXPECT_EQ(h.dialogs.messages[0], (MessageTexts{"export.failed", "export.write"}));
 }
@@ -99,7 +99,7 @@ TEST_F(ControllerProfileFilesTest, ExportThatCannotBeWrittenSaysSo) {
 TEST_F(ControllerProfileFilesTest,
        ExportedFileImportedAgainDoublesTheListWithoutTakingApplications) {
     h.files.exportPath = exportPath;
-    h.c().exportProfiles();
+    h.a().profileFiles().exportProfiles();
     importFile(h.files.files.at(exportPath));
 
     const auto& all = store().profiles();
@@ -147,7 +147,7 @@ TEST_F(ControllerProfileFilesTest, ImportedProfileForTheApplicationInFrontBecome
 
 TEST_F(ControllerProfileFilesTest, CancelledImportChangesNothing) {
     const auto before = store().profiles();
-    h.c().importProfiles();
+    h.a().profileFiles().importProfiles();
     EXPECT_EQ(store().profiles(), before);
     EXPECT_TRUE(h.dialogs.messages.empty());
 }
@@ -194,7 +194,7 @@ TEST_F(ControllerProfileFilesTest, FileIsReadOnlyUpToOneByteBeyondTheLimit) {
 TEST_F(ControllerProfileFilesTest, UnreadableFileChangesNothingAndSaysSo) {
     h.files.importPath = "/nowhere.json";
     const auto before = store().profiles();
-    h.c().importProfiles();
+    h.a().profileFiles().importProfiles();
     ASSERT_EQ(h.dialogs.messages.size(), 1U);
     EXPECT_EQ(h.dialogs.messages[0], (MessageTexts{"import.failed", "import.unreadable"}));
     EXPECT_EQ(store().profiles(), before);

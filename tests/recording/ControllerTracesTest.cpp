@@ -44,14 +44,14 @@ TEST_F(ControllerTracesTest, NothingIsRecordedUntilTheUserAsks) {
     h.send(down);
     h.queue.advance(1);
     EXPECT_TRUE(h.traceSink.files.empty());
-    EXPECT_FALSE(h.c().recordingTouches());
+    EXPECT_FALSE(h.a().recorder().isRecording());
     EXPECT_EQ(h.shell.statusMenu.at(3),
               (MenuEntry{"menu.trace.start", MenuCommand::recordTouches, ""}));
 }
 
 TEST_F(ControllerTracesTest, StartingWritesTheHeaderAndTheStateAReplayStartsFrom) {
-    h.c().recordTouches();
-    EXPECT_TRUE(h.c().recordingTouches());
+    h.a().recorder().recordTouches();
+    EXPECT_TRUE(h.a().recorder().isRecording());
     EXPECT_TRUE(h.traceSink.open);
     EXPECT_EQ(traced(), (std::vector<std::string>{"tactora-trace 1", "1000.0 gestures on",
                                                   "1000.0 active off", "1000.0 " + profileLine(),
@@ -63,9 +63,9 @@ TEST_F(ControllerTracesTest, StartingWritesTheHeaderAndTheStateAReplayStartsFrom
 }
 
 TEST_F(ControllerTracesTest, StoppingClosesTheFileAndPutsTheMenuBack) {
-    h.c().recordTouches();
-    h.c().recordTouches();
-    EXPECT_FALSE(h.c().recordingTouches());
+    h.a().recorder().recordTouches();
+    h.a().recorder().recordTouches();
+    EXPECT_FALSE(h.a().recorder().isRecording());
     EXPECT_FALSE(h.traceSink.open);
     EXPECT_EQ(h.view.status, "trace.saved");
     EXPECT_EQ(h.shell.statusMenu.at(3).title, "menu.trace.start");
@@ -74,14 +74,14 @@ TEST_F(ControllerTracesTest, StoppingClosesTheFileAndPutsTheMenuBack) {
 
 TEST_F(ControllerTracesTest, WithNowhereToWriteNothingStarts) {
     h.traceSink.path.reset();
-    h.c().recordTouches();
-    EXPECT_FALSE(h.c().recordingTouches());
+    h.a().recorder().recordTouches();
+    EXPECT_FALSE(h.a().recorder().isRecording());
     EXPECT_EQ(h.view.status, "trace.failed");
     EXPECT_EQ(h.shell.statusMenu.at(3).title, "menu.trace.start");
 }
 
 TEST_F(ControllerTracesTest, RecordsWhatTheControllerReceives) {
-    h.c().recordTouches();
+    h.a().recorder().recordTouches();
     const std::size_t header = traced().size();
     h.frame(2, 0.25F);
     auto down = h.mouseEvent(event::leftMouseDown);
@@ -117,27 +117,27 @@ TEST_F(ControllerTracesTest, RecordsWhatTheControllerReceives) {
 TEST_F(ControllerTracesTest, ASelectedProfileIsRecorded) {
     h.c().profiles().add("Second", false);
     const std::string second = h.c().profiles().activeID().text();
-    h.c().recordTouches();
+    h.a().recorder().recordTouches();
     h.view.profileChoice = second;
     h.c().selectProfile();
     EXPECT_EQ(traced().back(), "1000.0 profile " + second);
 }
 
 TEST_F(ControllerTracesTest, StopsByItselfAfterTenMinutes) {
-    h.c().recordTouches();
+    h.a().recorder().recordTouches();
     h.queue.advance(599.9);
-    EXPECT_TRUE(h.c().recordingTouches());
+    EXPECT_TRUE(h.a().recorder().isRecording());
     h.queue.advance(0.2);
-    EXPECT_FALSE(h.c().recordingTouches());
+    EXPECT_FALSE(h.a().recorder().isRecording());
     EXPECT_FALSE(h.traceSink.open);
     EXPECT_EQ(h.view.status, "trace.saved");
     EXPECT_EQ(h.shell.statusMenu.at(3).title, "menu.trace.start");
 }
 
 TEST_F(ControllerTracesTest, QuittingStopsTheRecording) {
-    h.c().recordTouches();
+    h.a().recorder().recordTouches();
     h.c().applicationWillTerminate();
-    EXPECT_FALSE(h.c().recordingTouches());
+    EXPECT_FALSE(h.a().recorder().isRecording());
     EXPECT_FALSE(h.traceSink.open);
 }
 
@@ -145,7 +145,7 @@ TEST_F(ControllerTracesTest, QuittingStopsTheRecording) {
 TEST_F(ControllerTracesTest, ReplayingARecordingDecidesWhatTheLiveControllerDid) {
     h.assign(5, action::copy);
     h.assign(1, action::right);
-    h.c().recordTouches();
+    h.a().recorder().recordTouches();
     h.tap(2);  // performed 0.08 s later
     h.queue.advance(0.5);
     h.rest(2);
@@ -162,7 +162,7 @@ TEST_F(ControllerTracesTest, ReplayingARecordingDecidesWhatTheLiveControllerDid)
     auto late = h.mouseEvent(event::leftMouseDown);
     h.send(late);
     h.queue.advance(1);
-    h.c().recordTouches();
+    h.a().recorder().recordTouches();
     EXPECT_EQ(h.poster.keyEvents().size(), 2U);  // one copy: down and up
 
     const TraceReading reading = readTrace(h.traceSink.files.back());
@@ -181,12 +181,12 @@ TEST_F(ControllerTracesTest, ReplayingARecordingDecidesWhatTheLiveControllerDid)
 // notes it when the waiting tap looks, and the replay applies it before that tap runs.
 TEST_F(ControllerTracesTest, AnApplicationSwitchInTheWaitIsReplayedAsLive) {
     h.assign(5, action::copy);
-    h.c().recordTouches();
+    h.a().recorder().recordTouches();
     h.tap(2);
     h.queue.advance(0.05);
     h.workspace.frontmost = 77;
     h.queue.advance(0.05);
-    h.c().recordTouches();
+    h.a().recorder().recordTouches();
     EXPECT_TRUE(h.poster.keyEvents().empty());
 
     const TraceReading reading = readTrace(h.traceSink.files.back());

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "app/ControllerHarness.h"
+#include "core/liveview/TouchSurface.h"
 
 namespace tactora::testing {
 namespace {
@@ -42,7 +43,7 @@ TEST_F(ControllerSurfaceTest, TheWindowsVisibilityIsWatchedOnceItIsBuilt) {
 
     fresh.c().applicationDidFinishLaunching();
     EXPECT_TRUE(fresh.surface.observed());
-    EXPECT_FALSE(fresh.c().surfaceVisible());
+    EXPECT_FALSE(fresh.a().liveView().visible());
 }
 
 TEST_F(ControllerSurfaceTest, NothingIsDrawnWhileTheWindowIsNotVisible) {
@@ -56,7 +57,7 @@ TEST_F(ControllerSurfaceTest, NothingIsDrawnWhileTheWindowIsNotVisible) {
 TEST_F(ControllerSurfaceTest, BecomingVisibleDrawsAtOnce) {
     showWindow();
 
-    EXPECT_TRUE(h.c().surfaceVisible());
+    EXPECT_TRUE(h.a().liveView().visible());
     EXPECT_EQ(h.surface.shows, 1U);
     EXPECT_EQ(shown().fingers, 0);
     EXPECT_EQ(shown().accessibilityText, "0 | none");
@@ -85,7 +86,7 @@ TEST_F(ControllerSurfaceTest, HidingTheWindowStopsDrawing) {
     h.rest(2);
     h.queue.advance(1);
 
-    EXPECT_FALSE(h.c().surfaceVisible());
+    EXPECT_FALSE(h.a().liveView().visible());
     EXPECT_EQ(h.surface.shows, before);
     EXPECT_EQ(shown().fingers, 1);
 }
@@ -159,6 +160,7 @@ TEST_F(ControllerSurfaceTest, ARewrittenClickIsHighlightedWithItsActionAtOnce) {
     h.rest(2);
     FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
     h.send(down);
+    h.queue.runReady();  // what the tap decided is told once it has answered
 
     EXPECT_TRUE(shown().highlighted);
     EXPECT_EQ(shown().gestureText, "click 2");
@@ -171,6 +173,7 @@ TEST_F(ControllerSurfaceTest, ASwallowedClickNamesItsActionOnRelease) {
     h.rest(3);
     FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
     h.send(down);
+    h.queue.runReady();
     EXPECT_EQ(shown().gestureText, "click 3");
     EXPECT_EQ(shown().actionText, "");
 
@@ -195,119 +198,6 @@ TEST_F(ControllerSurfaceTest, AHighlightBegunWhileHiddenIsShownAndEndsOnTime) {
     EXPECT_TRUE(shown().highlighted);
     runUntil(recognisedAt + TouchSurface::highlightDuration);
     EXPECT_FALSE(shown().highlighted);
-}
-
-// --- Feedback in the menu bar -----------------------------------------------------------------
-
-std::string statusTitle(const ControllerHarness& harness) {
-    return harness.view.statusItem ? harness.view.statusItem->title : "(none)";
-}
-
-TEST_F(ControllerSurfaceTest, MenuBarFeedbackIsOffByDefaultAndTheTitleStaysEmpty) {
-    h.assign(5, action::copy);
-    h.tap(2);
-    h.queue.advance(Controller::tapDelay);
-
-    EXPECT_FALSE(h.c().menuBarFeedbackOn());
-    EXPECT_EQ(h.performedCount(), 2U);
-    EXPECT_EQ(statusTitle(h), "");
-    EXPECT_FALSE(h.shell.statusMenu.at(2).checked);
-}
-
-TEST_F(ControllerSurfaceTest, TheMenuItemTurnsTheFeedbackOverAndRemembersIt) {
-    h.c().applicationDidFinishLaunching();
-    h.c().toggleMenuBarFeedback();
-    EXPECT_TRUE(h.c().menuBarFeedbackOn());
-    EXPECT_EQ(h.defaults->integer(std::string(MenuBarFeedback::preferenceKey)), 1);
-    EXPECT_EQ(h.shell.statusMenu.at(2),
-              (MenuEntry{"menu.feedback", MenuCommand::toggleMenuBarFeedback, "", true}));
-
-    h.c().toggleMenuBarFeedback();
-    EXPECT_FALSE(h.c().menuBarFeedbackOn());
-    EXPECT_EQ(h.defaults->integer(std::string(MenuBarFeedback::preferenceKey)), 0);
-    EXPECT_FALSE(h.shell.statusMenu.at(2).checked);
-}
-
-TEST_F(ControllerSurfaceTest, AStoredChoiceIsReadAtStartAndAWrongTypeReadsAsOff) {
-    const auto make = [this] { return Controller::create(h.services()); };
-    const std::string key(MenuBarFeedback::preferenceKey);
-    h.defaults->setInteger(key, 1);
-    EXPECT_TRUE(make()->menuBarFeedbackOn());
-    h.defaults->setString(key, "yes");
-    EXPECT_FALSE(make()->menuBarFeedbackOn());
-    h.defaults->setData(key, {1});
-    EXPECT_FALSE(make()->menuBarFeedbackOn());
-}
-
-TEST_F(ControllerSurfaceTest, ATapShowsItsFingerCountInTheMenuBarForOneSecond) {
-    h.c().toggleMenuBarFeedback();
-    h.assign(6, action::copy);
-    h.tap(3);
-    EXPECT_EQ(statusTitle(h), "");
-
-    h.queue.advance(Controller::tapDelay);
-    const double firedAt = h.clock.now;
-    EXPECT_EQ(statusTitle(h), "3");
-    runUntil(firedAt + MenuBarFeedback::duration - 0.001);
-    EXPECT_EQ(statusTitle(h), "3");
-    runUntil(firedAt + MenuBarFeedback::duration);
-    EXPECT_EQ(statusTitle(h), "");
-}
-
-TEST_F(ControllerSurfaceTest, FeedbackOffAndOnWithinItsTimeBringsNoOldCountBack) {
-    h.c().toggleMenuBarFeedback();
-    h.assign(6, action::copy);
-    h.tap(3);
-    h.queue.advance(Controller::tapDelay);
-    ASSERT_EQ(statusTitle(h), "3");
-    h.c().toggleMenuBarFeedback();
-    h.queue.advance(0.2);
-    h.c().toggleMenuBarFeedback();
-    h.c().refresh();
-    EXPECT_EQ(statusTitle(h), "");
-}
-
-TEST_F(ControllerSurfaceTest, AnInterceptedClickShowsItsFingerCountAtOnce) {
-    h.c().toggleMenuBarFeedback();
-    h.assign(1, action::right);
-    h.rest(2);
-    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
-    h.send(down);
-
-    EXPECT_EQ(statusTitle(h), "2");
-}
-
-TEST_F(ControllerSurfaceTest, GesturesThatDoNothingLeaveTheMenuBarAlone) {
-    h.c().toggleMenuBarFeedback();
-    h.tap(2);
-    h.queue.advance(0.2);
-    h.rest(1);
-    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
-    h.send(down);
-
-    EXPECT_EQ(statusTitle(h), "");
-}
-
-TEST_F(ControllerSurfaceTest, AStaleTapLeavesTheMenuBarAlone) {
-    h.c().toggleMenuBarFeedback();
-    h.assign(5, action::copy);
-    h.tap(2);
-    h.c().pause();
-    h.queue.advance(0.5);
-
-    EXPECT_EQ(h.performedCount(), 0U);
-    EXPECT_EQ(statusTitle(h), "");
-}
-
-TEST_F(ControllerSurfaceTest, TurningTheFeedbackOffEndsACountShownNow) {
-    h.c().toggleMenuBarFeedback();
-    h.assign(5, action::copy);
-    h.tap(2);
-    h.queue.advance(Controller::tapDelay);
-    ASSERT_EQ(statusTitle(h), "2");
-
-    h.c().toggleMenuBarFeedback();
-    EXPECT_EQ(statusTitle(h), "");
 }
 
 }  // namespace

@@ -1,0 +1,148 @@
+#include "core/app/ObserverList.h"
+
+#include <algorithm>
+#include <type_traits>
+
+namespace tactora {
+
+ObserverList::ObserverList(MainQueue& queue)
+    : queue_(queue), self_(std::make_shared<ObserverList*>(this)) {}
+
+void ObserverList::add(ControllerObserver& observer) {
+    observers_.push_back(&observer);
+}
+
+void ObserverList::remove(ControllerObserver& observer) {
+    const auto found = std::ranges::find(observers_, &observer);
+    if (found != observers_.end()) {
+        observers_.erase(found);
+    }
+}
+
+MouseEventNote* ObserverList::deferMouseEvent() {
+    const bool wanted = std::ranges::any_of(observers_, [](const ControllerObserver* observer) {
+        return observer->wantsMouseEvents();
+    });
+    if (!wanted || deferring_ == 0) {
+        return nullptr;
+    }
+    Note* slot = nextSlot();
+    return slot == nullptr ? nullptr : &slot->emplace<MouseEventNote>();
+}
+
+void ObserverList::frameReceived(std::span<const Finger> fingers, double time) {
+    for (ControllerObserver* observer : observers_) {
+        observer->frameReceived(fingers, time);
+    }
+}
+
+void ObserverList::gestureRecognised(const GestureNote& note) {
+    tell(note);
+}
+void ObserverList::touchDropped(const TouchDropNote& note) {
+    tell(note);
+}
+void ObserverList::actionPerformed(const ActionNote& note) {
+    tell(note);
+}
+void ObserverList::actionDropped(const ActionDropNote& note) {
+    tell(note);
+}
+void ObserverList::pressesReleased(const PressesReleasedNote& note) {
+    tell(note);
+}
+void ObserverList::switchChanged(const SwitchNote& note) {
+    tell(note);
+}
+void ObserverList::profileSelected(const ProfileNote& note) {
+    tell(note);
+}
+void ObserverList::activeChanged(const ActiveNote& note) {
+    tell(note);
+}
+
+void ObserverList::launched(double time) {
+    for (ControllerObserver* observer : observers_) {
+        observer->launched(time);
+    }
+}
+
+void ObserverList::refreshed(double time) {
+    for (ControllerObserver* observer : observers_) {
+        observer->refreshed(time);
+    }
+}
+
+void ObserverList::terminating(double time) {
+    for (ControllerObserver* observer : observers_) {
+        observer->terminating(time);
+    }
+}
+
+void ObserverList::tell(const Note& note) {
+    if (observers_.empty() || keep(note)) {
+        return;
+    }
+    for (ControllerObserver* observer : observers_) {
+        std::visit(
+            [observer](const auto& told) {
+                using Told = std::decay_t<decltype(told)>;
+                if constexpr (std::is_same_v<Told, GestureNote>) {
+                    observer->gestureRecognised(told);
+                } else if constexpr (std::is_same_v<Told, TouchDropNote>) {
+                    observer->touchDropped(told);
+                } else if constexpr (std::is_same_v<Told, ActionNote>) {
+                    observer->actionPerformed(told);
+                } else if constexpr (std::is_same_v<Told, ActionDropNote>) {
+                    observer->actionDropped(told);
+                } else if constexpr (std::is_same_v<Told, MouseEventNote>) {
+                    observer->mouseEventDecided(told);
+                } else if constexpr (std::is_same_v<Told, PressesReleasedNote>) {
+                    observer->pressesReleased(told);
+                } else if constexpr (std::is_same_v<Told, SwitchNote>) {
+                    observer->switchChanged(told);
+                } else if constexpr (std::is_same_v<Told, ProfileNote>) {
+                    observer->profileSelected(told);
+                } else {
+                    observer->activeChanged(told);
+                }
+            },
+            note);
+    }
+}
+
+bool ObserverList::keep(const Note& note) {
+    if (deferring_ == 0) {
+        return false;
+    }
+    if (Note* slot = nextSlot()) {
+        *slot = note;
+    }
+    return true;
+}
+
+ObserverList::Note* ObserverList::nextSlot() {
+    if (keptCount_ == kept_.size()) {
+        return nullptr;
+    }
+    if (keptCount_ == 0) {
+        queue_.async([weak = std::weak_ptr<ObserverList*>(self_)] {
+            if (const auto list = weak.lock()) {
+                (*list)->tellKept();
+            }
+        });
+    }
+    return &kept_.at(keptCount_++);
+}
+
+void ObserverList::tellKept() {
+    // Told in the order kept; what an observer causes now is told at once, after these.
+    const std::size_t count = keptCount_;
+    keptCount_ = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const Note note = std::move(kept_.at(i));
+        tell(note);
+    }
+}
+
+}  // namespace tactora

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <variant>
+#include <vector>
+
+#include "core/app/ControllerEvents.h"
+#include "core/app/ControllerObserver.h"
+#include "core/gestures/Finger.h"
+#include "core/platform/MainQueue.h"
+
+namespace tactora {
+
+// The controller's observers (not owned) and the telling of them. Main thread only.
+//
+// While a Deferral is alive (the event tap's callback), what is told is kept in fixed storage
+// instead, and told from one main-queue task that the first kept note posts: the tap answers
+// first. Nothing is posted, and nothing allocated, while no note is kept.
+class ObserverList {
+  public:
+    // Notes kept during deferral beyond this many are not told.
+    static constexpr std::size_t deferredCapacity = 64;
+
+    explicit ObserverList(MainQueue& queue);
+    ObserverList(const ObserverList&) = delete;
+    ObserverList& operator=(const ObserverList&) = delete;
+    ObserverList(ObserverList&&) = delete;
+    ObserverList& operator=(ObserverList&&) = delete;
+    ~ObserverList() = default;
+
+    // `observer` must stay alive until it is removed or the list is gone. Adding one twice
+    // tells it twice; removing one that is not listed does nothing.
+    void add(ControllerObserver& observer);
+    void remove(ControllerObserver& observer);
+
+    // Keeps notes for later while alive; see above.
+    class Deferral {
+      public:
+        explicit Deferral(ObserverList& list) : list_(list) { ++list_.deferring_; }
+        Deferral(const Deferral&) = delete;
+        Deferral& operator=(const Deferral&) = delete;
+        Deferral(Deferral&&) = delete;
+        Deferral& operator=(Deferral&&) = delete;
+        ~Deferral() { --list_.deferring_; }
+
+      private:
+        ObserverList& list_;
+    };
+
+    // A slot, kept for later, for the mouse event being decided; the caller fills it in before
+    // its deferral ends. Null when no observer wants mouse events (or the storage is full).
+    MouseEventNote* deferMouseEvent();
+
+    void frameReceived(std::span<const Finger> fingers, double time);
+    void gestureRecognised(const GestureNote& note);
+    void touchDropped(const TouchDropNote& note);
+    void actionPerformed(const ActionNote& note);
+    void actionDropped(const ActionDropNote& note);
+    void pressesReleased(const PressesReleasedNote& note);
+    void switchChanged(const SwitchNote& note);
+    void profileSelected(const ProfileNote& note);
+    void activeChanged(const ActiveNote& note);
+    void launched(double time);
+    void refreshed(double time);
+    void terminating(double time);
+
+  private:
+    using Note =
+        std::variant<GestureNote, TouchDropNote, ActionNote, ActionDropNote, MouseEventNote,
+                     PressesReleasedNote, SwitchNote, ProfileNote, ActiveNote>;
+
+    void tell(const Note& note);
+    // Keeps `note` when deferring and returns true; false when it is to be told now.
+    bool keep(const Note& note);
+    Note* nextSlot();
+    void tellKept();
+
+    MainQueue& queue_;
+    std::vector<ControllerObserver*> observers_;
+    int deferring_ = 0;
+    std::array<Note, deferredCapacity> kept_;
+    std::size_t keptCount_ = 0;
+    // What the posted task holds weakly, so that it does nothing once the list is gone.
+    std::shared_ptr<ObserverList*> self_;
+};
+
+}  // namespace tactora

@@ -1,0 +1,30 @@
+#include "core/composition/Tactora.h"
+
+#include <utility>
+
+namespace tactora {
+
+static_assert(TouchSurface::contactLifetime == Controller::liveContact,
+              "The live view and the live line count fingers over the same time");
+
+Tactora::Tactora(ControllerServices services)
+    : controller_(Controller::create(services)),
+      liveView_(LiveView::create(services.surface, services.clock, services.queue)),
+      feedback_(
+          MenuBarFeedback::create(services.defaults, *controller_, services.clock, services.queue)),
+      recorder_(services.traceSink, services.clock, services.workspace, services.view, *controller_,
+                *controller_),
+      profileFiles_(*controller_, services.files, services.dialogs, services.view) {
+    // The recorder comes first, so that it writes what comes in before the others act on it.
+    controller_->addObserver(recorder_);
+    controller_->addObserver(*liveView_);
+    controller_->addObserver(*feedback_);
+}
+
+Tactora::~Tactora() {
+    controller_->removeObserver(*feedback_);
+    controller_->removeObserver(*liveView_);
+    controller_->removeObserver(recorder_);
+}
+
+}  // namespace tactora

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+
+#include "core/app/Controller.h"
+#include "core/app/ControllerServices.h"
+#include "core/feedback/MenuBarFeedback.h"
+#include "core/liveview/LiveView.h"
+#include "core/profilefiles/ProfileFileControls.h"
+#include "core/recording/TouchRecorder.h"
+
+namespace tactora {
+
+// The running program: the controller and the parts beside it, wired together. The controller
+// owns what the base system gives it; each part here learns what happens as one of its
+// observers and reaches it only through a narrow interface of its own:
+//
+//   liveview/    the settings window's live view of the touch surface
+//   feedback/    the finger count in the menu bar
+//   recording/   the recording of touch traces
+//   profilefiles/ deleting, exporting and importing profiles
+//
+// The shell sends each menu item and control to the part that owns it. Main thread only, like
+// everything it holds; made once the string table is installed.
+class Tactora {
+  public:
+    explicit Tactora(ControllerServices services);
+    Tactora(const Tactora&) = delete;
+    Tactora& operator=(const Tactora&) = delete;
+    Tactora(Tactora&&) = delete;
+    Tactora& operator=(Tactora&&) = delete;
+    ~Tactora();
+
+    Controller& controller() { return *controller_; }
+    const std::shared_ptr<Controller>& sharedController() const { return controller_; }
+    LiveView& liveView() { return *liveView_; }
+    MenuBarFeedback& feedback() { return *feedback_; }
+    TouchRecorder& recorder() { return recorder_; }
+    ProfileFileControls& profileFiles() { return profileFiles_; }
+
+  private:
+    std::shared_ptr<Controller> controller_;
+    std::shared_ptr<LiveView> liveView_;
+    std::shared_ptr<MenuBarFeedback> feedback_;
+    TouchRecorder recorder_;
+    ProfileFileControls profileFiles_;
+};
+
+}  // namespace tactora

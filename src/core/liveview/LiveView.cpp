@@ -1,0 +1,110 @@
+#include "core/liveview/LiveView.h"
+
+#include <cstddef>
+#include <vector>
+
+#include "core/app/Globals.h"
+
+namespace tactora {
+
+namespace {
+
+// How the live view names an action: a recorded shortcut by its keys, anything else by its
+// catalogue name. Nothing for an index outside the catalogue.
+std::optional<std::string> displayName(ActionIndex action,
+                                       const std::optional<SavedShortcut>& shortcut) {
+    if (action == action::custom && shortcut && shortcut->isValid()) {
+        return shortcut->label;
+    }
+    const std::vector<std::string>& names = choices();
+    if (action < 0 || static_cast<std::size_t>(action) >= names.size()) {
+        return std::nullopt;
+    }
+    return names[static_cast<std::size_t>(action)];
+}
+
+}  // namespace
+
+std::shared_ptr<LiveView> LiveView::create(SurfaceView& view, Clock& clock, MainQueue& queue) {
+    return std::make_shared<LiveView>(Passkey{}, view, clock, queue);
+}
+
+LiveView::LiveView(Passkey /*unused*/, SurfaceView& view, Clock& clock, MainQueue& queue)
+    : view_(view), clock_(clock), queue_(queue) {}
+
+void LiveView::launched(double /*time*/) {
+    view_.observeVisibility([weak = weak_from_this()](bool visible) {
+        if (const auto self = weak.lock()) {
+            self->visibilityChanged(visible);
+        }
+    });
+}
+
+void LiveView::visibilityChanged(bool visible) {
+    visible_ = visible;
+    if (visible) {
+        show();
+        scheduleHighlightEnd();
+    }
+}
+
+void LiveView::refreshed(double /*time*/) {
+    if (visible_) {
+        show();
+    }
+}
+
+void LiveView::frameReceived(std::span<const Finger> fingers, double time) {
+    if (!visible_) {
+        return;
+    }
+    surface_.frame(fingers, time);
+    show();
+}
+
+void LiveView::gestureRecognised(const GestureNote& note) {
+    surface_.gesture(note.kind, note.fingers, note.time);
+    highlightChanged();
+}
+
+void LiveView::actionPerformed(const ActionNote& note) {
+    // The system's own behaviour is no action of ours, and a direct request no gesture's.
+    if (note.origin == ActionOrigin::direct || note.action == action::defaultAction) {
+        return;
+    }
+    const std::optional<std::string> name = displayName(note.action, note.shortcut);
+    if (!name) {
+        return;
+    }
+    surface_.action(*name, note.time);
+    highlightChanged();
+}
+
+void LiveView::highlightChanged() {
+    // A hidden window is brought up to date when it becomes visible.
+    if (!visible_) {
+        return;
+    }
+    show();
+    scheduleHighlightEnd();
+}
+
+void LiveView::scheduleHighlightEnd() {
+    const std::optional<double> end = surface_.highlightEnd();
+    const double now = clock_.uptime();
+    if (!end || *end <= now) {
+        return;
+    }
+    queue_.after(*end - now, [weak = weak_from_this()] {
+        const auto self = weak.lock();
+        if (self && self->visible_) {
+            self->show();
+        }
+    });
+}
+
+void LiveView::show() {
+    view_.show(surface_.snapshot(clock_.uptime()));
+}
+
+}  // namespace tactora

@@ -1,0 +1,155 @@
+#include "core/recording/TouchRecorder.h"
+
+#include <utility>
+
+#include "core/localization/Localizer.h"
+#include "core/trace/TraceFormat.h"
+
+namespace tactora {
+
+TouchRecorder::TouchRecorder(TraceSink& sink, Clock& clock, Workspace& workspace,
+                             SettingsView& view, StatusDisplay& display, ProfileSwitcher& profiles)
+    : sink_(sink),
+      clock_(clock),
+      workspace_(workspace),
+      view_(view),
+      display_(display),
+      profiles_(profiles) {
+    showMenuEntry();
+}
+
+void TouchRecorder::recordTouches() {
+    if (trace_.isRecording()) {
+        stop();
+    } else {
+        start();
+    }
+}
+
+void TouchRecorder::start() {
+    const std::optional<std::string> path = sink_.begin();
+    if (!path) {
+        view_.setStatusText(L("trace.failed"));
+        return;
+    }
+    path_ = *path;
+    const double now = clock_.uptime();
+    trace_.start(sink_, now);
+    // The state a replay must start from, so that it decides as this program does.
+    front_.reset();
+    gestures_.reset();
+    noteGestures(view_.isEnabledOn(), now);
+    note(now, TraceActive{workspace_.isActive()});
+    note(now, TraceProfileSelected{profiles_.profiles().activeID().text()});
+    noteFrontApplication(now);
+    view_.setStatusText(L("trace.started", path_));
+    showMenuEntry();
+    display_.setLiveNote(L("trace.live"));
+    display_.refresh();
+}
+
+void TouchRecorder::stop() {
+    if (!trace_.isRecording()) {
+        return;
+    }
+    trace_.stop();
+    view_.setStatusText(L("trace.saved", path_));
+    showMenuEntry();
+    display_.setLiveNote({});
+    display_.refresh();
+}
+
+void TouchRecorder::showMenuEntry() {
+    display_.setStatusMenuEntry({L(trace_.isRecording() ? "menu.trace.stop" : "menu.trace.start"),
+                                 MenuCommand::recordTouches, ""});
+}
+
+void TouchRecorder::frameReceived(std::span<const Finger> fingers, double time) {
+    if (!trace_.isRecording()) {
+        return;
+    }
+    noteFrontApplication(time);
+    note(time, TraceFrame{{fingers.begin(), fingers.end()}});
+}
+
+// The guard looks at the application in front when a scheduled action comes due: what it saw
+// is written as it decided, pass or not.
+void TouchRecorder::actionPerformed(const ActionNote& note) {
+    const bool guarded =
+        note.origin == ActionOrigin::tap || (note.origin == ActionOrigin::click && !note.asButton);
+    if (guarded && trace_.isRecording()) {
+        noteFrontApplication(note.time);
+    }
+}
+
+void TouchRecorder::actionDropped(const ActionDropNote& note) {
+    if (trace_.isRecording()) {
+        noteFrontApplication(note.time);
+    }
+}
+
+void TouchRecorder::mouseEventDecided(const MouseEventNote& note) {
+    if (!trace_.isRecording() || trace::mouseEventWord(note.type).empty()) {
+        return;
+    }
+    noteFrontApplication(note.time);
+    this->note(note.time, TraceMouseEvent{note.type, note.button, note.fromMouse});
+}
+
+void TouchRecorder::switchChanged(const SwitchNote& note) {
+    noteGestures(note.on, note.time);
+}
+
+void TouchRecorder::profileSelected(const ProfileNote& note) {
+    // A profile the application in front chose is replayed from the application's line.
+    if (note.chosen) {
+        this->note(note.time, TraceProfileSelected{note.id});
+    }
+}
+
+void TouchRecorder::activeChanged(const ActiveNote& note) {
+    this->note(note.time, TraceActive{note.active});
+}
+
+void TouchRecorder::refreshed(double time) {
+    if (trace_.expired(time)) {
+        stop();
+    }
+}
+
+void TouchRecorder::terminating(double /*time*/) {
+    stop();
+}
+
+void TouchRecorder::note(double time, TraceEvent event) {
+    if (!trace_.isRecording()) {
+        return;
+    }
+    if (!trace_.note({time, std::move(event)})) {
+        stop();
+    }
+}
+
+// The workspace tells nobody when another application comes to the front, so the trace notes
+// it when it sees it, before the event that it may matter to.
+void TouchRecorder::noteFrontApplication(double time) {
+    TraceFrontApplication front{workspace_.frontmostProcessID(), workspace_.frontmostBundleID()};
+    if (!front.processID) {
+        front.bundleID.clear();
+    }
+    if (front_ == front) {
+        return;
+    }
+    front_ = front;
+    note(time, std::move(front));
+}
+
+void TouchRecorder::noteGestures(bool on, double time) {
+    if (!trace_.isRecording() || gestures_ == on) {
+        return;
+    }
+    gestures_ = on;
+    note(time, TraceGestures{on});
+}
+
+}  // namespace tactora

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+
+#include "core/app/ControllerObserver.h"
+#include "core/app/ProfileSwitcher.h"
+#include "core/app/StatusDisplay.h"
+#include "core/platform/Clock.h"
+#include "core/platform/SettingsView.h"
+#include "core/platform/TraceSink.h"
+#include "core/platform/Workspace.h"
+#include "core/trace/TraceLine.h"
+#include "core/trace/TraceRecorder.h"
+
+namespace tactora {
+
+// The recording of touch traces: off until the user chooses "Record Touches…" in the status
+// menu, then every frame, mouse event and change of state the controller tells of, as the
+// lines of a trace that a replay decides from exactly as the program did. A recording stops
+// when the user chooses the item again, when the program quits, or by itself at the
+// recorder's limits. The live line says a recording is under way.
+//
+// Main thread only; an observer of the controller.
+class TouchRecorder final : public ControllerObserver {
+  public:
+    TouchRecorder(TraceSink& sink, Clock& clock, Workspace& workspace, SettingsView& view,
+                  StatusDisplay& display, ProfileSwitcher& profiles);
+
+    // The status menu's item: starts a recording, or stops the one under way.
+    void recordTouches();
+    bool isRecording() const { return trace_.isRecording(); }
+
+    void frameReceived(std::span<const Finger> fingers, double time) override;
+    void actionPerformed(const ActionNote& note) override;
+    void actionDropped(const ActionDropNote& note) override;
+    bool wantsMouseEvents() const override { return trace_.isRecording(); }
+    void mouseEventDecided(const MouseEventNote& note) override;
+    void switchChanged(const SwitchNote& note) override;
+    void profileSelected(const ProfileNote& note) override;
+    void activeChanged(const ActiveNote& note) override;
+    void refreshed(double time) override;
+    void terminating(double time) override;
+
+  private:
+    void start();
+    void stop();
+    void showMenuEntry();
+    void note(double time, TraceEvent event);
+    void noteFrontApplication(double time);
+    void noteGestures(bool on, double time);
+
+    TraceSink& sink_;
+    Clock& clock_;
+    Workspace& workspace_;
+    SettingsView& view_;
+    StatusDisplay& display_;
+    ProfileSwitcher& profiles_;
+    TraceRecorder trace_;
+    std::string path_;
+    // What was last written, so that an unchanged state is not written again.
+    std::optional<TraceFrontApplication> front_;
+    std::optional<bool> gestures_;
+};
+
+}  // namespace tactora
