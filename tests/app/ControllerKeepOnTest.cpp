@@ -165,10 +165,12 @@ TEST_F(ControllerKeepOnTest, MouseLeavingAndComingBackWhileOn) {
 
 TEST_F(ControllerKeepOnTest, MouseLeavingAndComingBackWhileKeepOnIsOff) {
     h.launchAndSwitchOn();
+    h.sensor.startSucceeds = false;
     h.devices.leave();
     h.queue.advance(Controller::deviceSettle);
     EXPECT_EQ(h.log.count("sensor.start"), 1);
     EXPECT_FALSE(h.view.enabled);
+    h.sensor.startSucceeds = true;
     h.devices.arrive();
     h.queue.advance(Controller::deviceSettle);
     EXPECT_EQ(h.log.count("sensor.start"), 2);
