@@ -20,6 +20,10 @@ std::int32_t BridgeSensor::statusError() const {
     return TAStatusError();
 }
 
+std::uint64_t BridgeSensor::connectedDevice() const {
+    return TAConnectedDevice();
+}
+
 bool BridgeSensor::isMouseSender(std::uint64_t senderID) {
     return TAIsMouseSender(senderID);
 }

@@ -16,6 +16,7 @@ class BridgeSensor final : public Sensor {
     void stop() override;
     std::string status() const override;
     std::int32_t statusError() const override;
+    std::uint64_t connectedDevice() const override;
     bool isMouseSender(std::uint64_t senderID) override;
 };
 

@@ -26,6 +26,12 @@ void TAReleaseDevices(const void* devices);
  */
 bool TAIsMouseService(uint32_t service);
 
+/*
+ * The registry entry id of this service, 0 for the null service. Off Apple systems the service
+ * number itself stands for its id.
+ */
+uint64_t TAServiceEntryID(uint32_t service);
+
 /* The mouse test for the service with this registry entry id (non-zero). */
 bool TAIsMouseRegistryEntry(uint64_t entryID);
 

@@ -56,6 +56,15 @@ bool TAIsMouseService(uint32_t service) {
     return hasMouseAcceleration(service) || isNamedMagicMouse(service);
 }
 
+uint64_t TAServiceEntryID(uint32_t service) {
+    uint64_t id = 0;
+    if (service == IO_OBJECT_NULL ||
+        IORegistryEntryGetRegistryEntryID(service, &id) != KERN_SUCCESS) {
+        return 0;
+    }
+    return id;
+}
+
 bool TAIsMouseRegistryEntry(uint64_t entryID) {
     /* IOServiceGetMatchingService consumes the matching dictionary. */
     io_service_t service =

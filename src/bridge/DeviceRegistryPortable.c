@@ -31,6 +31,10 @@ bool TAIsMouseService(uint32_t service) {
     return service != 0 && mouseTest != NULL && mouseTest(service);
 }
 
+uint64_t TAServiceEntryID(uint32_t service) {
+    return service;
+}
+
 bool TAIsMouseRegistryEntry(uint64_t entryID) {
     (void)entryID;
     return false;

@@ -16,8 +16,11 @@
 extern "C" {
 #endif
 
-/* Called once per mouse that arrived (`arrived` 1) or left (`arrived` 0). */
-typedef void (*TADeviceChange)(void* context, int32_t arrived);
+/*
+ * Called once per mouse that arrived (`arrived` 1) or left (`arrived` 0), with its registry
+ * entry id.
+ */
+typedef void (*TADeviceChange)(void* context, int32_t arrived, uint64_t entryID);
 
 typedef struct TADeviceWatch TADeviceWatch;
 

@@ -24,14 +24,6 @@ struct TADeviceWatch {
     int32_t knownCount;
 };
 
-static uint64_t entryID(io_service_t service) {
-    uint64_t id = 0;
-    if (IORegistryEntryGetRegistryEntryID(service, &id) != KERN_SUCCESS) {
-        return 0;
-    }
-    return id;
-}
-
 static void remember(TADeviceWatch* watch, uint64_t id) {
     for (int32_t i = 0; i < watch->knownCount; ++i) {
         if (watch->known[i] == id) {
@@ -58,9 +50,10 @@ static void takeArrivals(TADeviceWatch* watch, bool report) {
     io_service_t service;
     while ((service = IOIteratorNext(watch->arrivals)) != IO_OBJECT_NULL) {
         if (TAIsMouseService(service)) {
-            remember(watch, entryID(service));
+            uint64_t id = TAServiceEntryID(service);
+            remember(watch, id);
             if (report) {
-                watch->change(watch->context, 1);
+                watch->change(watch->context, 1, id);
             }
         }
         IOObjectRelease(service);
@@ -70,8 +63,9 @@ static void takeArrivals(TADeviceWatch* watch, bool report) {
 static void takeRemovals(TADeviceWatch* watch, bool report) {
     io_service_t service;
     while ((service = IOIteratorNext(watch->removals)) != IO_OBJECT_NULL) {
-        if (forget(watch, entryID(service)) && report) {
-            watch->change(watch->context, 0);
+        uint64_t id = TAServiceEntryID(service);
+        if (forget(watch, id) && report) {
+            watch->change(watch->context, 0, id);
         }
         IOObjectRelease(service);
     }

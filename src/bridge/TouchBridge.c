@@ -17,6 +17,7 @@ static const char* frameworkPath = systemFrameworkPath;
 static void* library = NULL; /* loaded once, never closed */
 static const void* devices = NULL;
 static void* device = NULL;
+static uint64_t deviceEntryID = 0; /* of `device` while frames flow */
 /* Read on the framework's thread while TAStop may clear it on the main thread. */
 static _Atomic(TAFrameCallback) client;
 static void (*unreg)(void*, TAContactFrameHandler) = NULL;
@@ -82,6 +83,7 @@ int32_t TAStart(TAFrameCallback newClient) {
     functions.registerHandler(device, frame);
     int32_t code = functions.start(device, 0);
     if (code == 0) {
+        deviceEntryID = TAServiceEntryID(functions.getService(device));
         setStatus("sensor.connected");
         return 1;
     }
@@ -92,6 +94,7 @@ int32_t TAStart(TAFrameCallback newClient) {
 }
 
 void TAStop(void) {
+    deviceEntryID = 0;
     if (device != NULL) {
         unreg(device, frame);
         stop(device);
@@ -110,6 +113,10 @@ const char* TAStatus(void) {
 
 int32_t TAStatusError(void) {
     return statusError;
+}
+
+uint64_t TAConnectedDevice(void) {
+    return deviceEntryID;
 }
 
 bool TAIsMouseSender(uint64_t senderID) {

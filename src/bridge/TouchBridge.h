@@ -8,8 +8,9 @@
  * multitouch device that is a mouse and hands each frame's touching contacts to one client
  * callback. Its state is process-wide; there is one connection and one client at a time.
  *
- * Threads: TAStart, TAStop, TAStatus, TAStatusError, TAIsMouseSender and TADesktopAction are
- * called on the main thread. The client callback runs on the framework's own thread.
+ * Threads: TAStart, TAStop, TAStatus, TAStatusError, TAConnectedDevice, TAIsMouseSender and
+ * TADesktopAction are called on the main thread. The client callback runs on the framework's
+ * own thread.
  */
 
 #include <stdbool.h>
@@ -45,6 +46,12 @@ const char* TAStatus(void);
 
 /* The code returned by the device start that failed in the last TAStart, 0 otherwise. */
 int32_t TAStatusError(void);
+
+/*
+ * The registry entry id of the device whose frames flow (see DeviceRegistry.h), 0 while none
+ * is connected.
+ */
+uint64_t TAConnectedDevice(void);
 
 /*
  * Whether the input device with this registry entry id is a mouse of the kind the bridge

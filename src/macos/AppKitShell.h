@@ -16,7 +16,9 @@ class AppKitShell final : public AppShell {
     AppKitShell(TASettingsControls* controls, TAApplicationDelegate* target)
         : controls_(controls), target_(target) {}
 
+    LaunchOrigin launchOrigin() const override;
     void setRegularActivationPolicy() override;
+    void setAccessoryActivationPolicy() override;
     void applyApplicationIcon() override;
     void buildMainMenu(const std::vector<MenuEntry>& items) override;
     void addMainMenu(const std::string& title, const std::vector<MenuEntry>& items) override;

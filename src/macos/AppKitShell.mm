@@ -9,8 +9,16 @@
 
 namespace tactora::macos {
 
+LaunchOrigin AppKitShell::launchOrigin() const {
+    return target_.launchedAsLoginItem ? LaunchOrigin::loginItem : LaunchOrigin::user;
+}
+
 void AppKitShell::setRegularActivationPolicy() {
     [NSApp setActivationPolicy:NSApplicationActivationPolicyRegular];
+}
+
+void AppKitShell::setAccessoryActivationPolicy() {
+    [NSApp setActivationPolicy:NSApplicationActivationPolicyAccessory];
 }
 
 void AppKitShell::applyApplicationIcon() {

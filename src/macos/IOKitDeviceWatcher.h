@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <cstdint>
 #include <memory>
 
 #include "bridge/DeviceWatch.h"
@@ -12,17 +12,17 @@ namespace tactora::macos {
 // main run loop. Owns the notification port and its iterators until it is destroyed.
 class IOKitDeviceWatcher final : public DeviceWatcher {
   public:
-    bool watch(std::function<void()> arrived, std::function<void()> left) override;
+    bool watch(Change arrived, Change left) override;
 
   private:
     struct StopWatching {
         void operator()(TADeviceWatch* watch) const { TAStopWatchingDevices(watch); }
     };
 
-    static void changed(void* context, std::int32_t arrived);
+    static void changed(void* context, std::int32_t arrived, std::uint64_t entryID);
 
-    std::function<void()> arrived_;
-    std::function<void()> left_;
+    Change arrived_;
+    Change left_;
     std::unique_ptr<TADeviceWatch, StopWatching> watch_;
 };
 

@@ -4,7 +4,7 @@
 
 namespace tactora::macos {
 
-bool IOKitDeviceWatcher::watch(std::function<void()> arrived, std::function<void()> left) {
+bool IOKitDeviceWatcher::watch(Change arrived, Change left) {
     arrived_ = std::move(arrived);
     left_ = std::move(left);
     // The bridge calls back with this object as its context, on the main thread, for as long
@@ -13,11 +13,11 @@ bool IOKitDeviceWatcher::watch(std::function<void()> arrived, std::function<void
     return watch_ != nullptr;
 }
 
-void IOKitDeviceWatcher::changed(void* context, std::int32_t arrived) {
+void IOKitDeviceWatcher::changed(void* context, std::int32_t arrived, std::uint64_t entryID) {
     auto* self = static_cast<IOKitDeviceWatcher*>(context);
-    const std::function<void()>& handler = arrived != 0 ? self->arrived_ : self->left_;
+    const Change& handler = arrived != 0 ? self->arrived_ : self->left_;
     if (handler) {
-        handler();
+        handler(entryID);
     }
 }
 

@@ -54,7 +54,6 @@ class MacApplication {
     CGEventPoster poster_;
     MachPortEventTap tap_;
     AppKitDialogs dialogs_;
-    AppKitProfileFiles files_;
     IOKitDeviceWatcher devices_;
     ServiceManagementLoginItem loginItem_;
     SystemProcessActivity activity_;
@@ -63,6 +62,7 @@ class MacApplication {
     FileTraceSink traceSink_;
     TASettingsControls* __strong controls_;
     TAApplicationDelegate* __strong delegate_;
+    AppKitProfileFiles files_;
     AppKitSettingsView view_;
     AppKitShell shell_;
     AppKitSurfaceView surface_;

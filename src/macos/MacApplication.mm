@@ -18,6 +18,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
       controls_([[TASettingsControls alloc]
           initWithEnableTitle:toNSString(settingsWindowTexts().enableSwitch)]),
       delegate_([[TAApplicationDelegate alloc] init]),
+      files_(controls_),
       view_(controls_),
       shell_(controls_, delegate_),
       surface_(controls_),

@@ -20,6 +20,10 @@ NS_ASSUME_NONNULL_BEGIN
 // `program` is not owned; it must outlive every call the delegate receives.
 - (void)attachProgram:(tactora::Tactora*)program;
 
+// Whether the system opened the application as a login item, as the open-application Apple
+// event of this launch said; known from applicationWillFinishLaunching: on.
+@property(nonatomic, readonly) BOOL launchedAsLoginItem;
+
 - (void)show;
 - (void)quit;
 - (void)pause;

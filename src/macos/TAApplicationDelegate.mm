@@ -1,6 +1,7 @@
 #import "macos/TAApplicationDelegate.h"
 
 #include "core/composition/Tactora.h"
+#include "macos/LaunchEvent.h"
 #include "macos/StringConversion.h"
 
 @implementation TAApplicationDelegate {
@@ -9,6 +10,14 @@
 
 - (void)attachProgram:(tactora::Tactora*)program {
     _program = program;
+}
+
+// The Apple event being handled while launching finishes is the one that opened the
+// application.
+- (void)applicationWillFinishLaunching:(NSNotification*)notification {
+    _launchedAsLoginItem = tactora::macos::launchOrigin(
+                               [NSAppleEventManager sharedAppleEventManager].currentAppleEvent) ==
+                           tactora::LaunchOrigin::loginItem;
 }
 
 - (void)applicationDidFinishLaunching:(NSNotification*)notification {

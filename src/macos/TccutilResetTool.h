@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,12 +8,14 @@
 
 namespace tactora::macos {
 
-// Runs /usr/bin/tccutil directly (an argument array, no shell) and waits for it; a tool that
-// could not be started, or that did not exit normally, counts as exit status -1.
+// Runs /usr/bin/tccutil directly (an argument array, no shell) on a serial background queue,
+// waits for it there up to the time limit, kills it when it overruns, and reports on the main
+// queue. A tool that could not be started, or that did not exit normally, counts as exit
+// status -1.
 class TccutilResetTool final : public PermissionResetTool {
   public:
     std::optional<std::string> bundleIdentifier() const override;
-    std::int32_t run(const std::vector<std::string>& arguments) override;
+    void run(const std::vector<std::string>& arguments, double timeLimit, Done done) override;
 };
 
 }  // namespace tactora::macos

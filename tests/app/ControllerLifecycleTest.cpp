@@ -358,6 +358,50 @@ TEST_F(ControllerLifecycleTest, PermissionButtonsPromptThenOpenTheirPanes) {
                   "x-apple.systempreferences:com.apple.preference.security?Privacy_ListenEvent"}));
 }
 
+TEST_F(ControllerLifecycleTest, AStartAtLoginStaysInTheMenuBar) {
+    h.shell.origin = LaunchOrigin::loginItem;
+    h.c().applicationDidFinishLaunching();
+    EXPECT_TRUE(h.log.contains("shell.setAccessoryActivationPolicy"));
+    EXPECT_FALSE(h.log.contains("shell.setRegularActivationPolicy"));
+    EXPECT_FALSE(h.log.contains("shell.showWindow"));
+    EXPECT_FALSE(h.log.contains("workspace.activate"));
+    // Everything else starts as usual.
+    EXPECT_TRUE(h.log.contains("shell.buildWindow"));
+    EXPECT_TRUE(h.log.contains("shell.createStatusItem"));
+    EXPECT_TRUE(h.c().ready());
+    EXPECT_EQ(h.queue.intervals, (std::vector<double>{0.2}));
+}
+
+TEST_F(ControllerLifecycleTest, OpeningTheWindowAfterAStartAtLoginBringsTheDockIcon) {
+    h.shell.origin = LaunchOrigin::loginItem;
+    h.c().applicationDidFinishLaunching();
+    h.log.clear();
+    h.c().show();
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"shell.setRegularActivationPolicy",
+                                                     "shell.showWindow", "workspace.activate"}));
+    h.log.clear();
+    h.c().show();
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"shell.showWindow", "workspace.activate"}));
+}
+
+TEST_F(ControllerLifecycleTest, ASecondLaunchAfterAStartAtLoginShowsTheWindowWithTheDockIcon) {
+    h.shell.origin = LaunchOrigin::loginItem;
+    h.c().applicationDidFinishLaunching();
+    h.log.clear();
+    h.workspace.showRequested();
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"shell.setRegularActivationPolicy",
+                                                     "shell.showWindow", "workspace.activate"}));
+}
+
+TEST_F(ControllerLifecycleTest, ReopeningAfterAStartAtLoginShowsTheWindowWithTheDockIcon) {
+    h.shell.origin = LaunchOrigin::loginItem;
+    h.c().applicationDidFinishLaunching();
+    h.log.clear();
+    EXPECT_FALSE(h.c().applicationShouldHandleReopen(false));
+    EXPECT_EQ(h.log.calls, (std::vector<std::string>{"shell.setRegularActivationPolicy",
+                                                     "shell.showWindow", "workspace.activate"}));
+}
+
 TEST_F(ControllerLifecycleTest, ShowBringsTheWindowForwardThenActivates) {
     h.c().show();
     EXPECT_EQ(h.log.calls, (std::vector<std::string>{"shell.showWindow", "workspace.activate"}));

@@ -28,6 +28,8 @@ TEST_F(BridgeSensorTest, StartConnectsTheMouseAndDeliversItsFrames) {
 
     EXPECT_EQ(sensor_.status(), "sensor.connected");
     EXPECT_EQ(sensor_.statusError(), 0);
+    // Off Apple systems a service stands for its own registry entry id.
+    EXPECT_EQ(sensor_.connectedDevice(), kMouse);
     ASSERT_EQ(FrameRecorder::received().size(), 1u);
     EXPECT_EQ(FrameRecorder::received()[0], (std::vector<DeliveredContact>{{9, 0.5f, 0.25f}}));
 }
@@ -39,6 +41,7 @@ TEST_F(BridgeSensorTest, ReportsAFailedStartWithItsCode) {
     EXPECT_FALSE(sensor_.start(FrameRecorder::record));
     EXPECT_EQ(sensor_.status(), "sensor.blocked");
     EXPECT_EQ(sensor_.statusError(), 12);
+    EXPECT_EQ(sensor_.connectedDevice(), 0u);
 }
 
 TEST_F(BridgeSensorTest, ReportsAMissingMouse) {
@@ -54,6 +57,7 @@ TEST_F(BridgeSensorTest, StopEndsTheConnection) {
 
     EXPECT_FALSE(fake_.log().handlerRegistered);
     EXPECT_EQ(fake_.log().stops, 1);
+    EXPECT_EQ(sensor_.connectedDevice(), 0u);
 }
 
 TEST_F(BridgeSensorTest, NoSenderIsTheMouseOffApple) {

@@ -5,9 +5,10 @@
 
 namespace {
 
-void countChange(void* context, int32_t arrived) {
+void countChange(void* context, int32_t arrived, uint64_t entryID) {
     ++*static_cast<int*>(context);
     (void)arrived;
+    (void)entryID;
 }
 
 TEST(DeviceWatchTest, IsUnavailableWithoutTheRegistry) {

@@ -23,6 +23,7 @@ class FakeSensor : public Sensor {
     void stop() override { ++stops; }
     std::string status() const override { return statusKey; }
     std::int32_t statusError() const override { return error; }
+    std::uint64_t connectedDevice() const override { return 0; }
     bool isMouseSender(std::uint64_t /*senderID*/) override { return false; }
 
     bool startResult = false;

@@ -96,6 +96,19 @@ TEST_F(ControllerSurfaceTest, ATapShowsItsFingerCountInTheMenuBarForOneSecond) {
     EXPECT_EQ(statusTitle(h), "");
 }
 
+TEST_F(ControllerSurfaceTest, FeedbackOffAndOnWithinItsTimeBringsNoOldCountBack) {
+    h.a().feedback().toggle();
+    h.assign(6, action::copy);
+    h.tap(3);
+    h.queue.advance(Controller::tapDelay);
+    ASSERT_EQ(statusTitle(h), "3");
+    h.a().feedback().toggle();
+    h.queue.advance(0.2);
+    h.a().feedback().toggle();
+    h.c().refresh();
+    EXPECT_EQ(statusTitle(h), "");
+}
+
 TEST_F(ControllerSurfaceTest, AnInterceptedClickShowsItsFingerCountAtOnce) {
     h.a().feedback().toggle();
     h.assign(1, action::right);

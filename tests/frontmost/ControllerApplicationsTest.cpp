@@ -93,6 +93,10 @@ TEST_F(ControllerApplicationsTest, EverySwitchGoesThroughTheStepsOfSelectingAPro
     const std::int64_t before = h.c().actionGeneration();
 
     h.workspace.bringToFront(safariPID, safari);
+    // The held press finishes first, at its physical release; then the switch happens.
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    h.send(up);
+    h.queue.runReady();
 
     EXPECT_GT(h.c().actionGeneration(), before);
     EXPECT_TRUE(h.c().presses().empty());
@@ -243,6 +247,68 @@ TEST_F(ControllerApplicationsTest, DeletingTheChoiceWhileAnotherApplicationHasIt
     h.a().profileFiles().deleteProfile();
     // Video is the first remaining and becomes the choice; Music still has Audio.
     EXPECT_EQ(store().chosenID(), videoID);
+    EXPECT_EQ(store().activeID(), audioID);
+}
+
+TEST_F(ControllerApplicationsTest, DeletingTheChoiceShowsTheApplicationsProfileAsItsOwn) {
+    h.workspace.bringToFront(musicPID, music);
+    choose(defaultID);
+    h.a().profileFiles().deleteProfile();
+    ASSERT_EQ(store().chosenID(), videoID);
+    ASSERT_EQ(store().activeID(), audioID);
+    // The pop-up and the tooltip both name Music's profile as the one in front.
+    EXPECT_EQ(shownProfile(), "Audio (for Music)");
+    h.c().refresh();
+    EXPECT_EQ(h.view.statusItem->toolTip, "Tactora · menu.active · Audio (for Music)");
+    EXPECT_EQ(savedChoice(), videoID.text());
+    // Music leaving brings the new choice.
+    h.workspace.bringToFront(mailPID, mail);
+    EXPECT_EQ(store().activeID(), videoID);
+    EXPECT_EQ(shownProfile(), "Video");
+}
+
+TEST_F(ControllerApplicationsTest, AddingTheApplicationInFrontToTheEditedProfileSwitchesAtOnce) {
+    h.workspace.bringToFront(musicPID, music);
+    h.a().frontmost().editApplications();
+    h.a().frontmost().removeApplication(music);
+    ASSERT_EQ(store().activeID(), defaultID);
+    h.a().frontmost().addApplication(music);
+    EXPECT_EQ(store().activeID(), audioID);
+    EXPECT_EQ(shownProfile(), "Audio (for Music)");
+}
+
+TEST_F(ControllerApplicationsTest, AHeldPressFinishesBeforeTheApplicationsProfileTakesOver) {
+    h.assign(1, action::right);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    ASSERT_EQ(h.send(down), EventDisposition::pass);
+    ASSERT_EQ(down.type, event::rightMouseDown);
+    // Dragged into Safari's window: Safari comes to the front while the press is held.
+    h.workspace.bringToFront(safariPID, safari);
+    EXPECT_EQ(store().activeID(), defaultID);
+    FakeTapEvent drag = h.mouseEvent(event::leftMouseDragged);
+    h.send(drag);
+    EXPECT_EQ(drag.type, event::rightMouseDragged);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    ASSERT_EQ(h.send(up), EventDisposition::pass);
+    // One press, one matching up, at the physical release; nothing posted of its own.
+    EXPECT_EQ(up.type, event::rightMouseUp);
+    EXPECT_TRUE(h.poster.posted.empty());
+    h.queue.runReady();
+    EXPECT_EQ(store().activeID(), videoID);
+    EXPECT_EQ(shownProfile(), "Video (for Safari)");
+}
+
+TEST_F(ControllerApplicationsTest, AProfileChosenByHandWhileAPressIsHeldReplacesTheWaitingSwitch) {
+    h.assign(1, action::right);
+    h.rest(2);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    ASSERT_EQ(h.send(down), EventDisposition::pass);
+    h.workspace.bringToFront(safariPID, safari);
+    choose(audioID);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    h.send(up);
+    h.queue.advance(1);
     EXPECT_EQ(store().activeID(), audioID);
 }
 

@@ -53,6 +53,36 @@ TEST_F(ControllerProfileFilesTest, ExportWritesEveryProfileWithItsApplications) 
     EXPECT_TRUE(h.dialogs.messages.empty());
 }
 
+TEST_F(ControllerProfileFilesTest, ExportWritesOnlyOnceTheSheetCloses) {
+    h.files.holdPanels = true;
+    h.a().profileFiles().exportProfiles();
+    EXPECT_TRUE(h.files.files.empty());
+    // The sheet leaves the window usable: a profile added meanwhile is written too.
+    store().add("Late", false);
+    ASSERT_TRUE(h.files.closePanel(exportPath));
+    const auto written = decodeProfiles(h.files.files.at(exportPath));
+    ASSERT_TRUE(written);
+    EXPECT_EQ(written->size(), 3U);
+    EXPECT_EQ(h.view.status, "export.done");
+}
+
+TEST_F(ControllerProfileFilesTest, ImportReadsOnlyOnceTheSheetCloses) {
+    h.files.holdPanels = true;
+    h.files.files[importPath] = *encodeProfiles(store().profiles());
+    h.a().profileFiles().importProfiles();
+    EXPECT_EQ(store().profiles().size(), 2U);
+    ASSERT_TRUE(h.files.closePanel(importPath));
+    EXPECT_EQ(store().profiles().size(), 4U);
+}
+
+TEST_F(ControllerProfileFilesTest, AnImportSheetCancelledChangesNothing) {
+    h.files.holdPanels = true;
+    h.a().profileFiles().importProfiles();
+    ASSERT_TRUE(h.files.closePanel(std::nullopt));
+    EXPECT_EQ(store().profiles().size(), 2U);
+    EXPECT_TRUE(h.dialogs.messages.empty());
+}
+
 TEST_F(ControllerProfileFilesTest, CancelledExportWritesNothing) {
     h.a().profileFiles().exportProfiles();
     EXPECT_EQ(h.log.count("files.chooseExportPath"), 1);

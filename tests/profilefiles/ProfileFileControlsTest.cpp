@@ -24,6 +24,7 @@ class CountingSwitcher final : public ProfileSwitcher, public FrontmostFollower 
     }
     void refreshProfileUI() override {}
     void dropPendingWork() override { ++drops; }
+    bool pressesHeld() override { return false; }
     void tellFrontApplication(const FrontApplicationNote& /*note*/) override {}
     Uuid frontmostProfile() override { return store.chosenID(); }
     void followFrontmost() override {}

@@ -25,6 +25,7 @@ class StoreOnly final : public ProfileSwitcher {
     void switchProfileAutomatically(const Uuid& id) override { store.activate(id); }
     void refreshProfileUI() override {}
     void dropPendingWork() override {}
+    bool pressesHeld() override { return false; }
     void tellFrontApplication(const FrontApplicationNote& /*note*/) override {}
 
     ProfileStore store{std::make_shared<MemoryPreferences>(), "Default"};

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/platform/TraceSink.h"
+#include "core/trace/TraceFormat.h"
 #include "core/trace/TraceRecorder.h"
 
 namespace tactora {
@@ -75,6 +76,37 @@ TEST(TraceRecorder, NeverGrowsPastFiftyMegabytes) {
     EXPECT_LE(sink.bytes, TraceRecorder::largest);
     EXPECT_GT(sink.bytes + (std::size_t{1} << 20U) + 64, TraceRecorder::largest);
     EXPECT_TRUE(recorder.isRecording());  // the caller stops it
+}
+
+TEST(TraceRecorder, ASecondRecordingCountsFromItsOwnHeader) {
+    CountingSink first;
+    TraceRecorder recorder;
+    recorder.start(first, 0.0);
+    ASSERT_TRUE(recorder.note(longLine(1.0)));
+    recorder.stop();
+    CountingSink second;
+    recorder.start(second, 10.0);
+    EXPECT_EQ(recorder.size(), second.bytes);
+    EXPECT_EQ(recorder.size(), std::string("tactora-trace 1\n").size());
+    EXPECT_TRUE(recorder.note({10.5, TraceGestures{true}}));
+    EXPECT_EQ(recorder.size(), second.bytes);
+}
+
+TEST(TraceRecorder, ALineThatEndsExactlyAtTheSizeCapIsKept) {
+    CountingSink sink;
+    TraceRecorder recorder;
+    recorder.start(sink, 0.0);
+    const std::size_t header = sink.bytes;
+    // The line without its name, plus the name, plus the newline fill the file to the byte.
+    // (A one-letter name's line is as long as the bare line with its newline.)
+    const std::size_t frame = trace::formatLine({0.0, TraceFrontApplication{1, "x"}}).size();
+    const std::size_t name = TraceRecorder::largest - header - frame;
+    const TraceLine fits{0.0, TraceFrontApplication{1, std::string(name, 'x')}};
+    ASSERT_TRUE(recorder.note(fits));
+    EXPECT_EQ(sink.bytes, TraceRecorder::largest);
+    EXPECT_EQ(sink.last.size(), frame + name);
+    EXPECT_FALSE(recorder.note({0.0, TraceGestures{true}}));
+    EXPECT_EQ(sink.bytes, TraceRecorder::largest);
 }
 
 }  // namespace

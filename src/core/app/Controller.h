@@ -27,6 +27,7 @@
 #include "core/gestures/GestureDispatchContext.h"
 #include "core/gestures/GestureState.h"
 #include "core/keepon/KeepOn.h"
+#include "core/keepon/LaunchPresence.h"
 #include "core/keepon/PermissionMemory.h"
 #include "core/platform/ContactFrame.h"
 #include "core/platform/EventDisposition.h"
@@ -100,8 +101,11 @@ class Controller final : public StatusDisplay,
     // terminates; otherwise builds the menus, the window and the status item, connects the
     // sensor, starts the refresh timer, watches for wake and for other copies' requests to
     // show the window, and shows the window. Gestures stay off until the user switches them on.
+    // Started by the login item it stays in the menu bar: no window and no Dock icon until the
+    // user opens the window.
     void applicationDidFinishLaunching();
-    // Both drop pending gesture actions, let go of held presses and reset the recogniser.
+    // Both drop pending gesture actions, let go of held presses and reset the recogniser;
+    // becoming active also reads the login item's status afresh.
     void applicationDidBecomeActive();
     void applicationDidResignActive();
     // Pauses, then stops the sensor.
@@ -111,7 +115,8 @@ class Controller final : public StatusDisplay,
     // AppKit to do. Otherwise it returns true, leaving AppKit's usual handling.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
 
-    // Brings the settings window to the front and activates the application.
+    // Brings the settings window to the front and activates the application, with its Dock icon
+    // from then on; reads the login item's status afresh.
     void show();
     void quit();
     // Switches gestures off: cancels pending actions, turns the switch off and applies it.
@@ -149,22 +154,30 @@ class Controller final : public StatusDisplay,
     // The "Keep gestures on" checkbox's action: takes its state, and the master switch's as
     // the user's choice.
     void toggleKeepOn();
-    // A multitouch mouse arrived or left: reconnects, deviceSettle seconds later.
-    void deviceArrived();
-    void deviceLeft();
+    // A multitouch mouse arrived while none is connected: reconnects deviceSettle seconds later,
+    // then retries as after a wake until it is connected. A mouse arriving while another one
+    // works changes nothing.
+    void deviceArrived(std::uint64_t device);
+    // The connected mouse left: pauses and reconnects, deviceSettle seconds later. Another
+    // device leaving changes nothing.
+    void deviceLeft(std::uint64_t device);
     // The "Open at login" checkbox's action: registers or unregisters the login item.
     void toggleLoginItem();
     // Opens the Login Items pane of System Settings, where a pending login item is approved.
     void openLoginItems();
-    // Resets both permissions of this application with the system's tool, then asks for both
-    // again as access() and monitor() do. A failed reset shows the tool's exit status.
+    // Pauses gestures, then resets both permissions of this application with the system's
+    // tool, off the main thread and a few seconds at most each; then asks again for the first
+    // permission missing, as access() or monitor() does. A failed reset shows the tool's exit
+    // status, one that took too long says so.
     void resetPermissions();
 
     const KeepOn& keepOn() const { return keepOn_; }
 
     // --- Status display ----------------------------------------------------------------------
 
-    // Rewrites the permission line and the live line, then the status item.
+    // Rewrites the permission line and the live line, then the status item. Never asks for the
+    // login item's status: that is a query to a system service, read only when the window is
+    // shown, the application becomes active, and after registering or unregistering.
     void refresh() override;
     void setLiveNote(std::string note) override;
     void setStatusItemTitle(std::string title) override;
@@ -231,6 +244,7 @@ class Controller final : public StatusDisplay,
     void duplicateProfile();
     void nameProfile(NamingMode mode);
     void dropPendingWork() override;
+    bool pressesHeld() override { return !presses_.empty(); }
     void tellFrontApplication(const FrontApplicationNote& note) override;
     // Where the pop-up and the status item's tooltip get the active profile's name from (not
     // owned; null for the profile's own name).
@@ -288,6 +302,8 @@ class Controller final : public StatusDisplay,
     void scheduleDeviceReconnect();
     void syncActivity();
     void refreshLoginItem();
+    void resetNextPermission(std::size_t index, const std::string& bundleID);
+    void permissionsReset();
     void warnIfSecureInput();
     std::string permissionLine(bool accessibility, bool inputMonitoring);
     void watchDevices();
@@ -338,6 +354,7 @@ class Controller final : public StatusDisplay,
     std::string sensorText_;
     std::optional<std::pair<bool, bool>> lastPermissions_;
     std::optional<LoginItemStatus> loginStatus_;
+    LaunchPresence launch_{LaunchOrigin::user};
 
     bool windowBuilt_ = false;
     bool statusItemCreated_ = false;

@@ -1,8 +1,10 @@
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
 #include "core/app/Controller.h"
+#include "core/keepon/DeviceNotices.h"
 #include "core/localization/Localizer.h"
 #include "core/support/ScopedCount.h"
 
@@ -30,20 +32,30 @@ const char* waitKey(KeepOnWait wait) {
 
 // The services tccutil knows the two permissions by.
 constexpr std::array<const char*, 2> resetServices{"Accessibility", "ListenEvent"};
+// A reset takes well under a second; one that hangs is stopped after this many seconds.
+constexpr double resetTimeLimit = 5;
 
 }  // namespace
 
 void Controller::toggleKeepOn() {
-    keepOn_.setEnabled(services_.view.isKeepOnChecked(), services_.view.isEnabledOn());
+    if (keepOn_.setEnabled(services_.view.isKeepOnChecked(), services_.view.isEnabledOn())) {
+        services_.view.setStatusText(sensorText_);
+    }
     armIfWanted(true);
 }
 
-void Controller::deviceArrived() {
+void Controller::deviceArrived(std::uint64_t /*device*/) {
+    if (!arrivalReconnects(services_.sensor.connectedDevice())) {
+        return;
+    }
+    keepOn_.deviceArrived();
     scheduleDeviceReconnect();
 }
 
-void Controller::deviceLeft() {
-    scheduleDeviceReconnect();
+void Controller::deviceLeft(std::uint64_t device) {
+    if (departureReconnects(device, services_.sensor.connectedDevice())) {
+        scheduleDeviceReconnect();
+    }
 }
 
 void Controller::toggleLoginItem() {
@@ -66,17 +78,50 @@ void Controller::resetPermissions() {
         services_.view.setStatusText(L("reset.failed", std::int64_t{-1}));
         return;
     }
-    for (const char* service : resetServices) {
-        const std::int32_t status = services_.resetTool.run({"reset", service, *bundleID});
-        if (status != 0) {
-            services_.view.setStatusText(L("reset.failed", std::int64_t{status}));
-            return;
-        }
+    // Accessibility is about to go away: nothing may be held or rewritten when it does. The
+    // program's pause keeps the user's wish, so keeping gestures on brings them back once
+    // both permissions are granted again.
+    {
+        const ScopedCount program(programActions_);
+        pause();
     }
+    services_.view.setStatusText(L("reset.running"));
+    resetNextPermission(0, *bundleID);
+}
+
+// Runs the tool for resetServices[index], then for the next one, each off the main thread.
+void Controller::resetNextPermission(std::size_t index, const std::string& bundleID) {
+    if (index == resetServices.size()) {
+        permissionsReset();
+        return;
+    }
+    services_.resetTool.run({"reset", resetServices.at(index), bundleID}, resetTimeLimit,
+                            [weak = weak_from_this(), index, bundleID](ToolOutcome outcome) {
+                                const auto self = weak.lock();
+                                if (!self) {
+                                    return;
+                                }
+                                if (outcome.timedOut) {
+                                    self->services_.view.setStatusText(L("reset.timeout"));
+                                } else if (outcome.exitStatus != 0) {
+                                    self->services_.view.setStatusText(
+                                        L("reset.failed", std::int64_t{outcome.exitStatus}));
+                                } else {
+                                    self->resetNextPermission(index + 1, bundleID);
+                                }
+                            });
+}
+
+// Both were reset: asks for the first one missing only, so that one prompt and one pane of
+// System Settings come up; the other is asked for by its own button.
+void Controller::permissionsReset() {
     permissionMemory_.forget();
     services_.view.setStatusText(L("reset.done"));
-    access();
-    monitor();
+    if (!services_.permissions.accessibilityTrusted()) {
+        access();
+    } else if (!services_.permissions.inputMonitoringGranted()) {
+        monitor();
+    }
     refresh();
 }
 
@@ -212,14 +257,14 @@ void Controller::scheduleDeviceReconnect() {
 
 void Controller::watchDevices() {
     services_.devices.watch(
-        [weak = weak_from_this()] {
+        [weak = weak_from_this()](std::uint64_t device) {
             if (const auto self = weak.lock()) {
-                self->deviceArrived();
+                self->deviceArrived(device);
             }
         },
-        [weak = weak_from_this()] {
+        [weak = weak_from_this()](std::uint64_t device) {
             if (const auto self = weak.lock()) {
-                self->deviceLeft();
+                self->deviceLeft(device);
             }
         });
 }

@@ -16,7 +16,12 @@ void Controller::applicationDidFinishLaunching() {
         services_.workspace.terminate();
         return;
     }
-    services_.shell.setRegularActivationPolicy();
+    launch_ = LaunchPresence(services_.shell.launchOrigin());
+    if (launch_.showsDockIcon()) {
+        services_.shell.setRegularActivationPolicy();
+    } else {
+        services_.shell.setAccessoryActivationPolicy();
+    }
     services_.shell.applyApplicationIcon();
     services_.shell.buildMainMenu(mainMenuItems());
     services_.shell.addMainMenu(editMenuTitle(), editMenuItems());
@@ -26,17 +31,22 @@ void Controller::applicationDidFinishLaunching() {
     updateMenuIcon();
     showStatusMenu();
     reconnect();
+    // After the reconnect's own line, so that a login item waiting for approval is said.
+    refreshLoginItem();
     startRefreshTimer();
     observeWake();
     observeShowRequests();
     watchDevices();
     observers_.launched(services_.clock.uptime());
-    show();
+    if (launch_.showsWindowAtLaunch()) {
+        show();
+    }
 }
 
 void Controller::applicationDidBecomeActive() {
     observers_.activeChanged({.active = true, .time = services_.clock.uptime()});
     dropPendingWork();
+    refreshLoginItem();
 }
 
 void Controller::applicationDidResignActive() {
@@ -61,6 +71,10 @@ bool Controller::applicationShouldHandleReopen(bool hasVisibleWindows) {
 }
 
 void Controller::show() {
+    if (launch_.windowOpened()) {
+        services_.shell.setRegularActivationPolicy();
+    }
+    refreshLoginItem();
     services_.shell.showWindow();
     services_.workspace.activate();
 }
@@ -70,8 +84,9 @@ void Controller::quit() {
 }
 
 void Controller::pause() {
-    if (programActions_ == 0) {
-        keepOn_.userChose(false);
+    if (programActions_ == 0 && keepOn_.userChose(false)) {
+        // "Gestures come back on by themselves once …" no longer holds.
+        services_.view.setStatusText(sensorText_);
     }
     cancelPendingActions();
     services_.view.setEnabledOn(false);
@@ -81,8 +96,8 @@ void Controller::pause() {
 
 void Controller::toggle() {
     const bool byUser = programActions_ == 0 && pausing_ == 0;
-    if (byUser) {
-        keepOn_.userChose(services_.view.isEnabledOn());
+    if (byUser && keepOn_.userChose(services_.view.isEnabledOn())) {
+        services_.view.setStatusText(sensorText_);
     }
     applySwitch(byUser);
     // A pause from the menu is the user's too.

@@ -28,7 +28,6 @@ void Controller::refresh() {
     }
     services_.view.setLiveText(live);
     updateMenuIcon();
-    refreshLoginItem();
     keepOnAtRefresh(accessibility, inputMonitoring);
     observers_.refreshed(services_.clock.uptime());
 }

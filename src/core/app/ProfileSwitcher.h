@@ -23,6 +23,8 @@ class ProfileSwitcher {
     // Drops pending gesture actions, lets go of held presses and resets the recogniser, so
     // that nothing half seen completes after a dialog.
     virtual void dropPendingWork() = 0;
+    // Whether a physical press is held now as the press of the profile it began under.
+    virtual bool pressesHeld() = 0;
     // Tells the controller's observers that another application came to the front.
     virtual void tellFrontApplication(const FrontApplicationNote& note) = 0;
 };

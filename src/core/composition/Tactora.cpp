@@ -10,7 +10,7 @@ static_assert(TouchSurface::contactLifetime == Controller::liveContact,
 Tactora::Tactora(ControllerServices services)
     : controller_(Controller::create(services)),
       frontmost_(FrontmostProfiles::create(*controller_, services.workspace, services.view,
-                                           services.clock)),
+                                           services.clock, services.queue)),
       liveView_(LiveView::create(services.surface, services.clock, services.queue)),
       feedback_(
           MenuBarFeedback::create(services.defaults, *controller_, services.clock, services.queue)),

@@ -9,13 +9,15 @@ namespace tactora {
 
 std::shared_ptr<FrontmostProfiles> FrontmostProfiles::create(ProfileSwitcher& switcher,
                                                              Workspace& workspace,
-                                                             SettingsView& view, Clock& clock) {
-    return std::make_shared<FrontmostProfiles>(Passkey{}, switcher, workspace, view, clock);
+                                                             SettingsView& view, Clock& clock,
+                                                             MainQueue& queue) {
+    return std::make_shared<FrontmostProfiles>(Passkey{}, switcher, workspace, view, clock, queue);
 }
 
 FrontmostProfiles::FrontmostProfiles(Passkey /*unused*/, ProfileSwitcher& switcher,
-                                     Workspace& workspace, SettingsView& view, Clock& clock)
-    : switcher_(switcher), workspace_(workspace), view_(view), clock_(clock) {}
+                                     Workspace& workspace, SettingsView& view, Clock& clock,
+                                     MainQueue& queue)
+    : switcher_(switcher), workspace_(workspace), view_(view), clock_(clock), queue_(queue) {}
 
 void FrontmostProfiles::launched(double /*time*/) {
     workspace_.observeFrontmostApplication(
@@ -52,10 +54,42 @@ Uuid FrontmostProfiles::frontmostProfile() {
 }
 
 void FrontmostProfiles::followFrontmost() {
+    // A press held now was rewritten under the active profile: it keeps that profile until its
+    // up has been sent, at the physical release.
+    followPending_ = switcher_.pressesHeld();
+    if (followPending_) {
+        return;
+    }
     const Uuid target = frontmostProfile();
     if (target != switcher_.profiles().activeID()) {
         switcher_.switchProfileAutomatically(target);
     }
+}
+
+void FrontmostProfiles::mouseEventDecided(const MouseEventNote& /*note*/) {
+    resumeWhenPressesEnd();
+}
+
+void FrontmostProfiles::pressesReleased(const PressesReleasedNote& /*note*/) {
+    resumeWhenPressesEnd();
+}
+
+void FrontmostProfiles::profileSelected(const ProfileNote& /*note*/) {
+    followPending_ = false;
+}
+
+// From the main queue, so that a profile chosen in the same breath as the presses were let go
+// of (a choice in the pop-up lets go of them first) replaces the waiting switch.
+void FrontmostProfiles::resumeWhenPressesEnd() {
+    if (!followPending_ || switcher_.pressesHeld()) {
+        return;
+    }
+    queue_.async([weak = weak_from_this()] {
+        const auto self = weak.lock();
+        if (self && self->followPending_) {
+            self->followFrontmost();
+        }
+    });
 }
 
 bool FrontmostProfiles::profileFollowsApplication() {

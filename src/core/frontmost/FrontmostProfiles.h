@@ -11,6 +11,7 @@
 #include "core/app/ProfileTitleSource.h"
 #include "core/platform/ApplicationsSheet.h"
 #include "core/platform/Clock.h"
+#include "core/platform/MainQueue.h"
 #include "core/platform/SettingsView.h"
 #include "core/platform/Workspace.h"
 #include "core/profiles/Uuid.h"
@@ -35,12 +36,18 @@ class FrontmostProfiles final : public ControllerObserver,
   public:
     static std::shared_ptr<FrontmostProfiles> create(ProfileSwitcher& switcher,
                                                      Workspace& workspace, SettingsView& view,
-                                                     Clock& clock);
+                                                     Clock& clock, MainQueue& queue);
     FrontmostProfiles(Passkey /*unused*/, ProfileSwitcher& switcher, Workspace& workspace,
-                      SettingsView& view, Clock& clock);
+                      SettingsView& view, Clock& clock, MainQueue& queue);
 
     // Starts watching the application in front and follows the one in front now.
     void launched(double time) override;
+    // A switch that waited for a held press happens once the last one has ended; any profile
+    // selected meanwhile replaces it.
+    bool wantsMouseEvents() const override { return followPending_; }
+    void mouseEventDecided(const MouseEventNote& note) override;
+    void pressesReleased(const PressesReleasedNote& note) override;
+    void profileSelected(const ProfileNote& note) override;
 
     // Another application came to the front (`processID` none when no application is in front;
     // `bundleID` empty when it has none). Its profile becomes active, or the user's choice when
@@ -56,6 +63,8 @@ class FrontmostProfiles final : public ControllerObserver,
     std::string activeProfileTitle() override;
 
     Uuid frontmostProfile() override;
+    // Switches to frontmostProfile() when that is not the active one already; while a press is
+    // held, only once it has ended, so that the press stays one press with one matching up.
     void followFrontmost() override;
 
     // The profile actions' applications item: shows the sheet of the active profile's
@@ -70,14 +79,17 @@ class FrontmostProfiles final : public ControllerObserver,
   private:
     ApplicationsSheet applicationsSheet();
     std::string applicationName(const std::string& bundleID) const;
+    void resumeWhenPressesEnd();
 
     ProfileSwitcher& switcher_;
     Workspace& workspace_;
     SettingsView& view_;
     Clock& clock_;
+    MainQueue& queue_;
     std::string frontmostBundleID_;
     std::string frontmostName_;          // what the user calls that application
     std::optional<Uuid> editedProfile_;  // the applications sheet's profile while it is open
+    bool followPending_ = false;         // a switch waits for a held press to end
 };
 
 }  // namespace tactora

@@ -18,7 +18,23 @@ KeepOn::KeepOn(std::shared_ptr<Preferences> defaults)
       enabled_(readFlag(*defaults_, enabledKey)),
       wanted_(enabled_ && readFlag(*defaults_, wantedKey)) {}
 
-void KeepOn::setEnabled(bool on, bool gesturesOn) {
+bool KeepOn::waitIsAnnounced(KeepOnWait wait) {
+    switch (wait) {
+        case KeepOnWait::sensor:
+        case KeepOnWait::accessibility:
+        case KeepOnWait::inputMonitoring:
+        case KeepOnWait::eventTap:
+            return true;
+        case KeepOnWait::nothing:
+        case KeepOnWait::coolDown:
+        case KeepOnWait::stopped:
+            break;
+    }
+    return false;
+}
+
+bool KeepOn::setEnabled(bool on, bool gesturesOn) {
+    const bool announced = waitIsAnnounced(waiting_);
     enabled_ = on;
     store(enabledKey, on);
     wanted_ = on && gesturesOn;
@@ -26,9 +42,11 @@ void KeepOn::setEnabled(bool on, bool gesturesOn) {
     waiting_ = KeepOnWait::nothing;
     disables_.clear();
     cancelScheduled();
+    return announced;
 }
 
-void KeepOn::userChose(bool on) {
+bool KeepOn::userChose(bool on) {
+    const bool announced = !on && waitIsAnnounced(waiting_);
     cancelScheduled();
     if (on) {
         disables_.clear();
@@ -38,11 +56,11 @@ void KeepOn::userChose(bool on) {
     } else {
         waiting_ = KeepOnWait::nothing;
     }
-    if (!enabled_) {
-        return;
+    if (enabled_) {
+        wanted_ = on;
+        store(wantedKey, on);
     }
-    wanted_ = on;
-    store(wantedKey, on);
+    return announced;
 }
 
 bool KeepOn::shouldArm() const {
@@ -57,6 +75,11 @@ bool KeepOn::setWaiting(KeepOnWait wait) {
 }
 
 std::optional<double> KeepOn::tapDisabled(double now) {
+    // A notice that arrives after the stop (gestures are off by then) neither counts nor
+    // restarts: only the user's tick does.
+    if (waiting_ == KeepOnWait::stopped) {
+        return std::nullopt;
+    }
     cancelScheduled();
     if (!disables_.empty() && now - disables_.back() > ladderMemory) {
         disables_.clear();

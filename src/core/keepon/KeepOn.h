@@ -39,27 +39,34 @@ class KeepOn {
 
     bool enabled() const { return enabled_; }
     // The checkbox: turning it on takes the master switch's state `gesturesOn` as the user's
-    // choice. Either way nothing waits any longer.
-    void setEnabled(bool on, bool gesturesOn);
+    // choice. Either way nothing waits any longer. True when it waited for the sensor, a
+    // permission or the event tap: the status line that said so no longer holds.
+    bool setEnabled(bool on, bool gesturesOn);
 
     // The user's last choice of the master switch, kept while enabled() is true.
     bool wanted() const { return wanted_; }
     // The user ticked or unticked the switch, or chose Pause. Cancels any scheduled re-arm; a
-    // tick also forgets earlier disables of the tap and ends a stop.
-    void userChose(bool on);
+    // tick also forgets earlier disables of the tap and ends a stop. True when an untick ended
+    // a wait for the sensor, a permission or the event tap: the status line that said so no
+    // longer holds.
+    bool userChose(bool on);
 
     // Whether gestures should be switched back on now: chosen, wanted, and neither cooling
     // down nor stopped.
     bool shouldArm() const;
 
     KeepOnWait waiting() const { return waiting_; }
+    // Whether the status line says what it waits for ("… once the mouse is connected"): the
+    // sensor, a permission or the event tap.
+    static bool waitIsAnnounced(KeepOnWait wait);
     // Records what it waits for; true when that differs from before (the status line then
     // says it, once).
     bool setWaiting(KeepOnWait wait);
 
     // The system disabled the tap at `now` (seconds of uptime) while the user wanted gestures:
     // the cool-down before re-enabling it, or nothing when the limit is reached (then it waits
-    // for the user: stopped). Cancels any earlier scheduled re-arm.
+    // for the user: stopped). Cancels any earlier scheduled re-arm. Once stopped, later notices
+    // change nothing until the user ticks the switch.
     std::optional<double> tapDisabled(double now);
     // A scheduled cool-down ended; false when something since made it moot.
     bool coolDownEnded(std::uint64_t epoch);
@@ -69,6 +76,9 @@ class KeepOn {
 
     // The system woke: the wake retries start from the first delay.
     void woke();
+    // A mouse arrived: its touch stream is often not ready at the first notice, so the same
+    // retries as after a wake start.
+    void deviceArrived() { woke(); }
     // The next delay of the wake retries, or nothing when they are used up or not due (no
     // wake since the mouse was last found).
     std::optional<double> nextWakeRetry();

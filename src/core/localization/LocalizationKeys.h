@@ -200,6 +200,8 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("permission.stale"),
     LocalizationKey("reset.failed", {integerArgument}),
     LocalizationKey("reset.done"),
+    LocalizationKey("reset.running"),
+    LocalizationKey("reset.timeout"),
     LocalizationKey("login.approval"),
     LocalizationKey("login.failed", {integerArgument}),
     LocalizationKey("secure.input"),

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "core/platform/LaunchOrigin.h"
 #include "core/platform/MenuEntry.h"
 
 namespace tactora {
@@ -15,8 +16,14 @@ class AppShell {
   public:
     virtual ~AppShell() = default;
 
+    // Who started the application, as the system told it when launching began.
+    virtual LaunchOrigin launchOrigin() const = 0;
+
     // A regular application: Dock icon and main menu as well as the status item.
     virtual void setRegularActivationPolicy() = 0;
+
+    // An accessory application: the status item only, no Dock icon and no main menu.
+    virtual void setAccessoryActivationPolicy() = 0;
 
     // Makes the bundled icon the application icon; keeps the default when it is missing.
     virtual void applyApplicationIcon() = 0;

@@ -25,6 +25,10 @@ class Sensor {
     // The error code of the last failed device start, 0 otherwise.
     virtual std::int32_t statusError() const = 0;
 
+    // The registry entry id of the device whose frames flow (the id a DeviceWatcher reports),
+    // 0 while none is connected.
+    virtual std::uint64_t connectedDevice() const = 0;
+
     // Whether the input device with this registry entry id is the Magic Mouse.
     virtual bool isMouseSender(std::uint64_t senderID) = 0;
 };

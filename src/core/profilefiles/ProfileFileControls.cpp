@@ -1,5 +1,6 @@
 #include "core/profilefiles/ProfileFileControls.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <variant>
@@ -39,14 +40,20 @@ void ProfileFileControls::deleteProfile() {
 
 void ProfileFileControls::exportProfiles() {
     switcher_.dropPendingWork();
-    const std::optional<std::string> path =
-        files_.chooseExportPath(L("export.file") + ".json", L("export.message"));
-    if (!path) {
-        return;
-    }
+    files_.chooseExportPath(
+        L("export.file") + ".json", L("export.message"),
+        [this, alive = std::weak_ptr<int>(alive_)](std::optional<std::string> path) {
+            if (!alive.expired() && path) {
+                exportTo(*path);
+            }
+        });
+}
+
+// Written when the panel closes: the profiles as they are then.
+void ProfileFileControls::exportTo(const std::string& path) {
     const std::vector<WorkProfile>& all = switcher_.profiles().profiles();
     const std::optional<std::string> json = encodeProfiles(all);
-    if (!json || !files_.write(*path, *json)) {
+    if (!json || !files_.write(path, *json)) {
         dialogs_.showMessage({L("export.failed"), L("export.write")});
         return;
     }
@@ -55,12 +62,17 @@ void ProfileFileControls::exportProfiles() {
 
 void ProfileFileControls::importProfiles() {
     switcher_.dropPendingWork();
-    const std::optional<std::string> path = files_.chooseImportPath(L("import.message"));
-    if (!path) {
-        return;
-    }
+    files_.chooseImportPath(L("import.message"), [this, alive = std::weak_ptr<int>(alive_)](
+                                                     std::optional<std::string> path) {
+        if (!alive.expired() && path) {
+            importFrom(*path);
+        }
+    });
+}
+
+void ProfileFileControls::importFrom(const std::string& path) {
     // One byte more than allowed tells a file at the limit from a larger one.
-    const std::optional<std::string> bytes = files_.read(*path, maxProfileFileBytes + 1);
+    const std::optional<std::string> bytes = files_.read(path, maxProfileFileBytes + 1);
     if (!bytes) {
         dialogs_.showMessage({L("import.failed"), L("import.unreadable")});
         return;

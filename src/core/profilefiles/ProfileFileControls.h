@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+#include <string>
+
 #include "core/app/FrontmostFollower.h"
 #include "core/app/ProfileSwitcher.h"
 #include "core/platform/ConfirmationTexts.h"
@@ -22,12 +25,17 @@ class ProfileFileControls {
 
     // Asks, then deletes the active profile; the last profile is never deleted.
     void deleteProfile();
-    // Writes every profile to a file chosen with a save panel.
+    // Writes every profile to a file chosen with a save panel, once the panel closes.
     void exportProfiles();
-    // Appends the profiles of a file chosen with an open panel.
+    // Appends the profiles of a file chosen with an open panel, once the panel closes.
     void importProfiles();
 
   private:
+    void exportTo(const std::string& path);
+    void importFrom(const std::string& path);
+
+    // A panel that closes after this object is gone finds it expired and does nothing.
+    std::shared_ptr<int> alive_ = std::make_shared<int>(0);
     ProfileSwitcher& switcher_;
     FrontmostFollower& follower_;
     ProfileFiles& files_;

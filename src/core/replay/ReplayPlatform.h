@@ -102,12 +102,15 @@ class Sensor final : public tactora::Sensor {
     void stop() override {}
     std::string status() const override { return "sensor.connected"; }
     std::int32_t statusError() const override { return 0; }
+    std::uint64_t connectedDevice() const override { return 0; }
     bool isMouseSender(std::uint64_t senderID) override { return senderID == mouseSender; }
 };
 
 class AppShell final : public tactora::AppShell {
   public:
+    LaunchOrigin launchOrigin() const override { return LaunchOrigin::user; }
     void setRegularActivationPolicy() override {}
+    void setAccessoryActivationPolicy() override {}
     void applyApplicationIcon() override {}
     void buildMainMenu(const std::vector<MenuEntry>& /*items*/) override {}
     void addMainMenu(const std::string& /*title*/,
@@ -171,12 +174,12 @@ class SurfaceView final : public tactora::SurfaceView {
 // No file is chosen, read or written.
 class ProfileFiles final : public tactora::ProfileFiles {
   public:
-    std::optional<std::string> chooseExportPath(const std::string& /*suggestedName*/,
-                                                const std::string& /*message*/) override {
-        return std::nullopt;
+    void chooseExportPath(const std::string& /*suggestedName*/, const std::string& /*message*/,
+                          PathChosen chosen) override {
+        chosen(std::nullopt);
     }
-    std::optional<std::string> chooseImportPath(const std::string& /*message*/) override {
-        return std::nullopt;
+    void chooseImportPath(const std::string& /*message*/, PathChosen chosen) override {
+        chosen(std::nullopt);
     }
     std::optional<std::string> read(const std::string& /*path*/, std::size_t /*limit*/) override {
         return std::nullopt;
@@ -187,9 +190,7 @@ class ProfileFiles final : public tactora::ProfileFiles {
 // The mouse stays as the trace found it: no device comes or goes.
 class DeviceWatcher final : public tactora::DeviceWatcher {
   public:
-    bool watch(std::function<void()> /*arrived*/, std::function<void()> /*left*/) override {
-        return false;
-    }
+    bool watch(Change /*arrived*/, Change /*left*/) override { return false; }
 };
 
 class LoginItem final : public tactora::LoginItem {
@@ -214,7 +215,8 @@ class SecureInput final : public tactora::SecureInput {
 class PermissionResetTool final : public tactora::PermissionResetTool {
   public:
     std::optional<std::string> bundleIdentifier() const override { return std::nullopt; }
-    std::int32_t run(const std::vector<std::string>& /*arguments*/) override { return 0; }
+    void run(const std::vector<std::string>& /*arguments*/, double /*timeLimit*/,
+             Done /*done*/) override {}
 };
 
 // A replay records nothing.

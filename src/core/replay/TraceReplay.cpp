@@ -48,7 +48,7 @@ struct Stage {
               Controller::create({queue, queue, workspace, permissions, poster, tap, sensor, shell,
                                   view, dialogs, traceSink, std::move(defaults), surface, files,
                                   devices, loginItem, activity, secureInput, resetTool})),
-          frontmost(FrontmostProfiles::create(*controller, workspace, view, queue)) {
+          frontmost(FrontmostProfiles::create(*controller, workspace, view, queue, queue)) {
         controller->addObserver(*frontmost);
         controller->setProfileTitleSource(frontmost.get());
     }

@@ -15,7 +15,9 @@ class FakeAppShell final : public AppShell {
   public:
     explicit FakeAppShell(CallLog& log) : log_(log) {}
 
+    LaunchOrigin launchOrigin() const override { return origin; }
     void setRegularActivationPolicy() override { log_.add("shell.setRegularActivationPolicy"); }
+    void setAccessoryActivationPolicy() override { log_.add("shell.setAccessoryActivationPolicy"); }
     void applyApplicationIcon() override { log_.add("shell.applyApplicationIcon"); }
     void buildMainMenu(const std::vector<MenuEntry>& items) override {
         log_.add("shell.buildMainMenu");
@@ -36,6 +38,7 @@ class FakeAppShell final : public AppShell {
     }
     void showWindow() override { log_.add("shell.showWindow"); }
 
+    LaunchOrigin origin = LaunchOrigin::user;
     std::vector<MenuEntry> mainMenu;
     std::vector<std::pair<std::string, std::vector<MenuEntry>>> addedMenus;
     std::vector<MenuEntry> statusMenu;

@@ -4,27 +4,39 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "app/fakes/CallLog.h"
 #include "core/platform/ProfileFiles.h"
 
 namespace tactora::testing {
 
-// Files in memory. The panels answer `exportPath` and `importPath`; `files` maps a path to its
-// contents; writing fails for paths in `unwritable`.
+// Files in memory. The panels answer `exportPath` and `importPath` as they open, or, with
+// `holdPanels`, only when the test calls closePanel(); `files` maps a path to its contents;
+// writing fails for paths in `unwritable`.
 class FakeProfileFiles final : public ProfileFiles {
   public:
     explicit FakeProfileFiles(CallLog& log) : log_(log) {}
 
-    std::optional<std::string> chooseExportPath(const std::string& suggestedName,
-                                                const std::string& /*message*/) override {
+    void chooseExportPath(const std::string& suggestedName, const std::string& /*message*/,
+                          PathChosen chosen) override {
         log_.add("files.chooseExportPath");
         suggested = suggestedName;
-        return exportPath;
+        open(std::move(chosen), exportPath);
     }
-    std::optional<std::string> chooseImportPath(const std::string& /*message*/) override {
+    void chooseImportPath(const std::string& /*message*/, PathChosen chosen) override {
         log_.add("files.chooseImportPath");
-        return importPath;
+        open(std::move(chosen), importPath);
+    }
+    // Closes the panel held open, answering `path`; false when none is open.
+    bool closePanel(std::optional<std::string> path) {
+        if (!heldPanel) {
+            return false;
+        }
+        PathChosen chosen = std::move(heldPanel);
+        heldPanel = nullptr;
+        chosen(std::move(path));
+        return true;
     }
     std::optional<std::string> read(const std::string& path, std::size_t limit) override {
         lastLimit = limit;
@@ -42,6 +54,8 @@ class FakeProfileFiles final : public ProfileFiles {
         return true;
     }
 
+    bool holdPanels = false;
+    PathChosen heldPanel;
     std::optional<std::string> exportPath;
     std::optional<std::string> importPath;
     std::map<std::string, std::string> files;
@@ -50,6 +64,14 @@ class FakeProfileFiles final : public ProfileFiles {
     std::size_t lastLimit = 0;
 
   private:
+    void open(PathChosen chosen, const std::optional<std::string>& answer) {
+        if (holdPanels) {
+            heldPanel = std::move(chosen);
+        } else {
+            chosen(answer);
+        }
+    }
+
     CallLog& log_;
 };
 
