@@ -12,7 +12,9 @@ namespace tactora {
 // The stored form of a profile list: one compact JSON array of profile objects. Both functions
 // are pure and may be called from any thread.
 
-// The optional "apps" key is written only for a profile with applications.
+// The optional "apps" key is written only for a profile with applications, and the optional
+// "moreGestures" key only for a profile that maps one of the further gestures or changes the
+// top band's depth.
 // Nothing when a profile cannot be written (a name or label that is not valid UTF-8).
 std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profiles);
 
@@ -20,7 +22,9 @@ std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profil
 // the wrong type or out of its field's range, or an id that is not a UUID. Unknown keys are
 // ignored and nothing is repaired; run sanitize() on each profile afterwards. The one exception
 // is the optional "apps" key: a value that is not an array of non-empty strings leaves that
-// profile without applications instead of failing the list.
+// profile without applications instead of failing the list. Likewise "moreGestures": a
+// malformed slot stays off, an unknown slot name is ignored, and a value that is not an object
+// leaves all of them off.
 //
 // Strict about the text: it must be one JSON array in valid UTF-8 (a leading byte order mark
 // is skipped), without comments or trailing data. Integer fields take integers only: a number

@@ -31,6 +31,7 @@ void WorkProfile::sanitize() {
             actions[i] = action::defaultAction;
         }
     }
+    moreGestures.sanitize();
 }
 
 }  // namespace tactora

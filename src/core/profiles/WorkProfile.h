@@ -6,6 +6,7 @@
 
 #include "core/actions/ActionIndex.h"
 #include "core/profiles/GestureSlot.h"
+#include "core/profiles/MoreGestureMap.h"
 #include "core/profiles/SavedShortcut.h"
 #include "core/profiles/Uuid.h"
 
@@ -27,6 +28,7 @@ struct WorkProfile {
 
     // Exactly eight actions and shortcuts afterwards; invalid shortcuts are dropped and actions
     // outside the catalogue, or custom actions without a shortcut, fall back to the default.
+    // The further gestures are repaired by the same rules.
     void sanitize();
 
     Uuid id;
@@ -36,6 +38,8 @@ struct WorkProfile {
     // Bundle identifiers of the applications that make this profile active while they are in
     // front. sanitize() leaves it alone; the store keeps each application in one profile only.
     std::vector<std::string> apps;
+    // The gestures beyond the eight, all off until mapped. sanitize() repairs them too.
+    MoreGestureMap moreGestures;
 
     bool operator==(const WorkProfile&) const = default;
 };
