@@ -41,12 +41,12 @@ TEST(TapHold, PhasesOfAHoldFromTapToLift) {
     EXPECT_EQ(hold.touchEnded(1.5, true), std::nullopt);
     EXPECT_EQ(hold.phase(), Phase::armed);
     const Frame finger{{2, 0.5, 0.5}};
-    EXPECT_EQ(hold.update(finger, 1.6), std::nullopt);
+    EXPECT_EQ(hold.update(finger, 1.6, false), std::nullopt);
     EXPECT_EQ(hold.phase(), Phase::landed);
-    EXPECT_EQ(hold.update(finger, 1.9), std::nullopt);
-    EXPECT_EQ(hold.update(finger, 1.91), Change::began);
+    EXPECT_EQ(hold.update(finger, 1.9, false), std::nullopt);
+    EXPECT_EQ(hold.update(finger, 1.91, false), Change::began);
     EXPECT_EQ(hold.phase(), Phase::holding);
-    EXPECT_EQ(hold.update(Frame{{3, 0.2, 0.5}}, 2.0), Change::ended);
+    EXPECT_EQ(hold.update(Frame{{3, 0.2, 0.5}}, 2.0, false), Change::ended);
     EXPECT_EQ(hold.phase(), Phase::spent);
     EXPECT_EQ(hold.touchEnded(2.1, false), std::nullopt);
     EXPECT_EQ(hold.phase(), Phase::idle);

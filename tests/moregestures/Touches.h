@@ -24,7 +24,7 @@ struct Touches {
         if (tap) {
             plainTaps.push_back(*tap);
         }
-        const std::optional<MoreGestureEvent> event = more.update(frame, time, tap);
+        const std::optional<MoreGestureEvent> event = more.update(frame, time, taps, tap);
         if (event) {
             events.push_back(*event);
         }

@@ -4,7 +4,6 @@
 #include <span>
 
 #include "core/gestures/Finger.h"
-#include "core/gestures/GestureState.h"
 
 namespace tactora {
 
@@ -15,16 +14,6 @@ struct ContactPoint {
     double y = 0;
 
     static ContactPoint of(const Finger& finger) { return {finger.id, finger.x, finger.y}; }
-
-    // Whether `finger` is farther from this point than the tap's movement tolerance: the same
-    // stillness that the tap recogniser asks of a tap. A position that is not a number is
-    // never movement.
-    bool isLeftBy(const Finger& finger) const {
-        constexpr double limit = GestureState::movementTolerance * GestureState::movementTolerance;
-        const double dx = finger.x - x;
-        const double dy = finger.y - y;
-        return dx * dx + dy * dy > limit;
-    }
 };
 
 // The finger of `frame` with `id`, or null.

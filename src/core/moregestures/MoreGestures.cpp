@@ -4,54 +4,20 @@
 
 namespace tactora {
 
-namespace {
-
-MoreGestureEvent gesture(MoreGestureSlot slot) {
-    return MoreGestureEvent{.kind = MoreGestureEvent::Kind::gesture, .slot = slot};
-}
-
-}  // namespace
-
 std::optional<MoreGestureEvent> MoreGestures::configure(const MoreGestureSettings& settings) {
     std::optional<MoreGestureEvent> ended = cancel();
     settings_ = settings;
+    holdMapped_ = settings.has(MoreGestureSlot::tapHold);
+    tipTapsMapped_ = settings.anyTipTap();
+    swipeFingers_ = settings.swipeFingers();
     return ended;
-}
-
-std::optional<MoreGestureEvent> MoreGestures::touched(std::span<const Finger> frame, double time) {
-    if (!touching_) {
-        touching_ = true;
-        landing_ = ContactPoint::of(frame[0]);
-    }
-    if (settings_.has(MoreGestureSlot::tapHold)) {
-        if (std::optional<MoreGestureEvent> event = holdEvent(hold_.update(frame, time))) {
-            return event;
-        }
-        if (hold_.ownsTouch()) {
-            return std::nullopt;
-        }
-    }
-    if (settings_.anyTipTap()) {
-        const std::optional<MoreGestureSlot> slot = tipTaps_.update(frame, time);
-        if (slot && settings_.has(*slot)) {
-            return gesture(*slot);
-        }
-    }
-    if (const std::uint32_t wanted = settings_.swipeFingers(); wanted != 0) {
-        const std::optional<MoreGestureSlot> slot = swipes_.update(frame, time, wanted);
-        if (slot && settings_.has(*slot)) {
-            swallowing_ = true;
-            return gesture(*slot);
-        }
-    }
-    return std::nullopt;
 }
 
 std::optional<MoreGestureEvent> MoreGestures::touchEnded(double time,
                                                          std::optional<std::int64_t> tap) {
     const bool oneFingerTap = touching_ && tap == 1;
     std::optional<MoreGestureEvent> event;
-    if (settings_.has(MoreGestureSlot::tapHold)) {
+    if (holdMapped_) {
         event = holdEvent(hold_.touchEnded(time, oneFingerTap));
     }
     if (!event && oneFingerTap) {
@@ -82,15 +48,6 @@ std::optional<MoreGestureEvent> MoreGestures::cancel() {
     tipTaps_.reset();
     swipes_.reset();
     return ended;
-}
-
-std::optional<MoreGestureEvent> MoreGestures::holdEvent(std::optional<TapHold::Change> change) {
-    if (!change) {
-        return std::nullopt;
-    }
-    const auto kind = *change == TapHold::Change::began ? MoreGestureEvent::Kind::holdBegan
-                                                        : MoreGestureEvent::Kind::holdEnded;
-    return MoreGestureEvent{.kind = kind, .slot = MoreGestureSlot::tapHold};
 }
 
 }  // namespace tactora

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "core/gestures/Finger.h"
+#include "core/gestures/GestureState.h"
 #include "core/moregestures/ContactPoint.h"
 #include "core/moregestures/MoreGestureEvent.h"
 #include "core/moregestures/MoreGestureSettings.h"
@@ -33,14 +34,15 @@ class MoreGestures {
     // returns the end of a hold that was under way.
     std::optional<MoreGestureEvent> configure(const MoreGestureSettings& settings);
 
-    // One frame, stamped as the tap recogniser's was, and what the tap recogniser returned for
-    // it (the tap's finger count when this empty frame ended a tap).
+    // One frame, stamped as the tap recogniser's was, after the tap recogniser `taps` was fed
+    // it, and what it returned (the tap's finger count when this empty frame ended a tap).
     std::optional<MoreGestureEvent> update(std::span<const Finger> frame, double time,
+                                           const GestureState& taps,
                                            std::optional<std::int64_t> tap) {
         if (!settings_.any()) {
             return std::nullopt;
         }
-        return frame.empty() ? touchEnded(time, tap) : touched(frame, time);
+        return frame.empty() ? touchEnded(time, tap) : touched(frame, time, taps.moved);
     }
 
     // The mouse's button went down. Ends a hold; no tip tap, swipe or hold follows in this
@@ -58,11 +60,25 @@ class MoreGestures {
     bool holding() const { return hold_.phase() == TapHold::Phase::holding; }
 
   private:
-    std::optional<MoreGestureEvent> touched(std::span<const Finger> frame, double time);
+    std::optional<MoreGestureEvent> touched(std::span<const Finger> frame, double time, bool moved);
+    static MoreGestureEvent gesture(MoreGestureSlot slot) {
+        return MoreGestureEvent{.kind = MoreGestureEvent::Kind::gesture, .slot = slot};
+    }
     std::optional<MoreGestureEvent> touchEnded(double time, std::optional<std::int64_t> tap);
-    static std::optional<MoreGestureEvent> holdEvent(std::optional<TapHold::Change> change);
+    static std::optional<MoreGestureEvent> holdEvent(std::optional<TapHold::Change> change) {
+        if (!change) {
+            return std::nullopt;
+        }
+        const auto kind = *change == TapHold::Change::began ? MoreGestureEvent::Kind::holdBegan
+                                                            : MoreGestureEvent::Kind::holdEnded;
+        return MoreGestureEvent{.kind = kind, .slot = MoreGestureSlot::tapHold};
+    }
 
     MoreGestureSettings settings_;
+    // Taken from settings_ once, so that a frame does not work them out again.
+    bool holdMapped_ = false;
+    bool tipTapsMapped_ = false;
+    std::uint32_t swipeFingers_ = 0;
     bool touching_ = false;  // between a touch's first frame and its empty frame
     ContactPoint landing_;   // the touch's first finger, where it landed
     bool swallowing_ = false;
@@ -70,5 +86,39 @@ class MoreGestures {
     SwipeRecogniser swipes_;
     TapHold hold_;
 };
+
+// The per-frame path is defined here, as the tap recogniser's is, so that it is inlined into the
+// frame handler; the end of a touch and the rarer steps stay in MoreGestures.cpp.
+
+inline std::optional<MoreGestureEvent> MoreGestures::touched(std::span<const Finger> frame,
+                                                             double time, bool moved) {
+    if (!touching_) {
+        touching_ = true;
+        landing_ = ContactPoint::of(frame[0]);
+    }
+    // An idle hold waits for the end of the touch; only the other phases look at frames.
+    if (holdMapped_ && hold_.phase() != TapHold::Phase::idle) {
+        if (std::optional<MoreGestureEvent> event = holdEvent(hold_.update(frame, time, moved))) {
+            return event;
+        }
+        if (hold_.ownsTouch()) {
+            return std::nullopt;
+        }
+    }
+    if (tipTapsMapped_) {
+        const std::optional<MoreGestureSlot> slot = tipTaps_.update(frame, time, moved);
+        if (slot && settings_.has(*slot)) {
+            return gesture(*slot);
+        }
+    }
+    if (swipeFingers_ != 0) {
+        const std::optional<MoreGestureSlot> slot = swipes_.update(frame, time, swipeFingers_);
+        if (slot && settings_.has(*slot)) {
+            swallowing_ = true;
+            return gesture(*slot);
+        }
+    }
+    return std::nullopt;
+}
 
 }  // namespace tactora

@@ -4,46 +4,45 @@
 
 namespace tactora {
 
-std::optional<MoreGestureSlot> SwipeRecogniser::update(std::span<const Finger> frame, double time,
-                                                       std::uint32_t wanted) {
-    if (over_) {
-        return std::nullopt;
-    }
+std::optional<MoreGestureSlot> SwipeRecogniser::measure(std::span<const Finger> frame, double time,
+                                                        std::uint32_t wanted) {
     const std::size_t fingers = frame.size();
     if (fingers > starts_.size()) {
         started_ = 0;
         return std::nullopt;
     }
-    if (fingers != started_) {
+    if (!isTheSet(frame)) {
+        // A finger landed or lifted (or both, between two frames): a new set.
         startFrom(frame, time);
         return std::nullopt;
     }
+    if (time - startedAt_ > swipeTime) {
+        late_ = true;
+        return std::nullopt;
+    }
+    if (((wanted >> (fingers - 1)) & 1U) == 0) {
+        return std::nullopt;
+    }
     std::optional<SwipeDirection> direction;
-    bool together = true;
-    for (const Finger& finger : frame) {
-        const ContactPoint* start = nullptr;
-        for (std::size_t i = 0; i < started_; ++i) {
-            if (starts_[i].id == finger.id) {
-                start = &starts_[i];
-            }
-        }
-        if (start == nullptr) {
-            // One finger lifted and another landed between two frames: a new set.
-            startFrom(frame, time);
-            return std::nullopt;
-        }
-        const std::optional<SwipeDirection> own = directionOf(*start, finger);
+    for (std::size_t i = 0; i < fingers; ++i) {
+        const ContactPoint& start = *startOf(frame[i].id);
+        const std::optional<SwipeDirection> own = directionOf(start, frame[i]);
         if (!own || (direction && *own != *direction)) {
-            together = false;
+            return std::nullopt;
         }
         direction = own;
     }
-    const bool wantedCount = ((wanted >> (fingers - 1)) & 1U) != 0;
-    if (!together || !wantedCount || time - startedAt_ > swipeTime) {
-        return std::nullopt;
-    }
     over_ = true;
     return moreslot::forSwipe(static_cast<std::int64_t>(fingers), *direction);
+}
+
+const ContactPoint* SwipeRecogniser::startOf(std::int64_t id) const {
+    for (std::size_t i = 0; i < started_; ++i) {
+        if (starts_[i].id == id) {
+            return &starts_[i];
+        }
+    }
+    return nullptr;
 }
 
 std::optional<SwipeDirection> SwipeRecogniser::directionOf(const ContactPoint& from,
@@ -78,6 +77,7 @@ void SwipeRecogniser::startFrom(std::span<const Finger> frame, double time) {
         starts_[i] = ContactPoint::of(frame[i]);
     }
     startedAt_ = time;
+    late_ = false;
 }
 
 }  // namespace tactora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -39,6 +40,27 @@ class SwipeRecogniser {
     void reset() { *this = SwipeRecogniser(); }
 
   private:
+    // Every frame but the steady ones of a set whose time is up.
+    std::optional<MoreGestureSlot> measure(std::span<const Finger> frame, double time,
+                                           std::uint32_t wanted);
+    // Whether `frame` holds exactly the fingers that are measured.
+    bool isTheSet(std::span<const Finger> frame) const {
+        if (frame.size() != started_) {
+            return false;
+        }
+        for (const Finger& finger : frame) {
+            bool known = false;
+            for (std::size_t i = 0; i < started_; ++i) {
+                known = known || starts_[i].id == finger.id;
+            }
+            if (!known) {
+                return false;
+            }
+        }
+        return true;
+    }
+    // The start of a finger of the set; null for one outside it.
+    const ContactPoint* startOf(std::int64_t id) const;
     // The direction in which a finger has moved far enough, if it has.
     static std::optional<SwipeDirection> directionOf(const ContactPoint& from, const Finger& to);
     void startFrom(std::span<const Finger> frame, double time);
@@ -46,7 +68,31 @@ class SwipeRecogniser {
     std::array<ContactPoint, moreslot::maxSwipeFingers> starts_{};
     std::size_t started_ = 0;  // fingers in starts_; 0 when no set is being measured
     double startedAt_ = 0;
+    bool late_ = false;  // the set's time is up: it swipes no more
     bool over_ = false;
 };
+
+// Fingers resting or moving slowly after their time is up are decided here, inlined into the
+// frame handler.
+inline std::optional<MoreGestureSlot> SwipeRecogniser::update(std::span<const Finger> frame,
+                                                              double time, std::uint32_t wanted) {
+    if (over_) {
+        return std::nullopt;
+    }
+    // The same set, too late to swipe or with its first finger not yet far enough from its
+    // start to swipe in any direction: nothing to measure.
+    if (isTheSet(frame)) {
+        if (late_) {
+            return std::nullopt;
+        }
+        const ContactPoint& first = starts_[0];
+        const Finger* now = findFinger(frame, first.id);
+        if (std::abs(now->x - first.x) < swipeDistance &&
+            std::abs(now->y - first.y) < swipeDistance) {
+            return std::nullopt;
+        }
+    }
+    return measure(frame, time, wanted);
+}
 
 }  // namespace tactora

@@ -2,11 +2,7 @@
 
 namespace tactora {
 
-std::optional<MoreGestureSlot> TipTapRecogniser::update(std::span<const Finger> frame,
-                                                        double time) {
-    if (phase_ == Phase::over) {
-        return std::nullopt;
-    }
+std::optional<MoreGestureSlot> TipTapRecogniser::step(std::span<const Finger> frame, double time) {
     if (phase_ == Phase::waiting) {
         // Only a finger that lands alone can rest; a touch that begins with more is no tip tap.
         if (frame.size() == 1) {
@@ -19,7 +15,7 @@ std::optional<MoreGestureSlot> TipTapRecogniser::update(std::span<const Finger> 
         return std::nullopt;
     }
     const Finger* rest = findFinger(frame, resting_.id);
-    if (rest == nullptr || resting_.isLeftBy(*rest)) {
+    if (rest == nullptr) {
         phase_ = Phase::over;
         return std::nullopt;
     }
@@ -37,7 +33,7 @@ std::optional<MoreGestureSlot> TipTapRecogniser::update(std::span<const Finger> 
 std::optional<MoreGestureSlot> TipTapRecogniser::restingAlone(double time) {
     const bool tapped = phase_ == Phase::tapping;
     phase_ = Phase::resting;
-    if (!tapped || tapMoved_) {
+    if (!tapped) {
         return std::nullopt;
     }
     const double duration = time - tappingSince_;
@@ -57,14 +53,11 @@ void TipTapRecogniser::besideResting(const Finger& other, double time) {
             }
             tapping_ = ContactPoint::of(other);
             tappingSince_ = time;
-            tapMoved_ = false;
             phase_ = Phase::tapping;
             return;
         case Phase::tapping:
             if (other.id != tapping_.id) {
                 phase_ = Phase::blocked;
-            } else if (tapping_.isLeftBy(other)) {
-                tapMoved_ = true;
             }
             return;
         case Phase::waiting:
@@ -72,10 +65,6 @@ void TipTapRecogniser::besideResting(const Finger& other, double time) {
         case Phase::over:
             return;
     }
-}
-
-void TipTapRecogniser::physicalClick() {
-    phase_ = Phase::over;
 }
 
 }  // namespace tactora
