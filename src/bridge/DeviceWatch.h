@@ -16,13 +16,19 @@
 extern "C" {
 #endif
 
-/* Called once per mouse that arrived (`arrived` 1) or left (`arrived` 0). */
+/* Called once per device that arrived (`arrived` 1) or left (`arrived` 0). */
 typedef void (*TADeviceChange)(void* context, int32_t arrived);
 
 typedef struct TADeviceWatch TADeviceWatch;
 
 /* Starts watching; NULL when watching is unavailable or the system refused. */
 TADeviceWatch* TAWatchDevices(TADeviceChange change, void* context);
+
+/*
+ * The same for every multitouch device, whatever its kind: for keeping the bridge's device
+ * list current (TARefreshDevices) as trackpads and mice come and go.
+ */
+TADeviceWatch* TAWatchMultitouchDevices(TADeviceChange change, void* context);
 
 /* Stops watching and frees everything TAWatchDevices made; NULL is ignored. */
 void TAStopWatchingDevices(TADeviceWatch* watch);

@@ -7,7 +7,10 @@
  *
  * A raw frame is `count` records of TA_CONTACT_RECORD_SIZE bytes each, in no particular
  * alignment: identifier (32-bit integer) at byte 16, state (32-bit integer) at 20, normalised
- * x (32-bit float) at 32 and y at 36.
+ * x (32-bit float) at 32 and y at 36, and the contact's shape as 32-bit floats: size at 48,
+ * angle at 56, major axis at 60 and minor axis at 64. The shape offsets come from public
+ * descriptions of the framework's record, not from a header; a first recording on a Mac
+ * confirms them. Nothing but the misfire measurements reads them.
  */
 
 #include <stdbool.h>
@@ -29,6 +32,10 @@ typedef struct TAFrame {
     int32_t ids[TA_MAX_KEPT_CONTACTS];
     float xs[TA_MAX_KEPT_CONTACTS];
     float ys[TA_MAX_KEPT_CONTACTS];
+    float sizes[TA_MAX_KEPT_CONTACTS];
+    float angles[TA_MAX_KEPT_CONTACTS];
+    float majorAxes[TA_MAX_KEPT_CONTACTS];
+    float minorAxes[TA_MAX_KEPT_CONTACTS];
 } TAFrame;
 
 /*

@@ -12,7 +12,8 @@
 namespace tactora::testing {
 
 // Points the bridge at the stand-in multitouch framework at `path` for the length of a test,
-// with no devices and a clean log, and restores the system path afterwards.
+// with no devices and a clean log, makes the stand-in the bridge's device registry, and
+// restores the system path afterwards.
 class FakeFramework {
   public:
     explicit FakeFramework(const std::string& path = kFakeMultitouchPath)
@@ -21,12 +22,14 @@ class FakeFramework {
           path_(path) {
         TASetFrameworkPath(path_.c_str());
         controls_->reset();
-        TASetPortableMouseTest(controls_->serviceIsMouse);
+        TASetPortableMouseTest(nullptr);
+        TASetPortableRegistry(controls_->registry);
     }
     ~FakeFramework() {
         TAStop();
         TASetFrameworkPath(nullptr);
         TASetPortableMouseTest(nullptr);
+        TASetPortableRegistry(nullptr);
     }
     FakeFramework(const FakeFramework&) = delete;
     FakeFramework& operator=(const FakeFramework&) = delete;

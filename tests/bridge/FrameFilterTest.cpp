@@ -107,5 +107,25 @@ TEST(FrameFilter, CopiesIdentifierAndPositionOfUnalignedRecords) {
     EXPECT_FLOAT_EQ(result.frame.ys[0], 0.75f);
 }
 
+TEST(FrameFilter, CopiesTheShapeOfEachKeptContactBesideItsPosition) {
+    RawFrame raw({{1, kHovering, 0.1f, 0.1f, 9.0f, 9.0f, 9.0f, 9.0f},
+                  {2, kTouching, 0.4f, 0.6f, 1.5f, 0.75f, 11.0f, 8.5f},
+                  {3, kPressing, 0.2f, 0.3f, 0.25f, -1.25f, 6.0f, 5.0f}},
+                 1);
+
+    Filtered result = filter(raw);
+
+    ASSERT_TRUE(result.delivered);
+    ASSERT_EQ(result.frame.count, 2);
+    EXPECT_FLOAT_EQ(result.frame.sizes[0], 1.5f);
+    EXPECT_FLOAT_EQ(result.frame.angles[0], 0.75f);
+    EXPECT_FLOAT_EQ(result.frame.majorAxes[0], 11.0f);
+    EXPECT_FLOAT_EQ(result.frame.minorAxes[0], 8.5f);
+    EXPECT_FLOAT_EQ(result.frame.sizes[1], 0.25f);
+    EXPECT_FLOAT_EQ(result.frame.angles[1], -1.25f);
+    EXPECT_FLOAT_EQ(result.frame.majorAxes[1], 6.0f);
+    EXPECT_FLOAT_EQ(result.frame.minorAxes[1], 5.0f);
+}
+
 }  // namespace
 }  // namespace tactora::testing

@@ -14,6 +14,10 @@ struct RawContact {
     std::int32_t state;
     float x;
     float y;
+    float size = 0.0f;
+    float angle = 0.0f;
+    float majorAxis = 0.0f;
+    float minorAxis = 0.0f;
 };
 
 inline constexpr std::int32_t kTouching = 3;
@@ -34,6 +38,10 @@ class RawFrame {
             std::memcpy(record + 20, &contacts[index].state, 4);
             std::memcpy(record + 32, &contacts[index].x, 4);
             std::memcpy(record + 36, &contacts[index].y, 4);
+            std::memcpy(record + 48, &contacts[index].size, 4);
+            std::memcpy(record + 56, &contacts[index].angle, 4);
+            std::memcpy(record + 60, &contacts[index].majorAxis, 4);
+            std::memcpy(record + 64, &contacts[index].minorAxis, 4);
         }
         count_ = static_cast<std::int32_t>(contacts.size());
     }
