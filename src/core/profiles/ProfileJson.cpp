@@ -24,20 +24,31 @@ OrderedJson encodeShortcut(const std::optional<SavedShortcut>& shortcut) {
     return object;
 }
 
+OrderedJson encodeShortcuts(const std::vector<std::optional<SavedShortcut>>& list) {
+    OrderedJson shortcuts = OrderedJson::array();
+    for (const auto& shortcut : list) {
+        shortcuts.push_back(encodeShortcut(shortcut));
+    }
+    return shortcuts;
+}
+
 OrderedJson encodeProfile(const WorkProfile& profile) {
     OrderedJson object = OrderedJson::object();
     object["id"] = profile.id.text();
     object["name"] = profile.name;
     object["actions"] = profile.actions;
-    OrderedJson shortcuts = OrderedJson::array();
-    for (const auto& shortcut : profile.shortcuts) {
-        shortcuts.push_back(encodeShortcut(shortcut));
-    }
-    object["shortcuts"] = std::move(shortcuts);
+    object["shortcuts"] = encodeShortcuts(profile.shortcuts);
     // Written only when there is something to say, so that a profile without applications is
     // stored exactly as before the key existed.
     if (!profile.apps.empty()) {
         object["apps"] = profile.apps;
+    }
+    // Likewise: a profile with nothing mapped on trackpads is stored as before trackpads.
+    if (!profile.trackpad.isEmpty()) {
+        OrderedJson trackpad = OrderedJson::object();
+        trackpad["actions"] = profile.trackpad.actions;
+        trackpad["shortcuts"] = encodeShortcuts(profile.trackpad.shortcuts);
+        object["trackpad"] = std::move(trackpad);
     }
     return object;
 }
@@ -152,6 +163,27 @@ std::vector<std::string> decodeApps(const Json& object) {
     return apps;
 }
 
+// The optional "trackpad" key: an object with "actions" and "shortcuts" in the form of the
+// profile's own. Anything else leaves the profile with nothing mapped on trackpads rather than
+// failing the list, for the same reason as "apps".
+GestureSlots decodeTrackpad(const Json& object) {
+    const Json* trackpad = member(object, "trackpad");
+    if (trackpad == nullptr || !trackpad->is_object()) {
+        return {};
+    }
+    const Json* actionsArray = arrayMember(*trackpad, "actions");
+    const Json* shortcutsArray = arrayMember(*trackpad, "shortcuts");
+    if (actionsArray == nullptr || shortcutsArray == nullptr) {
+        return {};
+    }
+    auto actions = decodeActions(*actionsArray);
+    auto shortcuts = decodeShortcuts(*shortcutsArray);
+    if (!actions || !shortcuts) {
+        return {};
+    }
+    return {std::move(*actions), std::move(*shortcuts)};
+}
+
 std::optional<WorkProfile> decodeProfile(const Json& object) {
     if (!object.is_object()) {
         return std::nullopt;
@@ -172,6 +204,7 @@ std::optional<WorkProfile> decodeProfile(const Json& object) {
     }
     WorkProfile profile(*id, *name, std::move(*actions), std::move(*shortcuts));
     profile.apps = decodeApps(object);
+    profile.trackpad = decodeTrackpad(object);
     return profile;
 }
 

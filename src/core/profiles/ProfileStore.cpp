@@ -14,6 +14,14 @@ namespace tactora {
 
 namespace {
 
+std::vector<ActionIndex>& actionsFor(WorkProfile& profile, SurfaceKind surface) {
+    return surface == SurfaceKind::trackpad ? profile.trackpad.actions : profile.actions;
+}
+
+std::vector<std::optional<SavedShortcut>>& shortcutsFor(WorkProfile& profile, SurfaceKind surface) {
+    return surface == SurfaceKind::trackpad ? profile.trackpad.shortcuts : profile.shortcuts;
+}
+
 std::string textOf(const Bytes& bytes) {
     return {bytes.begin(), bytes.end()};
 }
@@ -150,7 +158,7 @@ void ProfileStore::select(const Uuid& id) {
     save();
 }
 
-void ProfileStore::setAction(ActionIndex action, std::int64_t index) {
+void ProfileStore::setAction(ActionIndex action, std::int64_t index, SurfaceKind surface) {
     if (!slot::isValid(index) || !action::isValid(action)) {
         return;
     }
@@ -158,11 +166,12 @@ void ProfileStore::setAction(ActionIndex action, std::int64_t index) {
     if (profile == nullptr) {
         return;
     }
-    profile->actions[static_cast<std::size_t>(index)] = action;
+    actionsFor(*profile, surface)[static_cast<std::size_t>(index)] = action;
     save();
 }
 
-void ProfileStore::setShortcut(const SavedShortcut& shortcut, std::int64_t index) {
+void ProfileStore::setShortcut(const SavedShortcut& shortcut, std::int64_t index,
+                               SurfaceKind surface) {
     if (!slot::isValid(index) || !shortcut.isValid()) {
         return;
     }
@@ -171,8 +180,8 @@ void ProfileStore::setShortcut(const SavedShortcut& shortcut, std::int64_t index
         return;
     }
     const auto position = static_cast<std::size_t>(index);
-    profile->shortcuts[position] = shortcut;
-    profile->actions[position] = action::custom;
+    shortcutsFor(*profile, surface)[position] = shortcut;
+    actionsFor(*profile, surface)[position] = action::custom;
     save();
 }
 
@@ -182,6 +191,7 @@ void ProfileStore::add(const std::string& name, bool duplicate) {
         const WorkProfile& source = current();
         profile.actions = source.actions;
         profile.shortcuts = source.shortcuts;
+        profile.trackpad = source.trackpad;
     }
     activeID_ = profile.id;
     chosenID_ = profile.id;

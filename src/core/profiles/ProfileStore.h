@@ -9,6 +9,7 @@
 #include "core/actions/ActionIndex.h"
 #include "core/profiles/Preferences.h"
 #include "core/profiles/SavedShortcut.h"
+#include "core/profiles/SurfaceKind.h"
 #include "core/profiles/Uuid.h"
 #include "core/profiles/WorkProfile.h"
 
@@ -48,9 +49,12 @@ class ProfileStore {
 
     void save();
     void select(const Uuid& id);
-    void setAction(ActionIndex action, std::int64_t index);
+    // Both change the Magic Mouse's slots unless told `SurfaceKind::trackpad`.
+    void setAction(ActionIndex action, std::int64_t index,
+                   SurfaceKind surface = SurfaceKind::mouse);
     // Stores a valid shortcut in a slot of the active profile and makes the slot custom.
-    void setShortcut(const SavedShortcut& shortcut, std::int64_t index);
+    void setShortcut(const SavedShortcut& shortcut, std::int64_t index,
+                     SurfaceKind surface = SurfaceKind::mouse);
     // Appends a profile (a copy of the active one's slots when `duplicate`) and activates it.
     void add(const std::string& name, bool duplicate);
     void rename(const std::string& name);

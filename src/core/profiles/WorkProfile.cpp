@@ -18,19 +18,8 @@ WorkProfile::WorkProfile(Uuid profileID, std::string profileName,
       shortcuts(std::move(slotShortcuts)) {}
 
 void WorkProfile::sanitize() {
-    actions.resize(slot::count, action::defaultAction);
-    shortcuts.resize(slot::count, std::nullopt);
-    for (std::size_t i = 0; i < slot::count; ++i) {
-        if (shortcuts[i] && !shortcuts[i]->isValid()) {
-            shortcuts[i].reset();
-        }
-        // Checked after the shortcut, so a custom action whose shortcut was just dropped falls
-        // back in the same pass.
-        const bool orphanedCustom = actions[i] == action::custom && !shortcuts[i];
-        if (!action::isValid(actions[i]) || orphanedCustom) {
-            actions[i] = action::defaultAction;
-        }
-    }
+    sanitizeSlots(actions, shortcuts);
+    trackpad.sanitize();
 }
 
 }  // namespace tactora

@@ -6,6 +6,7 @@
 
 #include "core/actions/ActionIndex.h"
 #include "core/profiles/GestureSlot.h"
+#include "core/profiles/GestureSlots.h"
 #include "core/profiles/SavedShortcut.h"
 #include "core/profiles/Uuid.h"
 
@@ -25,8 +26,9 @@ struct WorkProfile {
     WorkProfile(Uuid id, std::string name, std::vector<ActionIndex> actions,
                 std::vector<std::optional<SavedShortcut>> shortcuts);
 
-    // Exactly eight actions and shortcuts afterwards; invalid shortcuts are dropped and actions
-    // outside the catalogue, or custom actions without a shortcut, fall back to the default.
+    // Exactly eight actions and shortcuts afterwards, for the Magic Mouse and for trackpads;
+    // invalid shortcuts are dropped and actions outside the catalogue, or custom actions without
+    // a shortcut, fall back to the default.
     void sanitize();
 
     Uuid id;
@@ -36,6 +38,9 @@ struct WorkProfile {
     // Bundle identifiers of the applications that make this profile active while they are in
     // front. sanitize() leaves it alone; the store keeps each application in one profile only.
     std::vector<std::string> apps;
+    // The same eight gestures on trackpads, kept apart from the Magic Mouse's. Nothing is mapped
+    // until the user maps it; a profile stored before trackpads were known has nothing here.
+    GestureSlots trackpad;
 
     bool operator==(const WorkProfile&) const = default;
 };
