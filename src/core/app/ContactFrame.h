@@ -16,6 +16,15 @@ struct ContactFrame {
     std::array<std::int32_t, capacity> ids{};
     std::array<float, capacity> xs{};
     std::array<float, capacity> ys{};
+
+    // Where several touch devices are in use: the device the frame came from (see
+    // TouchDevices), and each contact's shape as the sensor reported it. A frame of the single
+    // Magic Mouse connection leaves them zero.
+    std::uint64_t device = 0;
+    std::array<float, capacity> sizes{};
+    std::array<float, capacity> angles{};
+    std::array<float, capacity> majorAxes{};
+    std::array<float, capacity> minorAxes{};
 };
 
 }  // namespace tactora
