@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "core/app/Globals.h"
+#include "core/replay/TraceReplay.h"
 #include "core/trace/TraceFormat.h"
 #include "core/trace/TraceReader.h"
-#include "core/trace/TraceReplay.h"
 
 namespace {
 

@@ -7,9 +7,9 @@
 #include <string_view>
 
 #include "core/app/Globals.h"
+#include "core/replay/TraceReplay.h"
 #include "core/trace/TraceFormat.h"
 #include "core/trace/TraceReader.h"
-#include "core/trace/TraceReplay.h"
 
 namespace {
 

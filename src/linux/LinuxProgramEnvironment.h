@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "bridge/BridgeSensor.h"
-#include "core/app/ProgramEnvironment.h"
+#include "core/console/ProgramEnvironment.h"
 #include "core/profiles/FilePreferenceSuites.h"
 
 namespace tactora {

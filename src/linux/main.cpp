@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/app/Program.h"
+#include "core/console/Program.h"
 #include "core/localization/BundleLocalization.h"
 #include "core/localization/LanguagePreference.h"
 #include "core/localization/Localizer.h"

@@ -3,9 +3,9 @@
 #import <CoreGraphics/CoreGraphics.h>
 
 #include "bridge/TouchBridge.h"
+#include "core/actions/ModifierFlags.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/MouseButton.h"
-#include "core/profiles/ModifierFlags.h"
 #include "macos/CFHandle.h"
 
 namespace tactora::macos {

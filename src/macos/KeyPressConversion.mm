@@ -1,6 +1,6 @@
 #include "macos/KeyPressConversion.h"
 
-#include "core/profiles/ModifierFlags.h"
+#include "core/actions/ModifierFlags.h"
 #include "macos/StringConversion.h"
 
 namespace tactora::macos {

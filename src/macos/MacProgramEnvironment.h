@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "bridge/BridgeSensor.h"
-#include "core/app/ProgramEnvironment.h"
+#include "core/console/ProgramEnvironment.h"
 #include "macos/UserDefaultsSuites.h"
 
 namespace tactora::macos {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/app/Program.h"
+#include "core/console/Program.h"
 #include "core/localization/Localizer.h"
 #include "core/text/TextHandling.h"
 #include "macos/BundleStringTable.h"

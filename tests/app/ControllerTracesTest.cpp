@@ -6,8 +6,8 @@
 
 #include "app/ControllerHarness.h"
 #include "core/app/Globals.h"
+#include "core/replay/TraceReplay.h"
 #include "core/trace/TraceReader.h"
-#include "core/trace/TraceReplay.h"
 
 namespace tactora {
 namespace {

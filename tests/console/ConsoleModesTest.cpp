@@ -12,7 +12,7 @@
 
 #include "console/FakeProgramEnvironment.h"
 #include "core/app/Globals.h"
-#include "core/app/Program.h"
+#include "core/console/Program.h"
 #include "core/localization/Localizer.h"
 
 namespace tactora {

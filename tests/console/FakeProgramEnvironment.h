@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "core/app/ProgramEnvironment.h"
+#include "core/console/ProgramEnvironment.h"
 #include "core/localization/StringTable.h"
 #include "core/profiles/MemoryPreferenceSuites.h"
 

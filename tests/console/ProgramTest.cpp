@@ -1,4 +1,4 @@
-#include "core/app/Program.h"
+#include "core/console/Program.h"
 
 #include <gtest/gtest.h>
 

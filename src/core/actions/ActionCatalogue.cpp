@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/profiles/ModifierFlags.h"
+#include "core/actions/ModifierFlags.h"
 
 namespace tactora::catalogue {
 

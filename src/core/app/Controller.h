@@ -12,13 +12,13 @@
 #include <vector>
 
 #include "core/actions/ActionIndex.h"
-#include "core/actions/Press.h"
-#include "core/app/ContactFrame.h"
+#include "core/actions/SavedShortcut.h"
 #include "core/app/ControllerObserver.h"
 #include "core/app/ControllerServices.h"
 #include "core/app/GestureKind.h"
 #include "core/app/MenuBarFeedback.h"
 #include "core/app/NamingMode.h"
+#include "core/app/Press.h"
 #include "core/app/TouchSurface.h"
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureDispatchContext.h"
@@ -26,6 +26,7 @@
 #include "core/keepon/KeepOn.h"
 #include "core/keepon/PermissionMemory.h"
 #include "core/platform/ApplicationsSheet.h"
+#include "core/platform/ContactFrame.h"
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/LoginItemStatus.h"
@@ -33,7 +34,6 @@
 #include "core/platform/StatusItemAppearance.h"
 #include "core/platform/TapEvent.h"
 #include "core/profiles/ProfileStore.h"
-#include "core/profiles/SavedShortcut.h"
 #include "core/trace/TraceLine.h"
 #include "core/trace/TraceRecorder.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/app/ProgramEnvironment.h"
+#include "core/console/ProgramEnvironment.h"
 
 namespace tactora {
 

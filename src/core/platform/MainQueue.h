@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "core/app/ContactFrame.h"
+#include "core/platform/ContactFrame.h"
 
 namespace tactora {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/app/ContactFrame.h"
+#include "core/platform/ContactFrame.h"
 
 namespace tactora {
 

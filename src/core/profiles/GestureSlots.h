@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "core/actions/ActionIndex.h"
+#include "core/actions/SavedShortcut.h"
 #include "core/profiles/GestureSlot.h"
-#include "core/profiles/SavedShortcut.h"
 
 namespace tactora {
 

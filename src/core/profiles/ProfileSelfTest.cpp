@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "core/actions/ActionIndex.h"
+#include "core/actions/SavedShortcut.h"
 #include "core/profiles/ProfileStore.h"
-#include "core/profiles/SavedShortcut.h"
 #include "core/profiles/Uuid.h"
 #include "core/support/Fatal.h"
 

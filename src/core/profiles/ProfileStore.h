@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "core/actions/ActionIndex.h"
+#include "core/actions/SavedShortcut.h"
 #include "core/profiles/Preferences.h"
-#include "core/profiles/SavedShortcut.h"
 #include "core/profiles/SurfaceKind.h"
 #include "core/profiles/Uuid.h"
 #include "core/profiles/WorkProfile.h"

@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "core/actions/ActionIndex.h"
+#include "core/actions/SavedShortcut.h"
 #include "core/profiles/GestureSlot.h"
 #include "core/profiles/GestureSlots.h"
-#include "core/profiles/SavedShortcut.h"
 #include "core/profiles/Uuid.h"
 
 namespace tactora {

@@ -6,9 +6,9 @@
 #include <optional>
 #include <string_view>
 
+#include "core/actions/ModifierFlags.h"
+#include "core/actions/SavedShortcut.h"
 #include "core/localization/Localizer.h"
-#include "core/profiles/ModifierFlags.h"
-#include "core/profiles/SavedShortcut.h"
 #include "core/text/TextHandling.h"
 
 namespace tactora {

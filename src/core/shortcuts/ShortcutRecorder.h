@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <optional>
 
+#include "core/actions/SavedShortcut.h"
 #include "core/platform/EventDisposition.h"
 #include "core/platform/KeyPress.h"
 #include "core/platform/RecordingDialog.h"
-#include "core/profiles/SavedShortcut.h"
 
 namespace tactora {
 

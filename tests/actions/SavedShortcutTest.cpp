@@ -1,4 +1,4 @@
-#include "core/profiles/SavedShortcut.h"
+#include "core/actions/SavedShortcut.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 #include <optional>
 
 #include "core/actions/ActionIndex.h"
+#include "core/actions/SavedShortcut.h"
 #include "core/gestures/GestureDispatchContext.h"
 #include "core/platform/MouseButton.h"
-#include "core/profiles/SavedShortcut.h"
 
 namespace tactora {
 

@@ -1,4 +1,4 @@
-#include "core/trace/VirtualMainQueue.h"
+#include "core/replay/VirtualMainQueue.h"
 
 #include <algorithm>
 #include <cmath>

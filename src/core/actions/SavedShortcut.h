@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/profiles/ModifierFlags.h"
+#include "core/actions/ModifierFlags.h"
 
 namespace tactora {
 

@@ -1,4 +1,4 @@
-#include "core/trace/TraceReplay.h"
+#include "core/replay/TraceReplay.h"
 
 #include <memory>
 #include <type_traits>
@@ -8,9 +8,9 @@
 #include "core/profiles/MemoryPreferences.h"
 #include "core/profiles/ProfileJson.h"
 #include "core/profiles/ProfileStore.h"
-#include "core/trace/ReplayPlatform.h"
+#include "core/replay/ReplayPlatform.h"
+#include "core/replay/VirtualMainQueue.h"
 #include "core/trace/TraceNumbers.h"
-#include "core/trace/VirtualMainQueue.h"
 
 namespace tactora {
 

@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "core/app/Globals.h"
-#include "core/console/ReplayMode.h"
 #include "core/localization/Localizer.h"
 #include "core/localization/StringsTable.h"
-#include "core/trace/TraceReplay.h"
+#include "core/replay/ReplayMode.h"
+#include "core/replay/TraceReplay.h"
 
 namespace tactora {
 namespace {

@@ -1,4 +1,4 @@
-#include "core/console/ReplayMode.h"
+#include "core/replay/ReplayMode.h"
 
 #include <algorithm>
 #include <optional>
@@ -9,9 +9,9 @@
 
 #include "core/localization/Localizer.h"
 #include "core/profiles/ProfileJson.h"
+#include "core/replay/TraceReplay.h"
 #include "core/support/FileContents.h"
 #include "core/trace/TraceReader.h"
-#include "core/trace/TraceReplay.h"
 
 namespace tactora {
 

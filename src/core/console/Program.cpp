@@ -1,4 +1,4 @@
-#include "core/app/Program.h"
+#include "core/console/Program.h"
 
 #include <algorithm>
 #include <iostream>
@@ -6,7 +6,7 @@
 
 #include "core/app/Globals.h"
 #include "core/console/ConsoleModes.h"
-#include "core/console/ReplayMode.h"
+#include "core/replay/ReplayMode.h"
 
 namespace tactora {
 

@@ -3,7 +3,7 @@
 #include <span>
 #include <string>
 
-#include "core/app/ProgramEnvironment.h"
+#include "core/console/ProgramEnvironment.h"
 
 namespace tactora {
 

@@ -13,8 +13,8 @@
 #include "core/app/Globals.h"
 #include "core/localization/Localizer.h"
 #include "core/profiles/ProfileJson.h"
+#include "core/replay/TraceReplay.h"
 #include "core/trace/TraceReader.h"
-#include "core/trace/TraceReplay.h"
 #include "support/ShippedResources.h"
 
 namespace tactora {

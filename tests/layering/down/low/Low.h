@@ -1,0 +1,4 @@
+#pragma once
+
+// Fixture for the layering check: the bottom folder, which includes no other.
+struct Low {};

@@ -1,0 +1,4 @@
+#pragma once
+
+// Fixture for the layering check: a folder's header.
+struct Top {};
