@@ -1,5 +1,6 @@
 #include "core/devices/SystemGestureConflicts.h"
 
+#include <array>
 #include <cstddef>
 
 #include "core/profiles/GestureSlot.h"
@@ -26,7 +27,7 @@ bool competes(std::int64_t slot, SystemTrackpadGesture gesture, const TrackpadSe
     return false;
 }
 
-constexpr SystemTrackpadGesture allGestures[] = {
+constexpr std::array allGestures = {
     SystemTrackpadGesture::tapToClick,      SystemTrackpadGesture::secondaryClick,
     SystemTrackpadGesture::threeFingerDrag, SystemTrackpadGesture::lookUp,
     SystemTrackpadGesture::smartZoom,
