@@ -68,18 +68,28 @@ TEST(LocalizationKeysTest, OnlyTheBlockedSensorShowsItsErrorCode) {
     }
 }
 
-TEST(LocalizationKeysTest, FortyKeysTakeArgumentsAndTheRestNone) {
+TEST(LocalizationKeysTest, FiftyKeysTakeArgumentsAndTheRestNone) {
     std::size_t withArguments = 0;
     for (const LocalizationKey& key : localizationKeys) {
         withArguments += key.arguments().empty() ? 0 : 1;
     }
-    EXPECT_EQ(withArguments, 40U);
+    EXPECT_EQ(withArguments, 50U);
 }
 
 TEST(LocalizationKeysTest, KeepingGesturesOnShowsSecondsCodesAndExitStatuses) {
     for (const std::string_view key : {"keep.cooldown", "reset.failed", "login.failed"}) {
         EXPECT_EQ(argumentsOf(key), std::vector{integerArgument}) << key;
     }
+}
+
+TEST(LocalizationKeysTest, ExtraActionTextsTakeTheirNameAndAShortcutsExitStatus) {
+    for (const std::string_view key :
+         {"extra.url.invalid", "extra.missing.app", "extra.missing.file", "extra.missing.url",
+          "extra.missing.shortcut", "extra.failed.open", "extra.timeout.shortcut",
+          "extra.failed.start", "extra.row.missing"}) {
+        EXPECT_EQ(argumentsOf(key), std::vector{stringArgument}) << key;
+    }
+    EXPECT_EQ(argumentsOf("extra.failed.shortcut"), (std::vector{stringArgument, integerArgument}));
 }
 
 TEST(LocalizationKeysTest, UnknownKeyHasNoEntry) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/actions/ExtraActionCatalogue.h"
 #include "core/profiles/ModifierFlags.h"
 
 namespace tactora::catalogue {
@@ -58,10 +59,18 @@ std::optional<MouseButton> pressTarget(ActionIndex action) {
     if (action == action::doubleClick) {
         return std::nullopt;
     }
+    if (pressFlags(action)) {
+        return MouseButton::left;
+    }
     if (auto clicks = buttonClicks(action)) {
         return clicks->button;
     }
     return std::nullopt;
+}
+
+std::optional<std::uint64_t> pressFlags(ActionIndex action) {
+    const std::optional<ExtraAction> extra = action::extra(action);
+    return extra ? clickFlags(*extra) : std::nullopt;
 }
 
 std::optional<bool> dockShowsDesktop(ActionIndex action) {

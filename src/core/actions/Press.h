@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "core/actions/ActionIndex.h"
 #include "core/gestures/GestureDispatchContext.h"
@@ -18,6 +19,7 @@ struct Press {
     // performed on release.
     std::optional<MouseButton> button;
     GestureDispatchContext context;  // decides on release whether the action may still run
+    std::string value;               // what an extra action opens or runs
 
     bool operator==(const Press&) const = default;
 };

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "core/actions/ActionIndex.h"
+#include "core/actions/ExtraActions.h"
 #include "core/actions/Press.h"
 #include "core/app/ContactFrame.h"
 #include "core/app/ControllerObserver.h"
@@ -164,8 +165,13 @@ class Controller : public std::enable_shared_from_this<Controller> {
 
     // --- Actions -----------------------------------------------------------------------------
 
-    // Carries out catalogue entry `action`; `shortcut` is used by the custom action only.
-    void perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut);
+    // Carries out catalogue entry `action`; `shortcut` is used by the custom action only, and
+    // `value` (what it opens or runs) by the extra actions only.
+    void perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
+                 const std::string& value = {});
+    // Carries out the extra actions (not owned; it must outlive the controller, or be taken
+    // away with null). Without it the extra actions do nothing.
+    void setExtraActions(ExtraActions* extras);
     // Posts one marked mouse button event at the pointer.
     void post(MouseButton button, bool down, std::int64_t clickState = 1);
     // Posts one marked key press, down then up.
@@ -282,10 +288,10 @@ class Controller : public std::enable_shared_from_this<Controller> {
     static void receiveFrame(const ContactFrame& frame);
     void receive(const ContactFrame& frame);
     void scheduleTap(std::int64_t fingers, ActionIndex action,
-                     const std::optional<SavedShortcut>& shortcut,
+                     const std::optional<SavedShortcut>& shortcut, const std::string& value,
                      const GestureDispatchContext& context, double recognisedAt);
     void performTap(std::int64_t fingers, ActionIndex action,
-                    const std::optional<SavedShortcut>& shortcut,
+                    const std::optional<SavedShortcut>& shortcut, const std::string& value,
                     const GestureDispatchContext& context, double recognisedAt);
 
     void performShortcut(const std::optional<SavedShortcut>& shortcut);
@@ -295,6 +301,8 @@ class Controller : public std::enable_shared_from_this<Controller> {
     bool isFromMouse(const TapEvent& event);
     EventDisposition pressDown(TapEvent& event, std::int64_t button, double now);
     EventDisposition pressContinues(EventType type, TapEvent& event, std::int64_t button);
+    // rewrite(), and the modifier flags of a modifier click on each of its events.
+    static void rewritePress(TapEvent& event, const Press& press, bool down, bool drag);
     void performOnRelease(const Press& press);
 
     void afterReconnect();
@@ -348,8 +356,14 @@ class Controller : public std::enable_shared_from_this<Controller> {
     void noteGestures();
     void showStatusMenu();
 
+    // The slot's action: one of the fifteen, or the index of the slot's extra action.
     ActionIndex actionAt(std::int64_t slot);
     const std::optional<SavedShortcut>& shortcutAt(std::int64_t slot);
+    // What the slot's extra action opens or runs; empty for every other action.
+    std::string valueAt(std::int64_t slot);
+    // An action pop-up chose an extra action: asks for its value where it needs one, then
+    // stores it in the slot.
+    void chooseExtra(std::int64_t slot, ExtraAction extra);
 
     ControllerServices services_;
 
@@ -395,6 +409,7 @@ class Controller : public std::enable_shared_from_this<Controller> {
     std::optional<TraceFrontApplication> tracedFront_;
     std::optional<bool> tracedGestures_;
     ControllerObserver* observer_ = nullptr;  // not owned
+    ExtraActions* extras_ = nullptr;          // not owned
 };
 
 }  // namespace tactora

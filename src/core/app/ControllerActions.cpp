@@ -19,9 +19,16 @@ const std::string& actionName(ActionIndex action) {
 
 }  // namespace
 
-void Controller::perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut) {
+void Controller::perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
+                         const std::string& value) {
     if (observer_ != nullptr) {
         observer_->actionPerformed(action);
+    }
+    if (const std::optional<ExtraAction> extra = action::extra(action)) {
+        if (extras_ != nullptr) {
+            extras_->perform(*extra, value);
+        }
+        return;
     }
     if (action == action::custom) {
         performShortcut(shortcut);
@@ -42,6 +49,17 @@ void Controller::perform(ActionIndex action, const std::optional<SavedShortcut>&
     if (const std::optional<KeyStroke> stroke = catalogue::keyStroke(action)) {
         sendKeys(stroke->keyCode, stroke->flags);
         warnIfSecureInput();
+    }
+}
+
+void Controller::setExtraActions(ExtraActions* extras) {
+    extras_ = extras;
+    if (extras_ != nullptr) {
+        extras_->setRowsChanged([weak = weak_from_this()] {
+            if (const auto self = weak.lock()) {
+                self->refreshProfileUI();
+            }
+        });
     }
 }
 

@@ -93,22 +93,22 @@ void Controller::receive(std::span<const Finger> fingers) {
     if (!canRunGestures()) {
         return;
     }
-    scheduleTap(*count, action, shortcut, context, now);
+    scheduleTap(*count, action, shortcut, valueAt(slot), context, now);
 }
 
 void Controller::scheduleTap(std::int64_t fingers, ActionIndex action,
-                             const std::optional<SavedShortcut>& shortcut,
+                             const std::optional<SavedShortcut>& shortcut, const std::string& value,
                              const GestureDispatchContext& context, double recognisedAt) {
-    services_.queue.after(
-        tapDelay, [weak = weak_from_this(), fingers, action, shortcut, context, recognisedAt] {
-            if (const auto self = weak.lock()) {
-                self->performTap(fingers, action, shortcut, context, recognisedAt);
-            }
-        });
+    services_.queue.after(tapDelay, [weak = weak_from_this(), fingers, action, shortcut, value,
+                                     context, recognisedAt] {
+        if (const auto self = weak.lock()) {
+            self->performTap(fingers, action, shortcut, value, context, recognisedAt);
+        }
+    });
 }
 
 void Controller::performTap(std::int64_t fingers, ActionIndex action,
-                            const std::optional<SavedShortcut>& shortcut,
+                            const std::optional<SavedShortcut>& shortcut, const std::string& value,
                             const GestureDispatchContext& context, double recognisedAt) {
     if (!mayDispatch(context)) {
         return;
@@ -122,7 +122,7 @@ void Controller::performTap(std::int64_t fingers, ActionIndex action,
         fireFeedback(fingers, now);
         noteAction(action, shortcut, now);
     }
-    perform(action, shortcut);
+    perform(action, shortcut, value);
 }
 
 }  // namespace tactora

@@ -3,9 +3,11 @@
 #include <string>
 #include <vector>
 
+#include "core/actions/ExtraActionCatalogue.h"
 #include "core/app/AppMenus.h"
 #include "core/app/Controller.h"
 #include "core/app/Globals.h"
+#include "core/localization/Localizer.h"
 
 namespace tactora {
 
@@ -17,6 +19,9 @@ std::optional<std::string> displayName(ActionIndex action,
                                        const std::optional<SavedShortcut>& shortcut) {
     if (action == action::custom && shortcut && shortcut->isValid()) {
         return shortcut->label;
+    }
+    if (const std::optional<ExtraAction> extra = action::extra(action)) {
+        return L(catalogue::info(*extra).textKey);
     }
     const std::vector<std::string>& names = choices();
     if (action < 0 || static_cast<std::size_t>(action) >= names.size()) {

@@ -65,6 +65,13 @@ void Controller::rewrite(TapEvent& event, MouseButton button, bool down, bool dr
     event.setIntegerField(event::buttonNumber, static_cast<std::int64_t>(button));
 }
 
+void Controller::rewritePress(TapEvent& event, const Press& press, bool down, bool drag) {
+    rewrite(event, *press.button, down, drag);
+    if (const std::optional<std::uint64_t> flags = catalogue::pressFlags(press.action)) {
+        event.setFlags(*flags);
+    }
+}
+
 void Controller::releasePresses() {
     for (const auto& [physical, press] : presses_) {
         if (press.button) {
@@ -125,7 +132,8 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
     if (action == action::defaultAction) {
         return EventDisposition::pass;
     }
-    const Press press{action, shortcutAt(slot), catalogue::pressTarget(action), dispatchContext()};
+    const Press press{action, shortcutAt(slot), catalogue::pressTarget(action), dispatchContext(),
+                      valueAt(slot)};
     presses_.insert_or_assign(button, press);
     fireFeedback(fingers, now);
     if (!press.button) {
@@ -136,7 +144,7 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
     if (observer_ != nullptr) {
         observer_->pressRewritten(action, *press.button);
     }
-    rewrite(event, *press.button, true, false);
+    rewritePress(event, press, true, false);
     return EventDisposition::pass;
 }
 
@@ -152,13 +160,13 @@ EventDisposition Controller::pressContinues(EventType type, TapEvent& event, std
         if (!held->second.button) {
             return EventDisposition::swallow;
         }
-        rewrite(event, *held->second.button, false, true);
+        rewritePress(event, held->second, false, true);
         return EventDisposition::pass;
     }
     const Press press = held->second;
     presses_.erase(held);
     if (press.button) {
-        rewrite(event, *press.button, false, false);
+        rewritePress(event, press, false, false);
         return EventDisposition::pass;
     }
     performOnRelease(press);
@@ -171,7 +179,7 @@ void Controller::performOnRelease(const Press& press) {
         const auto self = weak.lock();
         if (self && self->mayDispatch(press.context)) {
             self->noteAction(press.action, press.shortcut, self->services_.clock.uptime());
-            self->perform(press.action, press.shortcut);
+            self->perform(press.action, press.shortcut, press.value);
         }
     });
 }
