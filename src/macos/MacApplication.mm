@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/app/ApplicationController.h"
+#include "core/app/Globals.h"
 #include "core/app/SettingsWindowTexts.h"
 #include "macos/EventTapCallback.h"
 #include "macos/StringConversion.h"
@@ -22,6 +23,18 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
       view_(controls_),
       shell_(controls_, delegate_),
       surface_(controls_),
+      extras_(
+          {
+              .poster = poster_,
+              .systemEvents = systemEvents_,
+              .opener = opener_,
+              .processes = processes_,
+              .picker = picker_,
+              .dialogs = dialogs_,
+              .view = view_,
+              .clock = clock_,
+          },
+          marker),
       controller_(Controller::create({
           .clock = clock_,
           .queue = queue_,
@@ -44,11 +57,13 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
           .resetTool = resetTool_,
       })) {
     [delegate_ attachController:controller_];
+    controller_->setExtraActions(&extras_);
 }
 
 MacApplication::~MacApplication() {
     // The sensor's thread reaches the controller through the global; it must be quiet first.
     sensor_.stop();
+    controller_->setExtraActions(nullptr);
     clearApplicationController();
 }
 

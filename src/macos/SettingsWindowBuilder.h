@@ -45,7 +45,8 @@ class SettingsWindowBuilder {
     void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);
     // Puts the live view in the free strip beside the gesture rows, outside the column.
     void placeSurface(NSWindow* window);
-    NSPopUpButton* makeActionMenu(NSInteger slot, const std::vector<std::string>& names);
+    NSPopUpButton* makeActionMenu(NSInteger slot, const SettingsWindowTexts& texts);
+    static NSMenuItem* makeActionItem(const std::string& title, NSInteger action);
     NSButton* makeRecordButton(NSInteger slot, const std::string& title);
     NSButton* makeButton(std::string_view title, SEL action);
 
