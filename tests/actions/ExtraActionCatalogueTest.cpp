@@ -7,6 +7,7 @@
 
 #include "core/actions/ActionCatalogue.h"
 #include "core/actions/WebAddress.h"
+#include "core/localization/LocalizationKeys.h"
 
 namespace tactora {
 namespace {
@@ -41,6 +42,16 @@ TEST(ExtraActionCatalogueTest, StoredKeysAreDistinctAndReadBack) {
     EXPECT_EQ(texts.size(), extraActions().size());
     EXPECT_EQ(catalogue::extraFromStoredKey("teleport"), std::nullopt);
     EXPECT_EQ(catalogue::extraFromStoredKey(""), std::nullopt);
+}
+
+TEST(ExtraActionCatalogueTest, EveryNameIsLookedUpWithoutArgumentsAfterTheFifteen) {
+    std::size_t position = static_cast<std::size_t>(action::count);
+    for (const catalogue::ExtraActionInfo& entry : extraActions()) {
+        const std::optional<LocalizationKey> key = findLocalizationKey(entry.textKey);
+        ASSERT_TRUE(key) << entry.textKey;
+        EXPECT_TRUE(key->arguments().empty()) << entry.textKey;
+        EXPECT_EQ(localizationKeys.at(position++).key(), entry.textKey);
+    }
 }
 
 TEST(ExtraActionCatalogueTest, OnlyOpeningAndShortcutsTakeAValue) {
@@ -171,7 +182,7 @@ TEST(WebAddressTest, RefusesWhatIsNotAUrl) {
     for (const char* typed :
          {"", "   ", "apple", "hello world.com", "https://", "https:", "http:/apple.com",
           "https:///path", "1http://a.com", ".com", "name@example.com", "https://a b.com",
-          "ht tp://a.com", "https://a.com/\x01"}) {
+          "ht tp://a.com", "https://a\x01.com"}) {
         EXPECT_EQ(webAddress(typed), std::nullopt) << typed;
     }
 }

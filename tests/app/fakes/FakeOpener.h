@@ -41,10 +41,10 @@ class FakeOpener final : public Opener {
     }
 
     // Answers every open still waiting, oldest first.
-    void answer(bool opened) {
+    void answer(bool succeeded) {
         std::vector<std::function<void(bool)>> waiting = std::exchange(pending_, {});
         for (const auto& done : waiting) {
-            done(opened);
+            done(succeeded);
         }
     }
 
