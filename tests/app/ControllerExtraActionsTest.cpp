@@ -31,6 +31,20 @@ class ControllerExtraActionsTest : public ::testing::Test {
     ExtraActionsHarness h;
 };
 
+ProcessOutcome ended(ProcessEnd end, std::int32_t status = 0) {
+    ProcessOutcome outcome;
+    outcome.end = end;
+    outcome.exitStatus = status;
+    return outcome;
+}
+
+// `shortcuts list` ended well, having written `output`.
+ProcessOutcome listed(const std::string& output) {
+    ProcessOutcome outcome;
+    outcome.output = output;
+    return outcome;
+}
+
 std::vector<KeyEvent> keyPress(std::uint16_t keyCode, std::uint64_t flags) {
     return {{.keyCode = keyCode, .down = true, .flags = flags, .userData = marker},
             {.keyCode = keyCode, .down = false, .flags = flags, .userData = marker}};
@@ -179,22 +193,22 @@ TEST_F(ControllerExtraActionsTest, RunningAShortcutStartsTheShortcutsToolInTheBa
                                                       .timeLimit = 60.0,
                                                       .captureOutput = false}));
     EXPECT_EQ(h.processes.running(), 1U);  // the main thread did not wait for it
-    h.processes.finish({});
+    h.processes.finish(ended(ProcessEnd::exited));
     EXPECT_EQ(h.view.status.find("shortcut"), std::string::npos);
 }
 
 TEST_F(ControllerExtraActionsTest, AShortcutsFailureOrTimeLimitIsReported) {
     h.assignExtra(5, ExtraAction::runShortcut, "Morning Lights");
     h.tapAndWait(2);
-    h.processes.finish({.end = ProcessEnd::exited, .exitStatus = 1});
+    h.processes.finish(ended(ProcessEnd::exited, 1));
     EXPECT_EQ(h.view.status, "shortcut Morning Lights failed 1");
 
     h.tapAndWait(2);
-    h.processes.finish({.end = ProcessEnd::timedOut});
+    h.processes.finish(ended(ProcessEnd::timedOut));
     EXPECT_EQ(h.view.status, "shortcut Morning Lights too long");
 
     h.tapAndWait(2);
-    h.processes.finish({.end = ProcessEnd::failedToStart});
+    h.processes.finish(ended(ProcessEnd::failedToStart));
     EXPECT_EQ(h.view.status, "not started /usr/bin/shortcuts");
 }
 
@@ -203,7 +217,7 @@ TEST_F(ControllerExtraActionsTest, AShortcutTheMacNoLongerHasIsNotRun) {
     h.extras.rowButton(ExtraAction::runShortcut, "Gone");  // asks for the list
     ASSERT_EQ(h.processes.started.size(), 1U);
     EXPECT_EQ(h.processes.started[0].arguments, std::vector<std::string>{"list"});
-    h.processes.finish({.output = "Morning Lights\nEvening\n"});
+    h.processes.finish(listed("Morning Lights\nEvening\n"));
 
     h.tapAndWait(2);
     EXPECT_EQ(h.processes.started.size(), 1U);
@@ -217,11 +231,11 @@ TEST_F(ControllerExtraActionsTest, AnAreaScreenshotStartsScreencaptureAndACancel
     ASSERT_EQ(h.processes.started.size(), 1U);
     EXPECT_EQ(h.processes.started[0].path, "/usr/sbin/screencapture");
     EXPECT_EQ(h.processes.started[0].arguments, (std::vector<std::string>{"-i", "-c"}));
-    h.processes.finish({.end = ProcessEnd::exited, .exitStatus = 1});
+    h.processes.finish(ended(ProcessEnd::exited, 1));
     EXPECT_EQ(h.view.status, "");
 
     h.tapAndWait(2);
-    h.processes.finish({.end = ProcessEnd::failedToStart});
+    h.processes.finish(ended(ProcessEnd::failedToStart));
     EXPECT_EQ(h.view.status, "not started /usr/sbin/screencapture");
 }
 
@@ -394,7 +408,7 @@ TEST_F(ControllerExtraActionsTest, AShortcutIsPickedFromTheShortcutsTheMacHas) {
     ASSERT_EQ(h.processes.started.size(), 1U);
     EXPECT_EQ(h.picker.listsShown, 0);  // the list comes first, in the background
 
-    h.processes.finish({.output = "Morning Lights\nEvening\n"});
+    h.processes.finish(listed("Morning Lights\nEvening\n"));
     EXPECT_EQ(h.picker.listEntries, (std::vector<std::string>{"Morning Lights", "Evening"}));
     EXPECT_EQ(extraAt(6), (SlotExtra{ExtraAction::runShortcut, "Evening"}));
     EXPECT_EQ(h.view.shownActions[6], action::index(ExtraAction::runShortcut));
@@ -403,7 +417,7 @@ TEST_F(ControllerExtraActionsTest, AShortcutIsPickedFromTheShortcutsTheMacHas) {
 
 TEST_F(ControllerExtraActionsTest, WithoutShortcutsNothingIsPickedAndTheStatusSaysSo) {
     pick(6, action::index(ExtraAction::runShortcut));
-    h.processes.finish({.output = ""});
+    h.processes.finish(listed(""));
     EXPECT_EQ(h.picker.listsShown, 0);
     EXPECT_EQ(h.view.status, "extra.shortcut.none");
     EXPECT_EQ(extraAt(6), std::nullopt);
@@ -428,7 +442,7 @@ TEST_F(ControllerExtraActionsTest, AShortcutFoundMissingLaterUpdatesItsRow) {
     h.assignExtra(5, ExtraAction::runShortcut, "Gone");
     h.c().refreshProfileUI();
     EXPECT_EQ(h.view.recordButtons[5]->title, "Gone");  // not known yet
-    h.processes.finish({.output = "Evening\n"});
+    h.processes.finish(listed("Evening\n"));
     EXPECT_EQ(h.view.recordButtons[5]->title, "missing Gone");
 }
 

@@ -28,7 +28,7 @@ enum class ProcessEnd : std::uint8_t {
 struct ProcessOutcome {
     ProcessEnd end = ProcessEnd::exited;
     std::int32_t exitStatus = 0;  // meaningful when it exited
-    std::string output{};         // its standard output, when asked for
+    std::string output;           // its standard output, when asked for
 
     bool succeeded() const { return end == ProcessEnd::exited && exitStatus == 0; }
     bool operator==(const ProcessOutcome&) const = default;
