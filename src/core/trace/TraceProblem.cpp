@@ -34,6 +34,10 @@ const char* keyOf(TraceProblem problem) {
             return "trace.error.switch";
         case TraceProblem::extra:
             return "trace.error.extra";
+        case TraceProblem::device:
+            return "trace.error.device";
+        case TraceProblem::unknownDevice:
+            return "trace.error.unknown-device";
     }
     return "trace.error.header";
 }
