@@ -2,40 +2,11 @@
 
 #include <memory>
 
-#include "app/ControllerHarness.h"
+#include "app/ControllerSurfaceTest.h"
 #include "core/liveview/TouchSurface.h"
 
 namespace tactora::testing {
 namespace {
-
-class ControllerSurfaceTest : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        StringsTable::Entries entries = testTable()->entries();
-        entries.insert({{"finger.many", "%d fingers"},
-                        {"surface.idle", "%d | none"},
-                        {"surface.gesture", "%d | %@"},
-                        {"surface.action", "%d | %@ | %@"},
-                        {"action.copy", "Copy"},
-                        {"action.right", "Right click"}});
-        setStringTable(std::make_shared<const StringsTable>(entries));
-        initializeGlobals();
-        h.launchAndSwitchOn();
-    }
-
-    // The window comes on screen, as the window server reports it.
-    void showWindow() { h.surface.setVisible(true); }
-
-    const SurfaceSnapshot& shown() const { return h.surface.shown; }
-
-    // Moves virtual time to exactly `moment`, running what falls due by then.
-    void runUntil(double moment) {
-        h.clock.now = moment;
-        h.queue.runReady();
-    }
-
-    ControllerHarness h;
-};
 
 TEST_F(ControllerSurfaceTest, TheWindowsVisibilityIsWatchedOnceItIsBuilt) {
     ControllerHarness fresh;
