@@ -82,15 +82,15 @@
 }
 
 - (void)newProfile {
-    _program->controller().newProfile();
+    _program->controller().nameProfile(tactora::NamingMode::create);
 }
 
 - (void)renameProfile {
-    _program->controller().renameProfile();
+    _program->controller().nameProfile(tactora::NamingMode::rename);
 }
 
 - (void)duplicateProfile {
-    _program->controller().duplicateProfile();
+    _program->controller().nameProfile(tactora::NamingMode::duplicate);
 }
 
 - (void)deleteProfile {
@@ -138,19 +138,19 @@
 }
 
 - (void)toggleKeepOn {
-    _program->controller().toggleKeepOn();
+    _program->keeper().toggleKeepOn();
 }
 
 - (void)toggleLoginItem {
-    _program->controller().toggleLoginItem();
+    _program->keeper().toggleLoginItem();
 }
 
 - (void)resetPermissions {
-    _program->controller().resetPermissions();
+    _program->keeper().resetPermissions();
 }
 
 - (void)openLoginItems {
-    _program->controller().openLoginItems();
+    _program->keeper().openLoginItems();
 }
 
 @end

@@ -41,7 +41,7 @@ TEST(ApplicationControllerTest, TheControllerLivesOnWhileSetAfterItsMakerLetsGo)
     const float ys[] = {0.5F, 0.5F};
     Controller::frameCallback(2, ids, xs, ys);
     h.queue.runReady();
-    EXPECT_EQ(applicationController()->gesture().count, 2);
+    EXPECT_EQ(applicationController()->state().gesture.count, 2);
 
     clearApplicationController();
     EXPECT_TRUE(made.expired());

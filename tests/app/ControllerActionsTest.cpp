@@ -27,7 +27,7 @@ TEST_F(ControllerActionsTest, DefaultActionPostsNothingChangesNoTextAndDoesNotRe
     EXPECT_TRUE(h.poster.dockRequests.empty());
     EXPECT_EQ(h.view.live, "before");
     EXPECT_EQ(h.view.status, "status");
-    EXPECT_EQ(h.c().lastAction(), "—");
+    EXPECT_EQ(h.c().state().lastAction, "—");
 }
 
 TEST_F(ControllerActionsTest, IndexBeyondTheCatalogueBehavesLikeDefault) {
@@ -41,7 +41,7 @@ TEST_F(ControllerActionsTest, IndexBeyondTheCatalogueBehavesLikeDefault) {
     EXPECT_TRUE(h.poster.dockRequests.empty());
     EXPECT_EQ(h.view.live, "before");
     EXPECT_EQ(h.view.status, "status");
-    EXPECT_EQ(h.c().lastAction(), "—");
+    EXPECT_EQ(h.c().state().lastAction, "—");
 }
 
 TEST_F(ControllerActionsTest, SingleClicksPostDownThenUpWithClickStateOne) {
@@ -57,7 +57,7 @@ TEST_F(ControllerActionsTest, SingleClicksPostDownThenUpWithClickStateOne) {
                                           mouse(event::otherMouseDown, MouseButton::centre, 1),
                                           mouse(event::otherMouseUp, MouseButton::centre, 1),
                                       }));
-    EXPECT_EQ(h.c().lastAction(), "—");
+    EXPECT_EQ(h.c().state().lastAction, "—");
 }
 
 TEST_F(ControllerActionsTest, DoubleClickPostsFourLeftEventsBackToBack) {
@@ -99,7 +99,7 @@ TEST_F(ControllerActionsTest, CustomActionWithoutShortcutPostsNothingAndSaysSo) 
 
     EXPECT_TRUE(h.poster.posted.empty());
     EXPECT_EQ(h.view.status, "shortcut.missing");
-    EXPECT_EQ(h.c().lastAction(), "—");
+    EXPECT_EQ(h.c().state().lastAction, "—");
     EXPECT_EQ(h.view.live, "before");
 }
 
@@ -116,7 +116,7 @@ TEST_F(ControllerActionsTest, CustomActionSendsTheShortcutAndShowsItsLabel) {
 
     EXPECT_EQ(h.poster.keyEvents(),
               (std::vector<KeyEvent>{key(40, true, 0x120000), key(40, false, 0x120000)}));
-    EXPECT_EQ(h.c().lastAction(), "· ⇧⌘K");
+    EXPECT_EQ(h.c().state().lastAction, "· ⇧⌘K");
     EXPECT_EQ(h.view.live, "0 | — | · ⇧⌘K");
 }
 
@@ -126,7 +126,7 @@ TEST_F(ControllerActionsTest, ShowDesktopAndMissionControlNotifyTheDock) {
 
     EXPECT_EQ(h.poster.dockRequests, (std::vector<bool>{true, false}));
     EXPECT_TRUE(h.poster.posted.empty());
-    EXPECT_EQ(h.c().lastAction(), "action.sent");
+    EXPECT_EQ(h.c().state().lastAction, "action.sent");
     EXPECT_EQ(h.view.live, "0 | — | action.sent");
 }
 
@@ -134,7 +134,7 @@ TEST_F(ControllerActionsTest, MissingDockCallIsReportedWithItsCodeAndTriedAgain)
     h.poster.dockResult = -1;
     h.c().perform(action::missionControl, std::nullopt);
 
-    EXPECT_EQ(h.c().lastAction(), "failed -1");
+    EXPECT_EQ(h.c().state().lastAction, "failed -1");
     EXPECT_EQ(h.view.status, "Mission Control failed -1");
     EXPECT_EQ(h.view.live, "0 | — | failed -1");
     h.c().perform(action::missionControl, std::nullopt);
@@ -165,7 +165,7 @@ TEST_F(ControllerActionsTest, PostedEventsCarryTheMarkerAndTheTapLetsThemPass) {
     for (const KeyEvent& posted : h.poster.keyEvents()) {
         EXPECT_EQ(posted.userData, marker);
     }
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_TRUE(h.c().state().presses.empty());
 }
 
 }  // namespace

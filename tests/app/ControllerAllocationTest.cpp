@@ -71,7 +71,7 @@ TEST_F(ControllerAllocationTest, OwnMarkedEventsPassWithoutAllocating) {
         }
     });
     EXPECT_EQ(count, 0U);
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_TRUE(h.c().state().presses.empty());
 }
 
 TEST_F(ControllerAllocationTest, PlainClicksWithStaleContactPassWithoutAllocating) {
@@ -113,10 +113,10 @@ TEST_F(ControllerAllocationTest, HandedOverFramesArriveInOrderWithTheirContacts)
     contacts.deliver(3);
     contacts.deliver(0);
     contacts.deliver(1);
-    EXPECT_EQ(h.c().gesture().count, 2);
+    EXPECT_EQ(h.c().state().gesture.count, 2);
 
     h.queue.runReady();
-    EXPECT_EQ(h.c().gesture().count, 1);
+    EXPECT_EQ(h.c().state().gesture.count, 1);
 }
 
 // Four resting fingers, once to meet them, then a hundred frames: what the main thread
@@ -135,7 +135,7 @@ std::size_t mainThreadAllocationsOverRestingFrames(ControllerHarness& h) {
 
 TEST_F(ControllerAllocationTest, FramesAllocateNothingOnTheMainThreadOnceTheirFingersAreKnown) {
     EXPECT_EQ(mainThreadAllocationsOverRestingFrames(h), 0U);
-    EXPECT_EQ(h.c().gesture().count, 4);
+    EXPECT_EQ(h.c().state().gesture.count, 4);
 }
 
 TEST_F(ControllerAllocationTest, FramesCostTheLiveViewNothingOnceItsWindowIsHidden) {

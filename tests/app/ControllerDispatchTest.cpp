@@ -18,7 +18,7 @@ TEST_F(ControllerDispatchTest, ContextCapturesGenerationProfileAndFrontmostProce
     h.c().cancelPendingActions();
     const GestureDispatchContext context = h.c().dispatchContext();
 
-    EXPECT_EQ(context.generation, h.c().actionGeneration());
+    EXPECT_EQ(context.generation, h.c().state().actionGeneration);
     EXPECT_EQ(context.profile, h.c().profiles().activeID());
     EXPECT_EQ(context.targetPID, 42);
 }
@@ -30,10 +30,10 @@ TEST_F(ControllerDispatchTest, UnchangedWorldIsCurrent) {
 
 TEST_F(ControllerDispatchTest, CancellationMakesItStale) {
     const GestureDispatchContext context = h.c().dispatchContext();
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     h.c().cancelPendingActions();
 
-    EXPECT_EQ(h.c().actionGeneration(), before + 1);
+    EXPECT_EQ(h.c().state().actionGeneration, before + 1);
     EXPECT_FALSE(h.c().mayDispatch(context));
 }
 
@@ -107,11 +107,11 @@ TEST_P(CancellingOperationTest, BumpsTheGeneration) {
     h.launchAndSwitchOn();
     h.dialogs.save = false;
     h.rest(2);
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     GetParam().run(h);
 
-    EXPECT_GT(h.c().actionGeneration(), before);
-    EXPECT_EQ(!h.c().gesture().began.has_value(), GetParam().resetsRecogniser);
+    EXPECT_GT(h.c().state().actionGeneration, before);
+    EXPECT_EQ(!h.c().state().gesture.began.has_value(), GetParam().resetsRecogniser);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -131,13 +131,13 @@ INSTANTIATE_TEST_SUITE_P(
         Cancelling{"nameProfile",
                    [](ControllerHarness& h) {
                        h.dialogs.name = "Work";
-                       h.c().newProfile();
+                       h.c().nameProfile(NamingMode::create);
                    },
                    true},
         Cancelling{"nameProfileCancelled",
                    [](ControllerHarness& h) {
                        h.dialogs.name.reset();
-                       h.c().newProfile();
+                       h.c().nameProfile(NamingMode::create);
                    },
                    true},
         Cancelling{"becomeActive", [](ControllerHarness& h) { h.c().applicationDidBecomeActive(); },

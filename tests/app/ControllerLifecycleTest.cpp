@@ -20,7 +20,7 @@ class ControllerLifecycleTest : public ::testing::Test {
         h.rest(2);
         FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
         ASSERT_EQ(h.send(down), EventDisposition::pass);
-        ASSERT_EQ(h.c().presses().size(), 1U);
+        ASSERT_EQ(h.c().state().presses.size(), 1U);
         h.queue.advance(0.2);
         h.frame(0);
         h.tap(2);
@@ -55,7 +55,7 @@ TEST_F(ControllerLifecycleTest, LaunchingBuildsConnectsAndShowsInOrder) {
     EXPECT_EQ(h.queue.intervals, (std::vector<double>{0.2}));
     EXPECT_FALSE(h.view.enabled);
     EXPECT_FALSE(h.eventTap.created);
-    EXPECT_TRUE(h.c().ready());
+    EXPECT_TRUE(h.c().state().ready);
     EXPECT_EQ(h.view.status, "sensor.connected");
 }
 
@@ -284,36 +284,36 @@ TEST_F(ControllerLifecycleTest, StatusMenuPauseWhenAlreadyOffStillReleasesPresse
 
     EXPECT_EQ(h.log.calls, (std::vector<std::string>{"tap.disable"}));
     EXPECT_EQ(h.poster.mouseEvents().size(), 1U);
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_TRUE(h.c().state().presses.empty());
 }
 
 TEST_F(ControllerLifecycleTest, SwitchingToAnotherApplicationCancelsThePendingTapAndReleases) {
     holdAPressAndLeaveATapPending();
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     h.c().applicationDidResignActive();
     h.queue.advance(0.1);
 
-    EXPECT_EQ(h.c().actionGeneration(), before + 1);
+    EXPECT_EQ(h.c().state().actionGeneration, before + 1);
     EXPECT_TRUE(h.poster.keyEvents().empty());
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_TRUE(h.c().state().presses.empty());
     EXPECT_EQ(h.poster.mouseEvents(), (std::vector<MouseButtonEvent>{{.type = event::rightMouseUp,
                                                                       .button = MouseButton::right,
                                                                       .clickState = 1,
                                                                       .userData = marker}}));
-    EXPECT_EQ(h.c().gesture(), GestureState());
+    EXPECT_EQ(h.c().state().gesture, GestureState());
 }
 
 TEST_F(ControllerLifecycleTest, ComingBackCancelsThePendingTapAndReleasesToo) {
     holdAPressAndLeaveATapPending();
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     h.c().applicationDidBecomeActive();
     h.queue.advance(0.1);
 
-    EXPECT_EQ(h.c().actionGeneration(), before + 1);
+    EXPECT_EQ(h.c().state().actionGeneration, before + 1);
     EXPECT_TRUE(h.poster.keyEvents().empty());
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_TRUE(h.c().state().presses.empty());
     EXPECT_EQ(h.poster.mouseEvents().size(), 1U);
-    EXPECT_EQ(h.c().gesture(), GestureState());
+    EXPECT_EQ(h.c().state().gesture, GestureState());
 }
 
 TEST_F(ControllerLifecycleTest, TerminatingPausesThenStopsTheSensor) {
@@ -368,7 +368,7 @@ TEST_F(ControllerLifecycleTest, AStartAtLoginStaysInTheMenuBar) {
     // Everything else starts as usual.
     EXPECT_TRUE(h.log.contains("shell.buildWindow"));
     EXPECT_TRUE(h.log.contains("shell.createStatusItem"));
-    EXPECT_TRUE(h.c().ready());
+    EXPECT_TRUE(h.c().state().ready);
     EXPECT_EQ(h.queue.intervals, (std::vector<double>{0.2}));
 }
 

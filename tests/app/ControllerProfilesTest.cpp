@@ -74,7 +74,7 @@ TEST_F(ControllerProfilesTest, AnyOtherActionDisablesTheRecordButton) {
 
 TEST_F(ControllerProfilesTest, NameOfOnlySpacesCreatesNothing) {
     h.dialogs.name = " \t\u00a0\u3000\n ";
-    h.c().newProfile();
+    h.c().nameProfile(NamingMode::create);
 
     EXPECT_EQ(h.c().profiles().profiles().size(), 1U);
 }
@@ -82,7 +82,7 @@ TEST_F(ControllerProfilesTest, NameOfOnlySpacesCreatesNothing) {
 TEST_F(ControllerProfilesTest, NameOfSeventyCharactersIsStoredAsItsFirstSixty) {
     const std::string seventy(70, 'n');
     h.dialogs.name = "  " + seventy + "\n";
-    h.c().newProfile();
+    h.c().nameProfile(NamingMode::create);
 
     ASSERT_EQ(h.c().profiles().profiles().size(), 2U);
     EXPECT_EQ(current().name, std::string(60, 'n'));
@@ -92,7 +92,7 @@ TEST_F(ControllerProfilesTest, DuplicateOpensWithTheCurrentNameAndCopiesTheSlots
     h.c().profiles().setShortcut(SavedShortcut(40, 0x100000, "⌘K"), 4);
     h.c().profiles().setAction(action::right, 1);
     h.dialogs.name = "Copy";
-    h.c().duplicateProfile();
+    h.c().nameProfile(NamingMode::duplicate);
 
     EXPECT_EQ(h.dialogs.namingTexts->message, "profile.duplicate");
     EXPECT_EQ(h.dialogs.namingTexts->initialText, "Default");
@@ -108,7 +108,7 @@ TEST_F(ControllerProfilesTest, DuplicateOpensWithTheCurrentNameAndCopiesTheSlots
 TEST_F(ControllerProfilesTest, NewOpensEmptyAndTheNewProfileHasEveryActionDefault) {
     h.c().profiles().setAction(action::right, 1);
     h.dialogs.name = "Fresh";
-    h.c().newProfile();
+    h.c().nameProfile(NamingMode::create);
 
     EXPECT_EQ(*h.dialogs.namingTexts,
               (NamingDialogTexts{"profile.new", "profile.name", "profile.save", "cancel", ""}));
@@ -118,7 +118,7 @@ TEST_F(ControllerProfilesTest, NewOpensEmptyAndTheNewProfileHasEveryActionDefaul
 
 TEST_F(ControllerProfilesTest, RenameOpensWithTheCurrentNameAndRenames) {
     h.dialogs.name = "Work";
-    h.c().renameProfile();
+    h.c().nameProfile(NamingMode::rename);
 
     EXPECT_EQ(h.dialogs.namingTexts->message, "profile.rename");
     EXPECT_EQ(h.dialogs.namingTexts->initialText, "Default");
@@ -132,14 +132,14 @@ TEST_F(ControllerProfilesTest, CancelLeavesTheStoreButPendingActionsAndPressesAr
     h.rest(2);
     FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
     h.send(down);
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     const std::vector<WorkProfile> profiles = h.c().profiles().profiles();
     h.dialogs.name.reset();
-    h.c().newProfile();
+    h.c().nameProfile(NamingMode::create);
 
     EXPECT_EQ(h.c().profiles().profiles(), profiles);
-    EXPECT_GT(h.c().actionGeneration(), before);
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_GT(h.c().state().actionGeneration, before);
+    EXPECT_TRUE(h.c().state().presses.empty());
     EXPECT_EQ(h.poster.mouseEvents().size(), 1U);
 }
 
@@ -150,34 +150,34 @@ TEST_F(ControllerProfilesTest, SelectingShowsADashForTheGestureAndNothingForTheA
     h.c().profiles().select(first);
     h.c().perform(action::showDesktop, std::nullopt);
     h.tap(1);
-    ASSERT_EQ(h.c().lastGesture(), "tap 1");
+    ASSERT_EQ(h.c().state().lastGesture, "tap 1");
 
     h.view.profileChoice = second.text();
     h.c().selectProfile();
 
     EXPECT_EQ(h.c().profiles().activeID(), second);
-    EXPECT_EQ(h.c().lastGesture(), "—");
-    EXPECT_EQ(h.c().lastAction(), "");
+    EXPECT_EQ(h.c().state().lastGesture, "—");
+    EXPECT_EQ(h.c().state().lastAction, "");
     EXPECT_EQ(h.view.live, "0 | — | ");
     EXPECT_EQ(h.view.selectedProfile, 1U);
 }
 
 TEST_F(ControllerProfilesTest, SelectingTheActiveProfileGoesThroughTheSameSteps) {
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     h.view.profileChoice = h.c().profiles().activeID().text();
     h.c().selectProfile();
 
-    EXPECT_EQ(h.c().actionGeneration(), before + 1);
-    EXPECT_EQ(h.c().lastAction(), "");
+    EXPECT_EQ(h.c().state().actionGeneration, before + 1);
+    EXPECT_EQ(h.c().state().lastAction, "");
 }
 
 TEST_F(ControllerProfilesTest, UnparsableSelectionIsIgnored) {
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     h.view.profileChoice = "not-a-uuid";
     h.c().selectProfile();
 
-    EXPECT_EQ(h.c().actionGeneration(), before);
-    EXPECT_EQ(h.c().lastAction(), "—");
+    EXPECT_EQ(h.c().state().actionGeneration, before);
+    EXPECT_EQ(h.c().state().lastAction, "—");
 }
 
 }  // namespace

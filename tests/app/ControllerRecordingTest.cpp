@@ -136,15 +136,15 @@ TEST_F(ControllerRecordingTest, AfterEitherButtonRecordingEndsRecogniserResetsAn
         h.dialogs.save = save;
         bool recordingWhileOpen = false;
         h.dialogs.whileOpen = [&] {
-            recordingWhileOpen = h.c().recording();
+            recordingWhileOpen = h.c().state().recording;
             h.rest(2);
         };
         h.view.recordButtons.fill(std::nullopt);
         h.c().beginRecording(4);
 
         EXPECT_TRUE(recordingWhileOpen);
-        EXPECT_FALSE(h.c().recording());
-        EXPECT_EQ(h.c().gesture(), GestureState());
+        EXPECT_FALSE(h.c().state().recording);
+        EXPECT_EQ(h.c().state().gesture, GestureState());
         ASSERT_TRUE(h.view.recordButtons.at(4).has_value());
         EXPECT_EQ(h.view.recordButtons.at(4)->title, "⌘K");
         EXPECT_TRUE(h.view.recordButtons.at(4)->enabled);
@@ -158,7 +158,7 @@ TEST_F(ControllerRecordingTest, TouchBegunBeforeTheDialogDoesNotCompleteWhileItI
     h.dialogs.whileOpen = [&] {
         h.queue.advance(0.1);
         h.frame(0);
-        gestureWhileOpen = h.c().lastGesture();
+        gestureWhileOpen = h.c().state().lastGesture;
     };
     h.c().beginRecording(0);
 
@@ -170,13 +170,13 @@ TEST_F(ControllerRecordingTest, BeginningCancelsPendingActionsAndReleasesHeldPre
     h.rest(2);
     FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
     h.send(down);
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     h.dialogs.save = false;
     std::size_t heldWhileOpen = 1;
-    h.dialogs.whileOpen = [&] { heldWhileOpen = h.c().presses().size(); };
+    h.dialogs.whileOpen = [&] { heldWhileOpen = h.c().state().presses.size(); };
     h.c().beginRecording(0);
 
-    EXPECT_GT(h.c().actionGeneration(), before);
+    EXPECT_GT(h.c().state().actionGeneration, before);
     EXPECT_EQ(heldWhileOpen, 0U);
     EXPECT_EQ(h.poster.mouseEvents().size(), 1U);
 }

@@ -24,7 +24,7 @@ const std::vector<KeyEvent> copyPress = {
 TEST_F(ControllerSensorTest, TwoFingerTapPerformsSlotFiveActionAfterTheDelay) {
     h.tap(2);
 
-    EXPECT_EQ(h.c().lastGesture(), "tap 2");
+    EXPECT_EQ(h.c().state().lastGesture, "tap 2");
     ASSERT_EQ(h.queue.delays.size(), 1U);
     EXPECT_DOUBLE_EQ(h.queue.delays.front(), 0.08);
     h.queue.advance(0.07);
@@ -61,7 +61,7 @@ TEST_F(ControllerSensorTest, TapSendsTheShortcutRecordedForItsOwnSlot) {
                   {.keyCode = 40, .down = true, .flags = 0x100000, .userData = marker},
                   {.keyCode = 40, .down = false, .flags = 0x100000, .userData = marker},
               }));
-    EXPECT_EQ(h.c().lastAction(), "· ⌘K");
+    EXPECT_EQ(h.c().state().lastAction, "· ⌘K");
 }
 
 TEST_F(ControllerSensorTest, TapVetoedByClickArrivingAfterTheRelease) {
@@ -86,7 +86,7 @@ TEST_F(ControllerSensorTest, TouchThatClickedNeverAlsoYieldsATap) {
     h.frame(0);
     h.queue.advance(0.2);
 
-    EXPECT_EQ(h.c().lastGesture(), "click 2");
+    EXPECT_EQ(h.c().state().lastGesture, "click 2");
     EXPECT_TRUE(h.queue.delays.empty());
     EXPECT_TRUE(h.poster.posted.empty());
 }
@@ -98,7 +98,7 @@ TEST_F(ControllerSensorTest, TapVetoedByClickJustBeforeTheTouchBegan) {
     h.tap(2, 0.05);
     h.queue.advance(0.1);
 
-    EXPECT_EQ(h.c().lastGesture(), "tap 2");
+    EXPECT_EQ(h.c().state().lastGesture, "tap 2");
     EXPECT_TRUE(h.poster.posted.empty());
 }
 
@@ -117,7 +117,7 @@ TEST_F(ControllerSensorTest, TapRecognisedWithTheSwitchOffPerformsNothing) {
     h.tap(2);
     h.queue.advance(0.2);
 
-    EXPECT_EQ(h.c().lastGesture(), "tap 2");
+    EXPECT_EQ(h.c().state().lastGesture, "tap 2");
     EXPECT_TRUE(h.queue.delays.empty());
     EXPECT_TRUE(h.poster.posted.empty());
 }
@@ -128,7 +128,7 @@ TEST_F(ControllerSensorTest, TapRecognisedWhileAShortcutIsRecordedPerformsNothin
     h.c().beginRecording(0);
     h.queue.advance(0.2);
 
-    EXPECT_EQ(h.c().lastGesture(), "tap 2");
+    EXPECT_EQ(h.c().state().lastGesture, "tap 2");
     EXPECT_TRUE(h.queue.delays.empty());
     EXPECT_TRUE(h.poster.posted.empty());
 }
@@ -138,7 +138,7 @@ TEST_F(ControllerSensorTest, TapRecognisedWhileTheProgramItselfIsInFrontPerforms
     h.tap(2);
     h.queue.advance(0.2);
 
-    EXPECT_EQ(h.c().lastGesture(), "tap 2");
+    EXPECT_EQ(h.c().state().lastGesture, "tap 2");
     EXPECT_TRUE(h.queue.delays.empty());
     EXPECT_TRUE(h.poster.posted.empty());
 }
@@ -191,23 +191,23 @@ TEST_F(ControllerSensorTest, TapOutlivingTheControllerDoesNothing) {
 
 TEST_F(ControllerSensorTest, WakeReconnectsTheSensorAndResetsTheRecogniser) {
     h.rest(2);
-    ASSERT_TRUE(h.c().gesture().began.has_value());
+    ASSERT_TRUE(h.c().state().gesture.began.has_value());
     h.workspace.wake();
 
     EXPECT_EQ(h.log.count("sensor.start"), 1);
-    EXPECT_EQ(h.c().gesture(), GestureState());
-    EXPECT_EQ(h.c().lastFrame(), 0);
+    EXPECT_EQ(h.c().state().gesture, GestureState());
+    EXPECT_EQ(h.c().state().lastFrame, 0);
     EXPECT_FALSE(h.view.enabled);
 }
 
 TEST_F(ControllerSensorTest, ReceiveStampsEveryFrameIncludingEmptyOnes) {
     const double start = h.clock.now;
     h.rest(1);
-    EXPECT_EQ(h.c().lastFrame(), start);
+    EXPECT_EQ(h.c().state().lastFrame, start);
     h.queue.advance(0.5);
     h.frame(0);
-    EXPECT_EQ(h.c().lastFrame(), h.clock.now);
-    EXPECT_GT(h.c().lastFrame(), start);
+    EXPECT_EQ(h.c().state().lastFrame, h.clock.now);
+    EXPECT_GT(h.c().state().lastFrame, start);
 }
 
 TEST_F(ControllerSensorTest, FramesReachTheControllerOnlyThroughTheMainQueue) {
@@ -216,9 +216,9 @@ TEST_F(ControllerSensorTest, FramesReachTheControllerOnlyThroughTheMainQueue) {
     const float ys[] = {0.5F, 0.5F};
     Controller::frameCallback(2, ids, xs, ys);
 
-    EXPECT_EQ(h.c().gesture().count, 0);
+    EXPECT_EQ(h.c().state().gesture.count, 0);
     h.queue.runReady();
-    EXPECT_EQ(h.c().gesture().count, 2);
+    EXPECT_EQ(h.c().state().gesture.count, 2);
 }
 
 TEST_F(ControllerSensorTest, FrameWithMissingArraysIsAnEmptyFrame) {
@@ -227,14 +227,14 @@ TEST_F(ControllerSensorTest, FrameWithMissingArraysIsAnEmptyFrame) {
     Controller::frameCallback(2, nullptr, xs, xs);
     h.queue.runReady();
 
-    EXPECT_EQ(h.c().gesture().count, 0);
-    EXPECT_FALSE(h.c().gesture().began.has_value());
+    EXPECT_EQ(h.c().state().gesture.count, 0);
+    EXPECT_FALSE(h.c().state().gesture.began.has_value());
 }
 
 TEST_F(ControllerSensorTest, FrameBeyondSixteenContactsKeepsSixteen) {
     h.frame(20);
-    EXPECT_EQ(h.c().gesture().count, 16);
-    EXPECT_TRUE(h.c().gesture().invalid);
+    EXPECT_EQ(h.c().state().gesture.count, 16);
+    EXPECT_TRUE(h.c().state().gesture.invalid);
 }
 
 TEST(ControllerSensorDeathTest, NegativeContactCountStopsTheProgram) {
@@ -248,7 +248,7 @@ TEST(ControllerReconnectTest, ShowsTheSensorStatusWithItsErrorCode) {
     h.sensor.error = 42;
     h.c().reconnect();
 
-    EXPECT_FALSE(h.c().ready());
+    EXPECT_FALSE(h.c().state().ready);
     EXPECT_EQ(h.view.status, "blocked 42");
     EXPECT_EQ(h.sensor.callback, &Controller::frameCallback);
 }
@@ -261,8 +261,8 @@ TEST(ControllerReconnectTest, PausesResetsAndStartsInThatOrder) {
 
     EXPECT_EQ(h.log.calls, (std::vector<std::string>{"tap.disable", "sensor.start"}));
     EXPECT_FALSE(h.view.enabled);
-    EXPECT_EQ(h.c().gesture(), GestureState());
-    EXPECT_TRUE(h.c().ready());
+    EXPECT_EQ(h.c().state().gesture, GestureState());
+    EXPECT_TRUE(h.c().state().ready);
 }
 
 }  // namespace

@@ -19,9 +19,9 @@ TEST_F(ControllerStatusTest, LiveLineShowsZeroFingersOnceHalfASecondPassesWithou
     h.assign(5, action::showDesktop);
     h.tap(2);
     h.queue.advance(0.1);
-    ASSERT_EQ(h.c().lastAction(), "action.sent");
+    ASSERT_EQ(h.c().state().lastAction, "action.sent");
     h.rest(3);
-    const double frameTime = h.c().lastFrame();
+    const double frameTime = h.c().state().lastFrame;
 
     h.clock.now = frameTime + 0.4999;
     h.c().refresh();

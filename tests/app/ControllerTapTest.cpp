@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/ControllerHarness.h"
+#include "core/app/ButtonRewrite.h"
 
 namespace tactora::testing {
 namespace {
@@ -31,10 +32,10 @@ class ControllerTapTest : public ::testing::Test {
             EXPECT_EQ(h.send(sent), EventDisposition::pass) << type;
             EXPECT_EQ(sent.changes, 0) << type;
         }
-        EXPECT_EQ(h.c().lastClick(), 0);
-        EXPECT_FALSE(h.c().gesture().clicked);
-        EXPECT_FALSE(h.c().gesture().moved);
-        EXPECT_TRUE(h.c().presses().empty());
+        EXPECT_EQ(h.c().state().lastClick, 0);
+        EXPECT_FALSE(h.c().state().gesture.clicked);
+        EXPECT_FALSE(h.c().state().gesture.moved);
+        EXPECT_TRUE(h.c().state().presses.empty());
     }
 
     ControllerHarness h;
@@ -74,9 +75,9 @@ TEST_F(ControllerTapTest, MarkedEventsPassUntouchedEvenFromTheMouse) {
         EXPECT_EQ(h.send(sent), EventDisposition::pass) << type;
         EXPECT_EQ(sent.changes, 0) << type;
     }
-    EXPECT_TRUE(h.c().presses().empty());
-    EXPECT_EQ(h.c().lastClick(), 0);
-    EXPECT_FALSE(h.c().gesture().moved);
+    EXPECT_TRUE(h.c().state().presses.empty());
+    EXPECT_EQ(h.c().state().lastClick, 0);
+    EXPECT_FALSE(h.c().state().gesture.moved);
 }
 
 TEST_F(ControllerTapTest, EveryEventPassesWithGesturesSwitchedOff) {
@@ -108,8 +109,8 @@ TEST_F(ControllerTapTest, TwoFingerPressBecomesARightPressThroughDragsAndUp) {
     ASSERT_EQ(h.send(down), EventDisposition::pass);
     EXPECT_EQ(down.type, event::rightMouseDown);
     EXPECT_EQ(down.button(), 1);
-    EXPECT_EQ(h.c().lastGesture(), "click 2");
-    EXPECT_TRUE(h.c().gesture().clicked);
+    EXPECT_EQ(h.c().state().lastGesture, "click 2");
+    EXPECT_TRUE(h.c().state().gesture.clicked);
 
     for (int i = 0; i < 3; ++i) {
         FakeTapEvent drag = h.mouseEvent(event::leftMouseDragged);
@@ -121,7 +122,7 @@ TEST_F(ControllerTapTest, TwoFingerPressBecomesARightPressThroughDragsAndUp) {
     ASSERT_EQ(h.send(up), EventDisposition::pass);
     EXPECT_EQ(up.type, event::rightMouseUp);
     EXPECT_EQ(up.button(), 1);
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_TRUE(h.c().state().presses.empty());
     EXPECT_TRUE(h.poster.posted.empty());
 }
 
@@ -139,20 +140,20 @@ TEST_F(ControllerTapTest, RewritingKeepsEverythingElseAndAddsNoMarker) {
 
 TEST_F(ControllerTapTest, PressWithContactAQuarterSecondOldPassesAsALeftClick) {
     h.rest(2);
-    h.clock.now = h.c().lastFrame() + 0.25;
+    h.clock.now = h.c().state().lastFrame + 0.25;
     FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
 
     EXPECT_EQ(h.send(down), EventDisposition::pass);
     EXPECT_EQ(down.type, event::leftMouseDown);
     EXPECT_EQ(down.changes, 0);
-    EXPECT_TRUE(h.c().presses().empty());
-    EXPECT_EQ(h.c().lastClick(), h.clock.now);
-    EXPECT_TRUE(h.c().gesture().clicked);
+    EXPECT_TRUE(h.c().state().presses.empty());
+    EXPECT_EQ(h.c().state().lastClick, h.clock.now);
+    EXPECT_TRUE(h.c().state().gesture.clicked);
 }
 
 TEST_F(ControllerTapTest, PressWithContactJustUnderAQuarterSecondOldIsRewritten) {
     h.rest(2);
-    h.clock.now = h.c().lastFrame() + 0.2499;
+    h.clock.now = h.c().state().lastFrame + 0.2499;
     FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
 
     EXPECT_EQ(h.send(down), EventDisposition::pass);
@@ -170,9 +171,10 @@ TEST_F(ControllerTapTest, PressWithNFingersUsesSlotNMinusOne) {
         FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
         h.send(down);
 
-        EXPECT_EQ(h.c().lastGesture(), "click " + std::to_string(fingers));
-        ASSERT_EQ(h.c().presses().count(0), 1U);
-        EXPECT_EQ(h.c().presses().at(0).action, actions.at(static_cast<std::size_t>(fingers - 1)));
+        EXPECT_EQ(h.c().state().lastGesture, "click " + std::to_string(fingers));
+        ASSERT_EQ(h.c().state().presses.count(0), 1U);
+        EXPECT_EQ(h.c().state().presses.at(0).action,
+                  actions.at(static_cast<std::size_t>(fingers - 1)));
         FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
         h.send(up);
         h.queue.runReady();
@@ -194,7 +196,7 @@ TEST_F(ControllerTapTest, CustomActionOnAClickSlotSendsThatSlotsShortcutOnReleas
                   {.keyCode = 38, .down = true, .flags = 0x100000, .userData = marker},
                   {.keyCode = 38, .down = false, .flags = 0x100000, .userData = marker},
               }));
-    EXPECT_EQ(h.c().lastAction(), "· ⌘J");
+    EXPECT_EQ(h.c().state().lastAction, "· ⌘J");
 }
 
 TEST_F(ControllerTapTest, ClickSlotMappedToDefaultPasses) {
@@ -203,8 +205,8 @@ TEST_F(ControllerTapTest, ClickSlotMappedToDefaultPasses) {
 
     EXPECT_EQ(h.send(down), EventDisposition::pass);
     EXPECT_EQ(down.changes, 0);
-    EXPECT_EQ(h.c().lastGesture(), "click 3");
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_EQ(h.c().state().lastGesture, "click 3");
+    EXPECT_TRUE(h.c().state().presses.empty());
 }
 
 TEST_F(ControllerTapTest, PressWithNoFingersPasses) {
@@ -226,7 +228,7 @@ TEST_F(ControllerTapTest, PressWithFiveFingersPasses) {
 
     EXPECT_EQ(h.send(down), EventDisposition::pass);
     EXPECT_EQ(down.changes, 0);
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_TRUE(h.c().state().presses.empty());
 }
 
 TEST_F(ControllerTapTest, CopyOnAClickSlotSwallowsThePressAndCopiesOnceAfterTheUp) {
@@ -286,10 +288,10 @@ TEST_F(ControllerTapTest, ScrollFromTheMouseSetsMovedAndPasses) {
 
     EXPECT_EQ(h.send(scroll), EventDisposition::pass);
     EXPECT_EQ(scroll.changes, 0);
-    EXPECT_TRUE(h.c().gesture().moved);
+    EXPECT_TRUE(h.c().state().gesture.moved);
     h.queue.advance(0.1);
     h.frame(0);
-    EXPECT_EQ(h.c().lastGesture(), "—");
+    EXPECT_EQ(h.c().state().lastGesture, "—");
 }
 
 TEST_F(ControllerTapTest, ReleasingPressesPostsOneUpForTheTargetWithClickStateOne) {
@@ -303,7 +305,7 @@ TEST_F(ControllerTapTest, ReleasingPressesPostsOneUpForTheTargetWithClickStateOn
                                                                       .button = MouseButton::right,
                                                                       .clickState = 1,
                                                                       .userData = marker}}));
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_TRUE(h.c().state().presses.empty());
 }
 
 TEST_F(ControllerTapTest, ReleasingDropsSwallowedPressesWithoutPerformingThem) {
@@ -348,15 +350,15 @@ TEST_F(ControllerTapTest, EventsOfOtherDevicesPassAndTheSenderIsLookedUpOnlyWhen
         EXPECT_EQ(down.changes, 0);
     }
     EXPECT_EQ(h.sensor.lookups, 1);
-    EXPECT_EQ(h.c().lastSender(), otherSender);
-    EXPECT_FALSE(h.c().senderIsMouse());
+    EXPECT_EQ(h.c().state().lastSender, otherSender);
+    EXPECT_FALSE(h.c().state().senderIsMouse);
 
     FakeTapEvent fromMouse = h.mouseEvent(event::leftMouseDown);
     h.send(fromMouse);
     FakeTapEvent again = h.mouseEvent(event::leftMouseUp);
     h.send(again);
     EXPECT_EQ(h.sensor.lookups, 2);
-    EXPECT_TRUE(h.c().senderIsMouse());
+    EXPECT_TRUE(h.c().state().senderIsMouse);
 }
 
 TEST_F(ControllerTapTest, UpWithoutItsDownPassesUnchanged) {
@@ -373,8 +375,8 @@ TEST_F(ControllerTapTest, APressReplacesTheOneHeldUnderTheSameButton) {
     FakeTapEvent second = h.mouseEvent(event::leftMouseDown);
     h.send(second);
 
-    ASSERT_EQ(h.c().presses().size(), 1U);
-    EXPECT_EQ(h.c().presses().at(0).button, MouseButton::centre);
+    ASSERT_EQ(h.c().state().presses.size(), 1U);
+    EXPECT_EQ(h.c().state().presses.at(0).button, MouseButton::centre);
     EXPECT_EQ(second.type, event::otherMouseDown);
     EXPECT_EQ(second.button(), 2);
 }
@@ -384,16 +386,16 @@ TEST_F(ControllerTapTest, RightButtonPressesAreKeptUnderTheirOwnButton) {
     FakeTapEvent down = h.mouseEvent(event::rightMouseDown, 1);
     h.send(down);
 
-    ASSERT_EQ(h.c().presses().count(1), 1U);
-    EXPECT_EQ(h.c().presses().at(1).action, action::right);
-    EXPECT_EQ(h.c().presses().at(1).context.generation, h.c().actionGeneration());
+    ASSERT_EQ(h.c().state().presses.count(1), 1U);
+    EXPECT_EQ(h.c().state().presses.at(1).action, action::right);
+    EXPECT_EQ(h.c().state().presses.at(1).context.generation, h.c().state().actionGeneration);
 }
 
 TEST_F(ControllerTapTest, RewriteChoosesDragOverDown) {
     FakeTapEvent event = h.mouseEvent(event::leftMouseDown);
-    Controller::rewrite(event, MouseButton::centre, true, true);
+    rewriteButton(event, MouseButton::centre, true, true);
     EXPECT_EQ(event.type, event::otherMouseDragged);
-    Controller::rewrite(event, MouseButton::right, false, false);
+    rewriteButton(event, MouseButton::right, false, false);
     EXPECT_EQ(event.type, event::rightMouseUp);
     EXPECT_EQ(event.button(), 1);
 }

@@ -89,8 +89,8 @@ TEST_F(ControllerApplicationsTest, EverySwitchGoesThroughTheStepsOfSelectingAPro
     h.rest(2);
     FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
     h.send(down);
-    ASSERT_FALSE(h.c().presses().empty());
-    const std::int64_t before = h.c().actionGeneration();
+    ASSERT_FALSE(h.c().state().presses.empty());
+    const std::int64_t before = h.c().state().actionGeneration;
 
     h.workspace.bringToFront(safariPID, safari);
     // The held press finishes first, at its physical release; then the switch happens.
@@ -98,31 +98,31 @@ TEST_F(ControllerApplicationsTest, EverySwitchGoesThroughTheStepsOfSelectingAPro
     h.send(up);
     h.queue.runReady();
 
-    EXPECT_GT(h.c().actionGeneration(), before);
-    EXPECT_TRUE(h.c().presses().empty());
-    EXPECT_EQ(h.c().gesture().count, 0);
-    EXPECT_EQ(h.c().lastGesture(), "—");
-    EXPECT_EQ(h.c().lastAction(), "");
+    EXPECT_GT(h.c().state().actionGeneration, before);
+    EXPECT_TRUE(h.c().state().presses.empty());
+    EXPECT_EQ(h.c().state().gesture.count, 0);
+    EXPECT_EQ(h.c().state().lastGesture, "—");
+    EXPECT_EQ(h.c().state().lastAction, "");
     EXPECT_EQ(h.view.live, "0 | — | ");
 }
 
 TEST_F(ControllerApplicationsTest, ApplicationWithoutAProfileAfterAnotherOneChangesNothing) {
     h.workspace.bringToFront(mailPID, mail);
     h.c().perform(action::showDesktop, std::nullopt);
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     h.workspace.bringToFront(200, "com.apple.Notes");
     EXPECT_EQ(store().activeID(), defaultID);
-    EXPECT_EQ(h.c().actionGeneration(), before);
-    EXPECT_NE(h.c().lastAction(), "");
+    EXPECT_EQ(h.c().state().actionGeneration, before);
+    EXPECT_NE(h.c().state().lastAction, "");
 }
 
 TEST_F(ControllerApplicationsTest, ThisApplicationComingToTheFrontChangesNothing) {
     h.workspace.bringToFront(safariPID, safari);
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     h.workspace.bringToFront(h.workspace.own, "app.tactora.Tactora");
     EXPECT_EQ(store().activeID(), videoID);
     EXPECT_EQ(h.a().frontmost().frontmostBundleID(), safari);
-    EXPECT_EQ(h.c().actionGeneration(), before);
+    EXPECT_EQ(h.c().state().actionGeneration, before);
 }
 
 TEST_F(ControllerApplicationsTest, NoApplicationInFrontBringsBackTheChoice) {
@@ -212,7 +212,7 @@ TEST_F(ControllerApplicationsTest, ApplicationWithoutAKnownNameIsShownByItsBundl
 
 TEST_F(ControllerApplicationsTest, DeletingTheProfileOfTheFrontmostApplication) {
     h.workspace.bringToFront(safariPID, safari);
-    const std::int64_t before = h.c().actionGeneration();
+    const std::int64_t before = h.c().state().actionGeneration;
     h.a().profileFiles().deleteProfile();
 
     EXPECT_EQ(h.dialogs.confirmationTexts->message, "delete Video");
@@ -221,7 +221,7 @@ TEST_F(ControllerApplicationsTest, DeletingTheProfileOfTheFrontmostApplication) 
     EXPECT_EQ(store().activeID(), defaultID);
     EXPECT_EQ(shownProfile(), "Default");
     EXPECT_EQ(h.view.profileItems.size(), 2U);
-    EXPECT_GT(h.c().actionGeneration(), before);
+    EXPECT_GT(h.c().state().actionGeneration, before);
     EXPECT_EQ(savedChoice(), defaultID.text());
 }
 
@@ -230,7 +230,7 @@ TEST_F(ControllerApplicationsTest, DeletingTheChosenProfileMakesTheFirstRemainin
     h.a().profileFiles().deleteProfile();
     EXPECT_EQ(store().activeID(), defaultID);
     EXPECT_EQ(savedChoice(), defaultID.text());
-    EXPECT_EQ(h.c().lastGesture(), "—");
+    EXPECT_EQ(h.c().state().lastGesture, "—");
 }
 
 TEST_F(ControllerApplicationsTest, DeletingTheFirstProfileMakesTheNextOneActive) {

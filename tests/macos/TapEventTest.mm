@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "core/app/Controller.h"
+#include "core/app/ButtonRewrite.h"
 #include "core/platform/EventTypes.h"
 #include "macos/CFHandle.h"
 #include "macos/CGTapEvent.h"
@@ -59,7 +59,7 @@ TEST_F(TapEventTest, ARewrittenPressKeepsItsPlaceAndClickState) {
     CGEventSetIntegerValueField(get(), kCGMouseEventClickState, 1);
     macos::CGTapEvent event(get());
 
-    Controller::rewrite(event, MouseButton::right, true, false);
+    rewriteButton(event, MouseButton::right, true, false);
     EXPECT_EQ(CGEventGetType(get()), kCGEventRightMouseDown);
     EXPECT_EQ(CGEventGetIntegerValueField(get(), kCGMouseEventButtonNumber), 1);
     EXPECT_EQ(CGEventGetIntegerValueField(get(), kCGMouseEventClickState), 1);
@@ -67,7 +67,7 @@ TEST_F(TapEventTest, ARewrittenPressKeepsItsPlaceAndClickState) {
     EXPECT_EQ(location.x, 120);
     EXPECT_EQ(location.y, 80);
 
-    Controller::rewrite(event, MouseButton::centre, false, true);
+    rewriteButton(event, MouseButton::centre, false, true);
     EXPECT_EQ(CGEventGetType(get()), kCGEventOtherMouseDragged);
     EXPECT_EQ(CGEventGetIntegerValueField(get(), kCGMouseEventButtonNumber), 2);
 }

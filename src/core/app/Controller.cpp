@@ -13,27 +13,25 @@ std::shared_ptr<Controller> Controller::create(ControllerServices services) {
 }
 
 Controller::Controller(Passkey /*unused*/, ControllerServices services)
-    : services_(std::move(services)),
-      keepOn_(services_.defaults),
-      permissionMemory_(services_.defaults),
-      observers_(services_.queue) {
+    : services_(std::move(services)), observers_(services_.queue) {
     frameFingers_.reserve(ContactFrame::capacity);
-    services_.view.setLiveText(L("live", std::int64_t{0}, lastGesture_, lastAction_));
+    services_.view.setLiveText(L("live", std::int64_t{0}, state_.lastGesture, state_.lastAction));
 }
 
 bool Controller::canRunGestures() const {
-    return services_.view.isEnabledOn() && !recording_ && !services_.workspace.isActive();
+    return services_.view.isEnabledOn() && !state_.recording && !services_.workspace.isActive();
 }
 
 void Controller::cancelPendingActions() {
-    if (actionGeneration_ == std::numeric_limits<std::int64_t>::max()) {
+    if (state_.actionGeneration == std::numeric_limits<std::int64_t>::max()) {
         fatalError("Action generation overflow");
     }
-    ++actionGeneration_;
+    ++state_.actionGeneration;
 }
 
 GestureDispatchContext Controller::dispatchContext() {
-    return {actionGeneration_, profiles().activeID(), services_.workspace.frontmostProcessID()};
+    return {state_.actionGeneration, profiles().activeID(),
+            services_.workspace.frontmostProcessID()};
 }
 
 bool Controller::mayDispatch(const GestureDispatchContext& context) {
@@ -42,9 +40,10 @@ bool Controller::mayDispatch(const GestureDispatchContext& context) {
 
 std::optional<DropReason> Controller::guardRefusal(const GestureDispatchContext& context) {
     const bool enabled = services_.view.isEnabledOn();
-    const bool configuring = recording_ || services_.workspace.isActive();
+    const bool configuring = state_.recording || services_.workspace.isActive();
     const std::optional<std::int32_t> front = services_.workspace.frontmostProcessID();
-    if (context.isCurrent(actionGeneration_, profiles().activeID(), front, enabled, configuring)) {
+    if (context.isCurrent(state_.actionGeneration, profiles().activeID(), front, enabled,
+                          configuring)) {
         return std::nullopt;
     }
     if (!enabled) {

@@ -16,7 +16,9 @@
 #include "core/app/ControllerEvents.h"
 #include "core/app/ControllerObserver.h"
 #include "core/app/ControllerServices.h"
+#include "core/app/ControllerState.h"
 #include "core/app/GestureKind.h"
+#include "core/app/GestureSwitch.h"
 #include "core/app/NamingMode.h"
 #include "core/app/ObserverList.h"
 #include "core/app/Press.h"
@@ -26,13 +28,10 @@
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureDispatchContext.h"
 #include "core/gestures/GestureState.h"
-#include "core/keepon/KeepOn.h"
 #include "core/keepon/LaunchPresence.h"
-#include "core/keepon/PermissionMemory.h"
 #include "core/platform/ContactFrame.h"
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
-#include "core/platform/LoginItemStatus.h"
 #include "core/platform/MenuEntry.h"
 #include "core/platform/MouseButton.h"
 #include "core/platform/StatusItemAppearance.h"
@@ -48,8 +47,9 @@ namespace tactora {
 //
 // The parts of the program, and where they live:
 //   app/          this controller: recogniser feed, dispatch guard, actions, held presses and
-//                 the tap's decision, shortcut recording, profile controls, status display,
-//                 and for now keeping gestures on (keepon/ holds its pure state machines)
+//                 the tap's decision, shortcut recording, profile controls, status display
+//   keepgestures/ keeping gestures on by themselves, devices coming and going, the login item
+//                 and the permission reset (keepon/ holds their pure decisions)
 //   frontmost/    profiles that follow the application in front, and the applications sheet
 //   liveview/     the live view of the touch surface
 //   feedback/     the finger count in the menu bar
@@ -57,12 +57,13 @@ namespace tactora {
 //   profilefiles/ deleting, exporting and importing profiles
 //   composition/  Tactora: this controller and the parts above, wired together
 // The parts learn what happens through the observer list and reach the controller only
-// through StatusDisplay, ProfileSwitcher and ProfileTitleSource.
+// through StatusDisplay, ProfileSwitcher, GestureSwitch and ProfileTitleSource.
 //
 // Held by std::shared_ptr: work it schedules holds it weakly and does nothing once it is gone.
 // Every member runs on the main thread, except frameCallback(), which runs on the sensor's.
 class Controller final : public StatusDisplay,
                          public ProfileSwitcher,
+                         public GestureSwitch,
                          public std::enable_shared_from_this<Controller> {
     struct Passkey {
         explicit Passkey() = default;
@@ -88,12 +89,8 @@ class Controller final : public StatusDisplay,
     // of `services.view` must exist already; nothing else is touched until launching finishes.
     static std::shared_ptr<Controller> create(ControllerServices services);
 
+    // Not copied or moved: its observer list is neither.
     Controller(Passkey /*unused*/, ControllerServices services);
-    Controller(const Controller&) = delete;
-    Controller& operator=(const Controller&) = delete;
-    Controller(Controller&&) = delete;
-    Controller& operator=(Controller&&) = delete;
-    ~Controller() override = default;
 
     // --- Lifecycle: the application delegate and the menus ---------------------------------
 
@@ -121,17 +118,22 @@ class Controller final : public StatusDisplay,
     void quit();
     // Switches gestures off: cancels pending actions, turns the switch off and applies it.
     void pause();
+    void pauseAsProgram() override;
+    bool switchOnAsProgram() override;
+    bool programActing() const override { return programActions_ > 0; }
     // Applies the master switch's state: on only with a ready sensor, both permissions and an
     // event tap; otherwise the switch goes back off and the status line says why.
     void toggle();
     // The permission buttons: prompt, then open the matching System Settings pane.
-    void access();
-    void monitor();
+    void access() override;
+    void monitor() override;
 
     // --- Sensor ------------------------------------------------------------------------------
 
     // Pauses, resets the recogniser, (re)starts the sensor and shows its status.
-    void reconnect();
+    void reconnect() override;
+    bool sensorReady() const override { return state_.ready; }
+    const std::string& sensorText() const override { return sensorText_; }
     // The system woke from sleep: pause, then reconnect.
     void woke();
 
@@ -145,34 +147,6 @@ class Controller final : public StatusDisplay,
     // tap's action tapDelay seconds later.
     void receive(std::span<const Finger> fingers);
 
-    // --- Keeping gestures on ------------------------------------------------------------------
-
-    // A reconnect after a device arrived or left waits this long, so that a burst of device
-    // notices (and a mouse still settling) leads to one reconnect.
-    static constexpr double deviceSettle = 0.5;
-
-    // The "Keep gestures on" checkbox's action: takes its state, and the master switch's as
-    // the user's choice.
-    void toggleKeepOn();
-    // A multitouch mouse arrived while none is connected: reconnects deviceSettle seconds later,
-    // then retries as after a wake until it is connected. A mouse arriving while another one
-    // works changes nothing.
-    void deviceArrived(std::uint64_t device);
-    // The connected mouse left: pauses and reconnects, deviceSettle seconds later. Another
-    // device leaving changes nothing.
-    void deviceLeft(std::uint64_t device);
-    // The "Open at login" checkbox's action: registers or unregisters the login item.
-    void toggleLoginItem();
-    // Opens the Login Items pane of System Settings, where a pending login item is approved.
-    void openLoginItems();
-    // Pauses gestures, then resets both permissions of this application with the system's
-    // tool, off the main thread and a few seconds at most each; then asks again for the first
-    // permission missing, as access() or monitor() does. A failed reset shows the tool's exit
-    // status, one that took too long says so.
-    void resetPermissions();
-
-    const KeepOn& keepOn() const { return keepOn_; }
-
     // --- Status display ----------------------------------------------------------------------
 
     // Rewrites the permission line and the live line, then the status item. Never asks for the
@@ -180,6 +154,7 @@ class Controller final : public StatusDisplay,
     // shown, the application becomes active, and after registering or unregistering.
     void refresh() override;
     void setLiveNote(std::string note) override;
+    void setPermissionNote(std::string note) override;
     void setStatusItemTitle(std::string title) override;
     void setStatusMenuEntry(MenuEntry entry) override;
     // Redraws the status item, but only when its image, title or tooltip would change.
@@ -214,8 +189,6 @@ class Controller final : public StatusDisplay,
     // Decides one event of the tap: pass it on (possibly rewritten in place) or swallow it.
     // Allocates nothing for events it passes untouched.
     EventDisposition handle(EventType type, TapEvent& event);
-    // Turns `event` into `button`'s drag, down or up event (drag wins over down).
-    static void rewrite(TapEvent& event, MouseButton button, bool down, bool drag);
     // Posts the up half of every rewritten press still held, and forgets all held presses.
     void releasePresses();
 
@@ -239,12 +212,10 @@ class Controller final : public StatusDisplay,
     void changed(std::int64_t slot);
     // The profile pop-up's action.
     void selectProfile();
-    void newProfile();
-    void renameProfile();
-    void duplicateProfile();
+    // The profile buttons: asks for a name, then creates, renames or duplicates a profile.
     void nameProfile(NamingMode mode);
     void dropPendingWork() override;
-    bool pressesHeld() override { return !presses_.empty(); }
+    bool pressesHeld() override { return !state_.presses.empty(); }
     void tellFrontApplication(const FrontApplicationNote& note) override;
     // Where the pop-up and the status item's tooltip get the active profile's name from (not
     // owned; null for the profile's own name).
@@ -255,19 +226,8 @@ class Controller final : public StatusDisplay,
     void addObserver(ControllerObserver& observer) { observers_.add(observer); }
     void removeObserver(ControllerObserver& observer) { observers_.remove(observer); }
 
-    // --- State, for the status display and for tests -----------------------------------------
-
-    const GestureState& gesture() const { return gesture_; }
-    double lastFrame() const { return lastFrame_; }
-    double lastClick() const { return lastClick_; }
-    const std::string& lastGesture() const { return lastGesture_; }
-    const std::string& lastAction() const { return lastAction_; }
-    bool ready() const { return ready_; }
-    const std::map<std::int64_t, Press>& presses() const { return presses_; }
-    std::uint64_t lastSender() const { return lastSender_; }
-    bool senderIsMouse() const { return senderIsMouse_; }
-    bool recording() const { return recording_; }
-    std::int64_t actionGeneration() const { return actionGeneration_; }
+    // What the controller has seen and decided so far.
+    const ControllerState& state() const { return state_; }
 
   private:
     static void receiveFrame(const ContactFrame& frame);
@@ -291,29 +251,12 @@ class Controller final : public StatusDisplay,
     EventDisposition pressContinues(EventType type, TapEvent& event, std::int64_t button);
     void performOnRelease(const Press& press);
 
-    void afterReconnect();
-    void armIfWanted(bool announce);
-    KeepOnWait missingForGestures() const;
-    void showWait(KeepOnWait wait, const std::string& before);
-    void waitAfterFailedTick();
-    void keepOnAtRefresh(bool accessibility, bool inputMonitoring);
-    void coolDown(double seconds);
-    void scheduleWakeRetry();
-    void scheduleDeviceReconnect();
-    void syncActivity();
-    void refreshLoginItem();
-    void resetNextPermission(std::size_t index, const std::string& bundleID);
-    void permissionsReset();
     void warnIfSecureInput();
-    std::string permissionLine(bool accessibility, bool inputMonitoring);
-    void watchDevices();
 
-    bool activateOtherInstance();
     void buildWindow();
-    void createStatusItem();
-    void startRefreshTimer();
-    void observeWake();
-    void observeShowRequests();
+    // Starts the refresh timer and watches for wake and for other copies' requests to show
+    // the window.
+    void watch();
 
     enum class ProfileSwitch { chosen, automatic };
     // The steps of selectProfile() around the store's change: pending actions cancelled, held
@@ -321,7 +264,7 @@ class Controller final : public StatusDisplay,
     // the status texts and controls refreshed.
     void switchProfile(const Uuid& id, ProfileSwitch kind);
     std::string activeProfileTitle();
-    void applySwitch(bool byUser);
+    void applySwitch();
     void showStatusMenu();
 
     ActionIndex actionAt(std::int64_t slot);
@@ -329,31 +272,15 @@ class Controller final : public StatusDisplay,
 
     ControllerServices services_;
 
-    GestureState gesture_;
-    double lastFrame_ = 0;
-    double lastClick_ = 0;
-    std::string lastGesture_ = "—";
-    std::string lastAction_ = "—";
-    bool ready_ = false;
-    std::map<std::int64_t, Press> presses_;
-    std::uint64_t lastSender_ = 0;
-    bool senderIsMouse_ = false;
+    ControllerState state_;
     std::optional<ProfileStore> profiles_;
-    bool recording_ = false;
-    std::int64_t actionGeneration_ = 0;
     ProfileTitleSource* titleSource_ = nullptr;
 
-    KeepOn keepOn_;
-    PermissionMemory permissionMemory_;
     // Above zero while the program itself pauses or switches gestures on (launch, wake,
     // reconnect, quit, keeping gestures on): then the switch's state is not the user's choice.
     int programActions_ = 0;
     int pausing_ = 0;
-    bool activityHeld_ = false;
-    bool deviceReconnectPending_ = false;
     std::string sensorText_;
-    std::optional<std::pair<bool, bool>> lastPermissions_;
-    std::optional<LoginItemStatus> loginStatus_;
     LaunchPresence launch_{LaunchOrigin::user};
 
     bool windowBuilt_ = false;
@@ -365,6 +292,7 @@ class Controller final : public StatusDisplay,
     // What the parts beside the controller add to the status display.
     struct StatusExtras {
         std::string liveNote;
+        std::string permissionNote;
         std::string title;
         std::vector<MenuEntry> menuEntries;
     };

@@ -78,7 +78,7 @@ void Controller::performShortcut(const std::optional<SavedShortcut>& shortcut) {
         return;
     }
     sendKeys(shortcut->keyCode, shortcut->flags);
-    lastAction_ = "· " + shortcut->label;
+    state_.lastAction = "· " + shortcut->label;
     refresh();
     warnIfSecureInput();
 }
@@ -92,9 +92,9 @@ void Controller::warnIfSecureInput() {
 void Controller::notifyDock(ActionIndex action, bool showDesktop) {
     const std::int64_t code = services_.poster.sendDockNotification(showDesktop);
     if (code == 0) {
-        lastAction_ = L("action.sent");
+        state_.lastAction = L("action.sent");
     } else {
-        lastAction_ = L("action.failed", code);
+        state_.lastAction = L("action.failed", code);
         services_.view.setStatusText(L("error.action", actionName(action), code));
     }
     refresh();

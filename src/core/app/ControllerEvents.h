@@ -100,6 +100,20 @@ struct PressesReleasedNote {
 struct SwitchNote {
     bool on = false;
     bool byUser = false;
+    bool tapDisabled = false;  // the system switched the event tap off
+    double time = 0;
+};
+
+// What the refresh found the two permissions to be, before it writes the permission line.
+struct PermissionsNote {
+    bool accessibility = false;
+    bool inputMonitoring = false;
+    double time = 0;
+};
+
+// The sensor was started again; `ready` when it is connected. Gestures are off after it.
+struct ReconnectNote {
+    bool ready = false;
     double time = 0;
 };
 
@@ -122,6 +136,11 @@ struct FrontApplicationNote {
 // This application became the active one, or stopped being it.
 struct ActiveNote {
     bool active = false;
+    double time = 0;
+};
+
+// Something happened at a moment, with nothing more to say about it.
+struct MomentNote {
     double time = 0;
 };
 

@@ -11,8 +11,28 @@
 
 namespace tactora {
 
+namespace {
+
+// When another copy of the application runs, brings the first one the system lists forward.
+bool activateOtherInstance(Workspace& workspace) {
+    const std::int32_t own = workspace.ownProcessID();
+    const std::vector<std::int32_t> instances = workspace.instanceProcessIDs();
+    const auto other =
+        std::ranges::find_if(instances, [own](std::int32_t processID) { return processID != own; });
+    if (other == instances.end()) {
+        return false;
+    }
+    workspace.activateApplication(*other);
+    // From macOS 14 on the system may not hand the first copy the activation; it can still
+    // bring its own window forward when asked.
+    workspace.requestShow(*other);
+    return true;
+}
+
+}  // namespace
+
 void Controller::applicationDidFinishLaunching() {
-    if (activateOtherInstance()) {
+    if (activateOtherInstance(services_.workspace)) {
         services_.workspace.terminate();
         return;
     }
@@ -27,16 +47,12 @@ void Controller::applicationDidFinishLaunching() {
     services_.shell.addMainMenu(editMenuTitle(), editMenuItems());
     services_.shell.addMainMenu(windowMenuTitle(), windowMenuItems());
     buildWindow();
-    createStatusItem();
+    services_.shell.createStatusItem();
+    statusItemCreated_ = true;
     updateMenuIcon();
     showStatusMenu();
     reconnect();
-    // After the reconnect's own line, so that a login item waiting for approval is said.
-    refreshLoginItem();
-    startRefreshTimer();
-    observeWake();
-    observeShowRequests();
-    watchDevices();
+    watch();
     observers_.launched(services_.clock.uptime());
     if (launch_.showsWindowAtLaunch()) {
         show();
@@ -46,7 +62,6 @@ void Controller::applicationDidFinishLaunching() {
 void Controller::applicationDidBecomeActive() {
     observers_.activeChanged({.active = true, .time = services_.clock.uptime()});
     dropPendingWork();
-    refreshLoginItem();
 }
 
 void Controller::applicationDidResignActive() {
@@ -57,8 +72,7 @@ void Controller::applicationDidResignActive() {
 void Controller::applicationWillTerminate() {
     observers_.terminating(services_.clock.uptime());
     // The program's pause: the user's choice is kept for the next launch.
-    const ScopedCount program(programActions_);
-    pause();
+    pauseAsProgram();
     services_.sensor.stop();
 }
 
@@ -74,7 +88,7 @@ void Controller::show() {
     if (launch_.windowOpened()) {
         services_.shell.setRegularActivationPolicy();
     }
-    refreshLoginItem();
+    observers_.windowShown({.time = services_.clock.uptime()});
     services_.shell.showWindow();
     services_.workspace.activate();
 }
@@ -84,9 +98,8 @@ void Controller::quit() {
 }
 
 void Controller::pause() {
-    if (programActions_ == 0 && keepOn_.userChose(false)) {
-        // "Gestures come back on by themselves once …" no longer holds.
-        services_.view.setStatusText(sensorText_);
+    if (programActions_ == 0) {
+        observers_.switchChosen({.on = false, .byUser = true, .time = services_.clock.uptime()});
     }
     cancelPendingActions();
     services_.view.setEnabledOn(false);
@@ -95,40 +108,51 @@ void Controller::pause() {
 }
 
 void Controller::toggle() {
-    const bool byUser = programActions_ == 0 && pausing_ == 0;
-    if (byUser && keepOn_.userChose(services_.view.isEnabledOn())) {
-        services_.view.setStatusText(sensorText_);
+    if (programActions_ == 0 && pausing_ == 0) {
+        observers_.switchChosen(
+            {.on = services_.view.isEnabledOn(), .byUser = true, .time = services_.clock.uptime()});
     }
-    applySwitch(byUser);
+    applySwitch();
     // A pause from the menu is the user's too.
     observers_.switchChanged({.on = services_.view.isEnabledOn(),
                               .byUser = programActions_ == 0,
                               .time = services_.clock.uptime()});
 }
 
-// Applies the switch's state; `byUser` when the user ticked it, not the program.
-void Controller::applySwitch(bool byUser) {
+void Controller::applySwitch() {
     cancelPendingActions();
     if (!services_.view.isEnabledOn()) {
         releasePresses();
         if (services_.tap.exists()) {
             services_.tap.setEnabled(false);
         }
-        syncActivity();
         return;
     }
     // Tested in this order so that no tap is attempted without both permissions.
-    if (ready_ && services_.permissions.accessibilityTrusted() &&
+    if (state_.ready && services_.permissions.accessibilityTrusted() &&
         services_.permissions.inputMonitoringGranted() && installTap()) {
-        syncActivity();
         return;
     }
     services_.view.setEnabledOn(false);
     services_.view.setStatusText(L("error.enable"));
-    syncActivity();
-    if (byUser && keepOn_.shouldArm()) {
-        waitAfterFailedTick();
+}
+
+void Controller::pauseAsProgram() {
+    const ScopedCount program(programActions_);
+    pause();
+}
+
+bool Controller::switchOnAsProgram() {
+    {
+        const ScopedCount program(programActions_);
+        services_.view.setEnabledOn(true);
+        toggle();
     }
+    if (!services_.view.isEnabledOn()) {
+        return false;
+    }
+    updateMenuIcon();
+    return true;
 }
 
 void Controller::access() {
@@ -141,51 +165,23 @@ void Controller::monitor() {
     services_.workspace.openURL(std::string(inputMonitoringSettings));
 }
 
-// When another copy of the application runs, brings the first one the system lists forward.
-bool Controller::activateOtherInstance() {
-    const std::int32_t own = services_.workspace.ownProcessID();
-    const std::vector<std::int32_t> instances = services_.workspace.instanceProcessIDs();
-    const auto other =
-        std::ranges::find_if(instances, [own](std::int32_t processID) { return processID != own; });
-    if (other == instances.end()) {
-        return false;
-    }
-    services_.workspace.activateApplication(*other);
-    // From macOS 14 on the system may not hand the first copy the activation; it can still
-    // bring its own window forward when asked.
-    services_.workspace.requestShow(*other);
-    return true;
-}
-
 void Controller::buildWindow() {
     services_.shell.buildWindow(settingsWindowTexts());
     windowBuilt_ = true;
-    services_.view.setKeepOnChecked(keepOn_.enabled());
     refreshProfileUI();
 }
 
-void Controller::createStatusItem() {
-    services_.shell.createStatusItem();
-    statusItemCreated_ = true;
-}
-
-void Controller::startRefreshTimer() {
+void Controller::watch() {
     services_.queue.every(refreshInterval, [weak = weak_from_this()] {
         if (const auto self = weak.lock()) {
             self->refresh();
         }
     });
-}
-
-void Controller::observeWake() {
     services_.workspace.observeWake([weak = weak_from_this()] {
         if (const auto self = weak.lock()) {
             self->woke();
         }
     });
-}
-
-void Controller::observeShowRequests() {
     services_.workspace.observeShowRequests([weak = weak_from_this()] {
         if (const auto self = weak.lock()) {
             self->show();
@@ -196,7 +192,7 @@ void Controller::observeShowRequests() {
 void Controller::dropPendingWork() {
     cancelPendingActions();
     releasePresses();
-    gesture_.reset();
+    state_.gesture.reset();
 }
 
 }  // namespace tactora

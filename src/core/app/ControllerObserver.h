@@ -35,6 +35,8 @@ class ControllerObserver {
 
     // Held presses were let go of because something changed.
     virtual void pressesReleased(const PressesReleasedNote& /*note*/) {}
+    // The user ticked or unticked the switch, or chose Pause; told before it is applied.
+    virtual void switchChosen(const SwitchNote& /*note*/) {}
     // Gestures were switched on or off.
     virtual void switchChanged(const SwitchNote& /*note*/) {}
     // The user selected a profile, or one was made active for them.
@@ -46,6 +48,15 @@ class ControllerObserver {
 
     // Launching finished: the window, its views and the status item exist.
     virtual void launched(double /*time*/) {}
+    // The settings window is about to be shown.
+    virtual void windowShown(const MomentNote& /*note*/) {}
+    // The system woke from sleep; told before the program pauses and reconnects.
+    virtual void woke(const MomentNote& /*note*/) {}
+    // The sensor was started again (at launch, on Reconnect, after a wake).
+    virtual void reconnected(const ReconnectNote& /*note*/) {}
+    // The refresh read the permissions; told before the permission line is written, so that
+    // what an observer adds to it through the status display shows at once.
+    virtual void permissionsPolled(const PermissionsNote& /*note*/) {}
     // The status display was brought up to date (every refreshInterval, and after changes).
     virtual void refreshed(double /*time*/) {}
     // The application is about to quit; told before gestures stop.

@@ -95,8 +95,8 @@ void Controller::switchProfile(const Uuid& id, ProfileSwitch kind) {
     observers_.profileSelected({.id = id.text(),
                                 .chosen = kind == ProfileSwitch::chosen,
                                 .time = services_.clock.uptime()});
-    lastGesture_ = "—";
-    lastAction_.clear();
+    state_.lastGesture = "—";
+    state_.lastAction.clear();
     refreshProfileUI();
     refresh();
 }
@@ -113,23 +113,11 @@ std::string Controller::activeProfileTitle() {
     return titleSource_ != nullptr ? titleSource_->activeProfileTitle() : profiles().current().name;
 }
 
-void Controller::newProfile() {
-    nameProfile(NamingMode::create);
-}
-
-void Controller::renameProfile() {
-    nameProfile(NamingMode::rename);
-}
-
-void Controller::duplicateProfile() {
-    nameProfile(NamingMode::duplicate);
-}
-
 void Controller::nameProfile(NamingMode mode) {
     // A touch half seen before the dialog must not complete after it, even when it is cancelled.
     cancelPendingActions();
     releasePresses();
-    gesture_.reset();
+    state_.gesture.reset();
     const NamingDialogTexts texts{
         .message = L(namingTitle(mode)),
         .informative = L("profile.name"),
@@ -143,7 +131,7 @@ void Controller::nameProfile(NamingMode mode) {
         return;
     }
     releasePresses();
-    gesture_.reset();
+    state_.gesture.reset();
     if (mode == NamingMode::rename) {
         profiles().rename(*name);
     } else {

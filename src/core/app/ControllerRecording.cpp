@@ -12,8 +12,8 @@ void Controller::beginRecording(std::int64_t slot) {
     // A touch begun before the dialog must not complete as a tap while it is open.
     cancelPendingActions();
     releasePresses();
-    gesture_.reset();
-    recording_ = true;
+    state_.gesture.reset();
+    state_.recording = true;
     const RecordingDialogTexts texts{
         .message = L("record.title"),
         .informative = L("record.help"),
@@ -34,8 +34,8 @@ void Controller::beginRecording(std::int64_t slot) {
         profiles().setShortcut(*recorder.captured(), slot);
     }
     // Touches made while the dialog was open must not complete as a tap.
-    recording_ = false;
-    gesture_.reset();
+    state_.recording = false;
+    state_.gesture.reset();
     refreshProfileUI();
 }
 

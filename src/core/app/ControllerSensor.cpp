@@ -42,19 +42,19 @@ void Controller::reconnect() {
     {
         const ScopedCount program(programActions_);
         pause();
-        gesture_.reset();
-        lastFrame_ = 0;
-        ready_ = services_.sensor.start(&Controller::frameCallback);
+        state_.gesture.reset();
+        state_.lastFrame = 0;
+        state_.ready = services_.sensor.start(&Controller::frameCallback);
         const std::int64_t error = services_.sensor.statusError();
         sensorText_ = L(services_.sensor.status(), error);
         services_.view.setStatusText(sensorText_);
         refresh();
     }
-    afterReconnect();
+    observers_.reconnected({.ready = state_.ready, .time = services_.clock.uptime()});
 }
 
 void Controller::woke() {
-    keepOn_.woke();
+    observers_.woke({.time = services_.clock.uptime()});
     const ScopedCount program(programActions_);
     pause();
     reconnect();
@@ -94,12 +94,12 @@ void Controller::receive(const ContactFrame& frame) {
 
 void Controller::receive(std::span<const Finger> fingers) {
     const double now = services_.clock.uptime();
-    lastFrame_ = now;
+    state_.lastFrame = now;
     // Only an empty frame ends a sequence; the reason is worked out before the state resets.
     const std::optional<DropReason> dropped =
-        fingers.empty() ? whyNoTap(gesture_, now) : std::nullopt;
-    const std::int64_t peak = gesture_.peak;
-    const std::optional<std::int64_t> count = gesture_.update(fingers, now);
+        fingers.empty() ? whyNoTap(state_.gesture, now) : std::nullopt;
+    const std::int64_t peak = state_.gesture.peak;
+    const std::optional<std::int64_t> count = state_.gesture.update(fingers, now);
     observers_.frameReceived(fingers, now);
     if (!count) {
         if (dropped) {
@@ -107,7 +107,7 @@ void Controller::receive(std::span<const Finger> fingers) {
         }
         return;
     }
-    lastGesture_ = L("gesture.tap", *count);
+    state_.lastGesture = L("gesture.tap", *count);
     const std::int64_t slot = slot::forTap(*count);
     const ActionIndex action = actionAt(slot);
     observers_.gestureRecognised(
@@ -139,7 +139,7 @@ void Controller::performTap(std::int64_t fingers, ActionIndex action,
     const double now = services_.clock.uptime();
     std::optional<DropReason> refused = mayDispatch(context) ? std::nullopt : guardRefusal(context);
     // A click just before the release, or during the wait, means the touch was a click.
-    if (!refused && lastClick_ >= recognisedAt - tapDelay) {
+    if (!refused && state_.lastClick >= recognisedAt - tapDelay) {
         refused = DropReason::clickAfter;
     }
     if (refused) {

@@ -18,17 +18,23 @@ std::string permissionState(bool granted) {
 void Controller::refresh() {
     const bool accessibility = services_.permissions.accessibilityTrusted();
     const bool inputMonitoring = services_.permissions.inputMonitoringGranted();
-    permissionMemory_.observe(accessibility, inputMonitoring);
-    services_.view.setPermissionText(permissionLine(accessibility, inputMonitoring));
-    const bool fresh = services_.clock.uptime() - lastFrame_ < liveContact;
-    const std::int64_t fingers = fresh ? gesture_.count : 0;
-    std::string live = L("live", fingers, lastGesture_, lastAction_);
+    observers_.permissionsPolled({.accessibility = accessibility,
+                                  .inputMonitoring = inputMonitoring,
+                                  .time = services_.clock.uptime()});
+    std::string permissions =
+        L("permissions", permissionState(accessibility), permissionState(inputMonitoring));
+    if (!statusExtras_.permissionNote.empty()) {
+        permissions += " · " + statusExtras_.permissionNote;
+    }
+    services_.view.setPermissionText(permissions);
+    const bool fresh = services_.clock.uptime() - state_.lastFrame < liveContact;
+    const std::int64_t fingers = fresh ? state_.gesture.count : 0;
+    std::string live = L("live", fingers, state_.lastGesture, state_.lastAction);
     if (!statusExtras_.liveNote.empty()) {
         live += " · " + statusExtras_.liveNote;
     }
     services_.view.setLiveText(live);
     updateMenuIcon();
-    keepOnAtRefresh(accessibility, inputMonitoring);
     observers_.refreshed(services_.clock.uptime());
 }
 
@@ -40,6 +46,10 @@ void Controller::showStatusMenu() {
 
 void Controller::setLiveNote(std::string note) {
     statusExtras_.liveNote = std::move(note);
+}
+
+void Controller::setPermissionNote(std::string note) {
+    statusExtras_.permissionNote = std::move(note);
 }
 
 void Controller::setStatusItemTitle(std::string title) {
@@ -56,19 +66,6 @@ void Controller::setStatusMenuEntry(MenuEntry entry) {
         entries.push_back(std::move(entry));
     }
     showStatusMenu();
-}
-
-std::string Controller::permissionLine(bool accessibility, bool inputMonitoring) {
-    std::string line =
-        L("permissions", permissionState(accessibility), permissionState(inputMonitoring));
-    const bool stale = permissionMemory_.accessibilityStale(accessibility) ||
-                       permissionMemory_.inputMonitoringStale(inputMonitoring);
-    if (stale) {
-        line += " · " + L("permission.stale");
-    }
-    // A tap the system refuses although both are granted is the other face of a stale grant.
-    services_.view.setResetPermissionsVisible(stale || keepOn_.waiting() == KeepOnWait::eventTap);
-    return line;
 }
 
 void Controller::updateMenuIcon() {

@@ -1,5 +1,6 @@
 #include "core/actions/ActionCatalogue.h"
 #include "core/actions/MouseEventType.h"
+#include "core/app/ButtonRewrite.h"
 #include "core/app/Controller.h"
 #include "core/app/Globals.h"
 #include "core/localization/Localizer.h"
@@ -92,7 +93,7 @@ EventDisposition Controller::decide(EventType type, TapEvent& event) {
     }
     const double now = services_.clock.uptime();
     if (type == event::scrollWheel) {
-        gesture_.moved = true;
+        state_.gesture.moved = true;
         return EventDisposition::pass;
     }
     const std::int64_t button = event.integerField(event::buttonNumber);
@@ -102,20 +103,12 @@ EventDisposition Controller::decide(EventType type, TapEvent& event) {
     return pressContinues(type, event, button);
 }
 
-void Controller::rewrite(TapEvent& event, MouseButton button, bool down, bool drag) {
-    const MouseMotion motion = drag   ? MouseMotion::drag
-                               : down ? MouseMotion::down
-                                      : MouseMotion::up;
-    event.setType(mouseEventType(button, motion));
-    event.setIntegerField(event::buttonNumber, static_cast<std::int64_t>(button));
-}
-
 void Controller::releasePresses() {
-    if (presses_.empty()) {
+    if (state_.presses.empty()) {
         return;
     }
     PressesReleasedNote note{.buttons = {}, .count = 0, .time = services_.clock.uptime()};
-    for (const auto& [physical, press] : presses_) {
+    for (const auto& [physical, press] : state_.presses) {
         if (press.button) {
             post(*press.button, false, 1);
             if (note.count < note.buttons.size()) {
@@ -123,7 +116,7 @@ void Controller::releasePresses() {
             }
         }
     }
-    presses_.clear();
+    state_.presses.clear();
     observers_.pressesReleased(note);
 }
 
@@ -132,33 +125,28 @@ void Controller::tapDisabled() {
     releasePresses();
     services_.view.setEnabledOn(false);
     services_.view.setStatusText(L("error.paused"));
-    syncActivity();
-    observers_.switchChanged({.on = false, .byUser = false, .time = services_.clock.uptime()});
-    if (!keepOn_.enabled() || !keepOn_.wanted()) {
-        return;
-    }
-    if (const std::optional<double> seconds = keepOn_.tapDisabled(services_.clock.uptime())) {
-        coolDown(*seconds);
-    }
+    observers_.switchChanged(
+        {.on = false, .byUser = false, .tapDisabled = true, .time = services_.clock.uptime()});
 }
 
 bool Controller::isFromMouse(const TapEvent& event) {
     const auto sender = static_cast<std::uint64_t>(event.integerField(event::senderID));
-    if (sender != lastSender_) {
-        lastSender_ = sender;
-        senderIsMouse_ = services_.sensor.isMouseSender(sender);
+    if (sender != state_.lastSender) {
+        state_.lastSender = sender;
+        state_.senderIsMouse = services_.sensor.isMouseSender(sender);
     }
-    return senderIsMouse_;
+    return state_.senderIsMouse;
 }
 
 EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, double now) {
-    lastClick_ = now;
-    gesture_.physicalClick();
-    const std::int64_t fingers = gesture_.count;
-    if (now - lastFrame_ >= freshContact || fingers < 1 || fingers > GestureState::maxFingers) {
+    state_.lastClick = now;
+    state_.gesture.physicalClick();
+    const std::int64_t fingers = state_.gesture.count;
+    if (now - state_.lastFrame >= freshContact || fingers < 1 ||
+        fingers > GestureState::maxFingers) {
         return EventDisposition::pass;
     }
-    lastGesture_ = L("gesture.click", fingers);
+    state_.lastGesture = L("gesture.click", fingers);
     const std::int64_t slot = slot::forClick(fingers);
     const ActionIndex action = actionAt(slot);
     observers_.gestureRecognised(
@@ -168,7 +156,7 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
     }
     const Press press{action, shortcutAt(slot), catalogue::pressTarget(action), dispatchContext(),
                       fingers};
-    presses_.insert_or_assign(button, press);
+    state_.presses.insert_or_assign(button, press);
     if (!press.button) {
         return EventDisposition::swallow;
     }
@@ -181,7 +169,7 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
         .asButton = press.button,
         .time = now,
     });
-    rewrite(event, *press.button, true, false);
+    rewriteButton(event, *press.button, true, false);
     return EventDisposition::pass;
 }
 
@@ -189,21 +177,21 @@ EventDisposition Controller::pressContinues(EventType type, TapEvent& event, std
     if (!isDrag(type) && !isUp(type)) {
         return EventDisposition::pass;
     }
-    const auto held = presses_.find(button);
-    if (held == presses_.end()) {
+    const auto held = state_.presses.find(button);
+    if (held == state_.presses.end()) {
         return EventDisposition::pass;
     }
     if (isDrag(type)) {
         if (!held->second.button) {
             return EventDisposition::swallow;
         }
-        rewrite(event, *held->second.button, false, true);
+        rewriteButton(event, *held->second.button, false, true);
         return EventDisposition::pass;
     }
     const Press press = held->second;
-    presses_.erase(held);
+    state_.presses.erase(held);
     if (press.button) {
-        rewrite(event, *press.button, false, false);
+        rewriteButton(event, *press.button, false, false);
         return EventDisposition::pass;
     }
     performOnRelease(press);

@@ -31,9 +31,7 @@ MouseEventNote* ObserverList::deferMouseEvent() {
 }
 
 void ObserverList::frameReceived(std::span<const Finger> fingers, double time) {
-    for (ControllerObserver* observer : observers_) {
-        observer->frameReceived(fingers, time);
-    }
+    each(&ControllerObserver::frameReceived, fingers, time);
 }
 
 void ObserverList::gestureRecognised(const GestureNote& note) {
@@ -61,28 +59,32 @@ void ObserverList::activeChanged(const ActiveNote& note) {
     tell(note);
 }
 
+void ObserverList::switchChosen(const SwitchNote& note) {
+    each(&ControllerObserver::switchChosen, note);
+}
 void ObserverList::frontApplicationChanged(const FrontApplicationNote& note) {
-    for (ControllerObserver* observer : observers_) {
-        observer->frontApplicationChanged(note);
-    }
+    each(&ControllerObserver::frontApplicationChanged, note);
 }
-
 void ObserverList::launched(double time) {
-    for (ControllerObserver* observer : observers_) {
-        observer->launched(time);
-    }
+    each(&ControllerObserver::launched, time);
 }
-
+void ObserverList::windowShown(const MomentNote& note) {
+    each(&ControllerObserver::windowShown, note);
+}
+void ObserverList::woke(const MomentNote& note) {
+    each(&ControllerObserver::woke, note);
+}
+void ObserverList::reconnected(const ReconnectNote& note) {
+    each(&ControllerObserver::reconnected, note);
+}
+void ObserverList::permissionsPolled(const PermissionsNote& note) {
+    each(&ControllerObserver::permissionsPolled, note);
+}
 void ObserverList::refreshed(double time) {
-    for (ControllerObserver* observer : observers_) {
-        observer->refreshed(time);
-    }
+    each(&ControllerObserver::refreshed, time);
 }
-
 void ObserverList::terminating(double time) {
-    for (ControllerObserver* observer : observers_) {
-        observer->terminating(time);
-    }
+    each(&ControllerObserver::terminating, time);
 }
 
 void ObserverList::tell(const Note& note) {

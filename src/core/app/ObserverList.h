@@ -64,8 +64,13 @@ class ObserverList {
     void profileSelected(const ProfileNote& note);
     void activeChanged(const ActiveNote& note);
     // Never told from the tap's callback, so never kept.
+    void switchChosen(const SwitchNote& note);
     void frontApplicationChanged(const FrontApplicationNote& note);
     void launched(double time);
+    void windowShown(const MomentNote& note);
+    void woke(const MomentNote& note);
+    void reconnected(const ReconnectNote& note);
+    void permissionsPolled(const PermissionsNote& note);
     void refreshed(double time);
     void terminating(double time);
 
@@ -74,6 +79,13 @@ class ObserverList {
         std::variant<GestureNote, TouchDropNote, ActionNote, ActionDropNote, MouseEventNote,
                      PressesReleasedNote, SwitchNote, ProfileNote, ActiveNote>;
 
+    // Tells every observer at once, through `call`.
+    template <class... Parameters, class... Arguments>
+    void each(void (ControllerObserver::*call)(Parameters...), const Arguments&... arguments) {
+        for (ControllerObserver* observer : observers_) {
+            (observer->*call)(arguments...);
+        }
+    }
     void tell(const Note& note);
     // Keeps `note` when deferring and returns true; false when it is to be told now.
     bool keep(const Note& note);

@@ -14,6 +14,8 @@ class StatusDisplay {
 
     // Appended to the live line after " · " from the next refresh on; empty for none.
     virtual void setLiveNote(std::string note) = 0;
+    // Appended to the permission line after " · " as it is written; empty for none.
+    virtual void setPermissionNote(std::string note) = 0;
     // The status item's title beside its symbol, drawn at once; empty for none.
     virtual void setStatusItemTitle(std::string title) = 0;
     // Puts `entry` in the status menu between the pause item and the separator, in place of the

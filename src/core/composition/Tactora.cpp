@@ -9,6 +9,17 @@ static_assert(TouchSurface::contactLifetime == Controller::liveContact,
 
 Tactora::Tactora(ControllerServices services)
     : controller_(Controller::create(services)),
+      keeper_(GestureKeeper::create({.clock = services.clock,
+                                     .queue = services.queue,
+                                     .view = services.view,
+                                     .permissions = services.permissions,
+                                     .sensor = services.sensor,
+                                     .devices = services.devices,
+                                     .loginItem = services.loginItem,
+                                     .activity = services.activity,
+                                     .resetTool = services.resetTool,
+                                     .defaults = services.defaults},
+                                    *controller_, *controller_)),
       frontmost_(FrontmostProfiles::create(*controller_, services.workspace, services.view,
                                            services.clock, services.queue)),
       liveView_(LiveView::create(services.surface, services.clock, services.queue)),
@@ -19,6 +30,8 @@ Tactora::Tactora(ControllerServices services)
       profileFiles_(*controller_, *frontmost_, services.files, services.dialogs, services.view) {
     // The recorder comes first, so that it writes what comes in before the others act on it.
     controller_->addObserver(recorder_);
+    // Next, so that gestures it switches on or off are what the others see.
+    controller_->addObserver(*keeper_);
     // Before the live view, so that the profile of the application in front is active by the
     // time the others learn that launching finished.
     controller_->addObserver(*frontmost_);
@@ -32,6 +45,7 @@ Tactora::~Tactora() {
     controller_->removeObserver(*liveView_);
     controller_->removeObserver(*frontmost_);
     controller_->setProfileTitleSource(nullptr);
+    controller_->removeObserver(*keeper_);
     controller_->removeObserver(recorder_);
 }
 

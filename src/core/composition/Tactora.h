@@ -6,6 +6,7 @@
 #include "core/app/ControllerServices.h"
 #include "core/feedback/MenuBarFeedback.h"
 #include "core/frontmost/FrontmostProfiles.h"
+#include "core/keepgestures/GestureKeeper.h"
 #include "core/liveview/LiveView.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
@@ -16,6 +17,7 @@ namespace tactora {
 // owns what the base system gives it; each part here learns what happens as one of its
 // observers and reaches it only through a narrow interface of its own:
 //
+//   keepgestures/ keeping gestures on by themselves, the login item and the permission reset
 //   frontmost/   profiles that follow the application in front, and the applications sheet
 //   liveview/    the settings window's live view of the touch surface
 //   feedback/    the finger count in the menu bar
@@ -35,6 +37,7 @@ class Tactora {
 
     Controller& controller() { return *controller_; }
     const std::shared_ptr<Controller>& sharedController() const { return controller_; }
+    GestureKeeper& keeper() { return *keeper_; }
     FrontmostProfiles& frontmost() { return *frontmost_; }
     LiveView& liveView() { return *liveView_; }
     MenuBarFeedback& feedback() { return *feedback_; }
@@ -43,6 +46,7 @@ class Tactora {
 
   private:
     std::shared_ptr<Controller> controller_;
+    std::shared_ptr<GestureKeeper> keeper_;
     std::shared_ptr<FrontmostProfiles> frontmost_;
     std::shared_ptr<LiveView> liveView_;
     std::shared_ptr<MenuBarFeedback> feedback_;

@@ -19,16 +19,24 @@ class ControllerKeepOnTest : public ::testing::Test {
     static void launchKeepingOn(ControllerHarness& harness) {
         harness.c().applicationDidFinishLaunching();
         harness.view.keepOn = true;
-        harness.c().toggleKeepOn();
+        harness.a().keeper().toggleKeepOn();
         harness.view.enabled = true;
         harness.c().toggle();
         ASSERT_TRUE(harness.view.enabled);
         harness.log.clear();
     }
 
+    // Whether the next start of the sensor finds the mouse, and the status it then reports.
+    void mouseFound(bool found) {
+        h.sensor.startSucceeds = found;
+        h.sensor.statusKey = found ? "sensor.connected" : "sensor.missing";
+    }
+
     void disableTap() {
         FakeTapEvent notice(event::tapDisabledByTimeout, 0, 0);
         h.send(notice);
+        // What the tap's callback tells is heard once it has returned.
+        h.queue.runReady();
     }
 
     ControllerHarness h;
@@ -36,7 +44,7 @@ class ControllerKeepOnTest : public ::testing::Test {
 
 TEST_F(ControllerKeepOnTest, IsOffByDefaultAndWritesNothingOfItsOwn) {
     h.launchAndSwitchOn();
-    EXPECT_FALSE(h.c().keepOn().enabled());
+    EXPECT_FALSE(h.a().keeper().keepOn().enabled());
     EXPECT_FALSE(h.defaults->values().contains(KeepOn::enabledKey));
     EXPECT_FALSE(h.defaults->values().contains(KeepOn::wantedKey));
 }
@@ -86,7 +94,7 @@ TEST_F(ControllerKeepOnTest, PauseFromTheMenuIsKeptAcrossRestarts) {
 
     ControllerHarness next(h.defaults);
     next.c().applicationDidFinishLaunching();
-    EXPECT_TRUE(next.c().keepOn().enabled());
+    EXPECT_TRUE(next.a().keeper().keepOn().enabled());
     EXPECT_FALSE(next.view.enabled);
 }
 
@@ -125,7 +133,7 @@ TEST_F(ControllerKeepOnTest, WaitingForAPermissionNeverShowsTheEnableError) {
     h.permissions.inputMonitoring = false;
     h.c().applicationDidFinishLaunching();
     h.view.keepOn = true;
-    h.c().toggleKeepOn();
+    h.a().keeper().toggleKeepOn();
     h.view.enabled = true;
     h.c().toggle();
     EXPECT_EQ(h.view.status, "error.enable · keep.wait.monitoring");
@@ -142,10 +150,9 @@ TEST_F(ControllerKeepOnTest, WaitingForAPermissionNeverShowsTheEnableError) {
 
 TEST_F(ControllerKeepOnTest, MouseLeavingAndComingBackWhileOn) {
     launchKeepingOn(h);
-    h.sensor.startSucceeds = false;
-    h.sensor.statusKey = "sensor.missing";
+    mouseFound(false);
     h.devices.leave();
-    h.queue.advance(Controller::deviceSettle);
+    h.queue.advance(GestureKeeper::deviceSettle);
     EXPECT_EQ(h.log.count("sensor.start"), 1);
     EXPECT_FALSE(h.view.enabled);
     EXPECT_EQ(h.view.status, "sensor.missing · keep.wait.sensor");
@@ -154,10 +161,9 @@ TEST_F(ControllerKeepOnTest, MouseLeavingAndComingBackWhileOn) {
     h.queue.advance(5);
     EXPECT_EQ(h.log.count("sensor.start"), 1);
 
-    h.sensor.startSucceeds = true;
-    h.sensor.statusKey = "sensor.connected";
+    mouseFound(true);
     h.devices.arrive();
-    h.queue.advance(Controller::deviceSettle);
+    h.queue.advance(GestureKeeper::deviceSettle);
     EXPECT_EQ(h.log.count("sensor.start"), 2);
     EXPECT_TRUE(h.view.enabled);
     EXPECT_EQ(h.view.status, "sensor.connected");
@@ -167,31 +173,29 @@ TEST_F(ControllerKeepOnTest, MouseLeavingAndComingBackWhileKeepOnIsOff) {
     h.launchAndSwitchOn();
     h.sensor.startSucceeds = false;
     h.devices.leave();
-    h.queue.advance(Controller::deviceSettle);
+    h.queue.advance(GestureKeeper::deviceSettle);
     EXPECT_EQ(h.log.count("sensor.start"), 1);
     EXPECT_FALSE(h.view.enabled);
     h.sensor.startSucceeds = true;
     h.devices.arrive();
-    h.queue.advance(Controller::deviceSettle);
+    h.queue.advance(GestureKeeper::deviceSettle);
     EXPECT_EQ(h.log.count("sensor.start"), 2);
     EXPECT_FALSE(h.view.enabled);
 }
 
 TEST_F(ControllerKeepOnTest, AMouseThatArrivesIsRetriedLikeAWake) {
     launchKeepingOn(h);
-    h.sensor.startSucceeds = false;
-    h.sensor.statusKey = "sensor.missing";
+    mouseFound(false);
     h.devices.leave();
-    h.queue.advance(Controller::deviceSettle);
+    h.queue.advance(GestureKeeper::deviceSettle);
     ASSERT_EQ(h.log.count("sensor.start"), 1);
     // Over Bluetooth the touch stream is often not ready at the first notice.
     h.devices.arrive(43);
-    h.queue.advance(Controller::deviceSettle);
+    h.queue.advance(GestureKeeper::deviceSettle);
     EXPECT_EQ(h.log.count("sensor.start"), 2);
     h.queue.advance(1);
     EXPECT_EQ(h.log.count("sensor.start"), 3);
-    h.sensor.startSucceeds = true;
-    h.sensor.statusKey = "sensor.connected";
+    mouseFound(true);
     h.queue.advance(3);
     EXPECT_EQ(h.log.count("sensor.start"), 4);
     EXPECT_TRUE(h.view.enabled);
@@ -212,7 +216,7 @@ TEST_F(ControllerKeepOnTest, AnotherDeviceLeavingChangesNothing) {
     EXPECT_TRUE(h.view.enabled);
     // The connected one leaving does.
     h.devices.leave(h.sensor.device);
-    h.queue.advance(Controller::deviceSettle);
+    h.queue.advance(GestureKeeper::deviceSettle);
     EXPECT_EQ(h.log.count("sensor.start"), 1);
 }
 
@@ -223,14 +227,13 @@ TEST_F(ControllerKeepOnTest, ABurstOfDeviceNoticesReconnectsOnce) {
     h.devices.arrive();
     h.devices.arrive();
     h.devices.leave();
-    h.queue.advance(Controller::deviceSettle);
+    h.queue.advance(GestureKeeper::deviceSettle);
     EXPECT_EQ(h.log.count("sensor.start"), 1);
 }
 
 TEST_F(ControllerKeepOnTest, AWakeThatMissesTheMouseRetriesOnSchedule) {
     launchKeepingOn(h);
-    h.sensor.startSucceeds = false;
-    h.sensor.statusKey = "sensor.missing";
+    mouseFound(false);
     h.workspace.wake();
     EXPECT_EQ(h.log.count("sensor.start"), 1);
     h.queue.advance(1);
@@ -239,8 +242,7 @@ TEST_F(ControllerKeepOnTest, AWakeThatMissesTheMouseRetriesOnSchedule) {
     EXPECT_EQ(h.log.count("sensor.start"), 3);
     EXPECT_FALSE(h.view.enabled);
 
-    h.sensor.startSucceeds = true;
-    h.sensor.statusKey = "sensor.connected";
+    mouseFound(true);
     h.queue.advance(8);
     EXPECT_EQ(h.log.count("sensor.start"), 4);
     EXPECT_TRUE(h.view.enabled);
@@ -262,7 +264,7 @@ TEST_F(ControllerKeepOnTest, TapDisabledFourTimesWithinAMinute) {
 
     disableTap();
     EXPECT_FALSE(h.view.enabled);
-    EXPECT_TRUE(h.c().presses().empty());
+    EXPECT_TRUE(h.c().state().presses.empty());
     EXPECT_EQ(h.view.status, "error.paused · cool 1");
     h.queue.advance(0.9);
     EXPECT_FALSE(h.view.enabled);
@@ -298,14 +300,14 @@ TEST_F(ControllerKeepOnTest, ALateDisableNoticeAfterTheStopDoesNotRestart) {
     disableTap();
     h.queue.advance(5);
     disableTap();
-    ASSERT_EQ(h.c().keepOn().waiting(), KeepOnWait::stopped);
+    ASSERT_EQ(h.a().keeper().keepOn().waiting(), KeepOnWait::stopped);
     // Long after, while gestures are off, the system sends another notice.
     h.queue.advance(200);
     disableTap();
     h.queue.advance(120);
     EXPECT_FALSE(h.view.enabled);
     EXPECT_EQ(h.view.status, "error.paused");
-    EXPECT_EQ(h.c().keepOn().waiting(), KeepOnWait::stopped);
+    EXPECT_EQ(h.a().keeper().keepOn().waiting(), KeepOnWait::stopped);
 }
 
 TEST_F(ControllerKeepOnTest, DisableTickDisableASecondLaterKeepsGesturesOff) {
@@ -344,10 +346,10 @@ TEST_F(ControllerKeepOnTest, UntickingAndReTickingKeepOnStartsTheLadderAgain) {
     disableTap();
     ASSERT_EQ(h.view.status, "error.paused · cool 5");
     h.view.keepOn = false;
-    h.c().toggleKeepOn();
+    h.a().keeper().toggleKeepOn();
     h.view.keepOn = true;
     h.view.enabled = true;
-    h.c().toggleKeepOn();
+    h.a().keeper().toggleKeepOn();
     h.c().toggle();
     ASSERT_TRUE(h.view.enabled);
     disableTap();
@@ -357,7 +359,7 @@ TEST_F(ControllerKeepOnTest, UntickingAndReTickingKeepOnStartsTheLadderAgain) {
 TEST_F(ControllerKeepOnTest, TickingKeepOnWhileTheSwitchIsOffKeepsGesturesOff) {
     h.c().applicationDidFinishLaunching();
     h.view.keepOn = true;
-    h.c().toggleKeepOn();
+    h.a().keeper().toggleKeepOn();
     h.queue.advance(5);
     EXPECT_FALSE(h.view.enabled);
     EXPECT_FALSE(h.eventTap.created);
@@ -385,7 +387,7 @@ TEST_F(ControllerKeepOnTest, ATickDuringACoolDownLeavesLaterReArmsWorking) {
 TEST_F(ControllerKeepOnTest, RefreshesWhileWaitingForATapThatCannotBeCreatedKeepTheLine) {
     h.c().applicationDidFinishLaunching();
     h.view.keepOn = true;
-    h.c().toggleKeepOn();
+    h.a().keeper().toggleKeepOn();
     h.eventTap.createSucceeds = false;
     h.view.enabled = true;
     h.c().toggle();
@@ -394,15 +396,14 @@ TEST_F(ControllerKeepOnTest, RefreshesWhileWaitingForATapThatCannotBeCreatedKeep
     EXPECT_EQ(line, "error.enable · keep.wait.tap");
     h.queue.advance(5);
     EXPECT_EQ(h.view.status, line);
-    EXPECT_EQ(h.c().keepOn().waiting(), KeepOnWait::eventTap);
+    EXPECT_EQ(h.a().keeper().keepOn().waiting(), KeepOnWait::eventTap);
 }
 
 TEST_F(ControllerKeepOnTest, PausingWhileWaitingForTheMouseReplacesTheWaitingLine) {
     launchKeepingOn(h);
-    h.sensor.startSucceeds = false;
-    h.sensor.statusKey = "sensor.missing";
+    mouseFound(false);
     h.devices.leave();
-    h.queue.advance(Controller::deviceSettle);
+    h.queue.advance(GestureKeeper::deviceSettle);
     ASSERT_EQ(h.view.status, "sensor.missing · keep.wait.sensor");
     h.c().pause();
     EXPECT_EQ(h.view.status, "sensor.missing");
@@ -428,7 +429,7 @@ TEST_F(ControllerKeepOnTest, TurningKeepOnOffWhileWaitingReplacesTheWaitingLine)
     h.queue.advance(Controller::refreshInterval);
     ASSERT_EQ(h.view.status, "sensor.connected · keep.wait.monitoring");
     h.view.keepOn = false;
-    h.c().toggleKeepOn();
+    h.a().keeper().toggleKeepOn();
     EXPECT_EQ(h.view.status, "sensor.connected");
 }
 
@@ -476,7 +477,7 @@ TEST_F(ControllerKeepOnTest, UntickingKeepOnStopsAPendingCoolDown) {
     launchKeepingOn(h);
     disableTap();
     h.view.keepOn = false;
-    h.c().toggleKeepOn();
+    h.a().keeper().toggleKeepOn();
     h.queue.advance(60);
     EXPECT_FALSE(h.view.enabled);
     EXPECT_EQ(h.defaults->integer(KeepOn::enabledKey), 0);
@@ -548,14 +549,14 @@ TEST_F(ControllerKeepOnTest, ApprovalIsAskedForOnceAndTheButtonOpensLoginItems) 
     h.c().applicationDidFinishLaunching();
     h.loginItem.statusAfterRegister = LoginItemStatus::requiresApproval;
     h.view.loginItem = true;
-    h.c().toggleLoginItem();
+    h.a().keeper().toggleLoginItem();
     EXPECT_EQ(h.loginItem.registrations, 1);
     EXPECT_EQ(h.view.status, "login.approval");
     EXPECT_TRUE(h.view.loginItemsVisible);
     h.view.status.clear();
     h.queue.advance(1);
     EXPECT_EQ(h.view.status, "");
-    h.c().openLoginItems();
+    h.a().keeper().openLoginItems();
     EXPECT_EQ(h.loginItem.settingsOpened, 1);
 
     h.loginItem.current = LoginItemStatus::enabled;
@@ -577,7 +578,7 @@ TEST_F(ControllerKeepOnTest, TheLoginItemIsAskedOnlyWhenShownActivatedOrChanged)
     h.c().applicationDidResignActive();
     EXPECT_EQ(h.loginItem.statusReads, reads);
     h.view.loginItem = true;
-    h.c().toggleLoginItem();
+    h.a().keeper().toggleLoginItem();
     EXPECT_EQ(h.loginItem.statusReads, ++reads);
     h.queue.advance(10);
     EXPECT_EQ(h.loginItem.statusReads, reads);
@@ -602,7 +603,7 @@ TEST_F(ControllerKeepOnTest, UntickingUnregisters) {
     h.c().applicationDidFinishLaunching();
     EXPECT_TRUE(h.view.loginItem);
     h.view.loginItem = false;
-    h.c().toggleLoginItem();
+    h.a().keeper().toggleLoginItem();
     EXPECT_EQ(h.loginItem.unregistrations, 1);
     EXPECT_FALSE(h.view.loginItem);
 }
@@ -611,7 +612,7 @@ TEST_F(ControllerKeepOnTest, AFailedRegistrationShowsItsCodeAndTheRealStatus) {
     h.c().applicationDidFinishLaunching();
     h.loginItem.errorCode = 22;
     h.view.loginItem = true;
-    h.c().toggleLoginItem();
+    h.a().keeper().toggleLoginItem();
     EXPECT_EQ(h.view.status, "login failed 22");
     EXPECT_FALSE(h.view.loginItem);
 }
@@ -646,7 +647,7 @@ TEST_F(ControllerKeepOnTest, ResetRunsTheToolForThisApplicationThenAsksAgain) {
     h.c().refresh();
     ControllerHarness next(h.defaults);
     next.permissions.accessibility = false;
-    next.c().resetPermissions();
+    next.a().keeper().resetPermissions();
     next.resetTool.finishAll();
     EXPECT_EQ(next.resetTool.runs, (std::vector<std::vector<std::string>>{
                                        {"reset", "Accessibility", "app.tactora.Tactora"},
@@ -664,7 +665,7 @@ TEST_F(ControllerKeepOnTest, ResetRunsTheToolForThisApplicationThenAsksAgain) {
 
 TEST_F(ControllerKeepOnTest, AResetWithAccessibilityStillGrantedAsksForInputMonitoringOnly) {
     h.permissions.inputMonitoring = false;
-    h.c().resetPermissions();
+    h.a().keeper().resetPermissions();
     h.resetTool.finishAll();
     EXPECT_FALSE(h.log.contains("permissions.requestAccessibility"));
     EXPECT_TRUE(h.log.contains("permissions.requestInputMonitoring"));
@@ -675,7 +676,7 @@ TEST_F(ControllerKeepOnTest, AResetWithAccessibilityStillGrantedAsksForInputMoni
 TEST_F(ControllerKeepOnTest, AResetPausesFirstAndRunsOffTheMainThreadWithATimeLimit) {
     h.launchAndSwitchOn();
     ASSERT_TRUE(h.view.enabled);
-    h.c().resetPermissions();
+    h.a().keeper().resetPermissions();
     // Gestures are paused before the first run starts; nothing is asked before both ended.
     EXPECT_FALSE(h.view.enabled);
     EXPECT_EQ(h.view.status, "reset.running");
@@ -692,7 +693,7 @@ TEST_F(ControllerKeepOnTest, AResetPausesFirstAndRunsOffTheMainThreadWithATimeLi
 }
 
 TEST_F(ControllerKeepOnTest, AResetThatTimesOutSaysSoAndAsksNothing) {
-    h.c().resetPermissions();
+    h.a().keeper().resetPermissions();
     ASSERT_TRUE(h.resetTool.finish(ToolOutcome{.timedOut = true}));
     EXPECT_EQ(h.resetTool.runs.size(), 1U);
     EXPECT_EQ(h.view.status, "reset.timeout");
@@ -701,7 +702,7 @@ TEST_F(ControllerKeepOnTest, AResetThatTimesOutSaysSoAndAsksNothing) {
 }
 
 TEST_F(ControllerKeepOnTest, AFailedResetShowsTheExitStatusAndAsksNothing) {
-    h.c().resetPermissions();
+    h.a().keeper().resetPermissions();
     ASSERT_TRUE(h.resetTool.finish(5));
     EXPECT_EQ(h.resetTool.runs.size(), 1U);
     EXPECT_EQ(h.view.status, "reset failed 5");
@@ -711,7 +712,7 @@ TEST_F(ControllerKeepOnTest, AFailedResetShowsTheExitStatusAndAsksNothing) {
 
 TEST_F(ControllerKeepOnTest, AResetWithoutABundleIdentifierRunsNothing) {
     h.resetTool.bundleID.reset();
-    h.c().resetPermissions();
+    h.a().keeper().resetPermissions();
     EXPECT_TRUE(h.resetTool.runs.empty());
     EXPECT_EQ(h.view.status, "reset failed -1");
 }
@@ -732,7 +733,7 @@ TEST_F(ControllerKeepOnTest, WrongTypedValuesReadAsOffAndTouchNoProfile) {
     run.view.enabled = true;
     run.c().toggle();
     run.c().applicationWillTerminate();
-    EXPECT_FALSE(run.c().keepOn().enabled());
+    EXPECT_FALSE(run.a().keeper().keepOn().enabled());
     EXPECT_FALSE(run.view.enabled);
     EXPECT_EQ(run.view.permission, "AX pending IM pending");
     EXPECT_FALSE(earlier->values().contains("workProfiles.v1"));

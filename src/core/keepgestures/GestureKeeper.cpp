@@ -1,12 +1,10 @@
-#include <array>
-#include <cstddef>
-#include <cstdint>
-#include <string>
+#include "core/keepgestures/GestureKeeper.h"
 
-#include "core/app/Controller.h"
+#include <array>
+#include <utility>
+
 #include "core/keepon/DeviceNotices.h"
 #include "core/localization/Localizer.h"
-#include "core/support/ScopedCount.h"
 
 namespace tactora {
 
@@ -32,19 +30,30 @@ const char* waitKey(KeepOnWait wait) {
 
 // The services tccutil knows the two permissions by.
 constexpr std::array<const char*, 2> resetServices{"Accessibility", "ListenEvent"};
-// A reset takes well under a second; one that hangs is stopped after this many seconds.
-constexpr double resetTimeLimit = 5;
 
 }  // namespace
 
-void Controller::toggleKeepOn() {
+std::shared_ptr<GestureKeeper> GestureKeeper::create(Services services, GestureSwitch& gestures,
+                                                     StatusDisplay& display) {
+    return std::make_shared<GestureKeeper>(Passkey{}, std::move(services), gestures, display);
+}
+
+GestureKeeper::GestureKeeper(Passkey /*unused*/, Services services, GestureSwitch& gestures,
+                             StatusDisplay& display)
+    : services_(std::move(services)),
+      gestures_(gestures),
+      display_(display),
+      keepOn_(services_.defaults),
+      permissionMemory_(services_.defaults) {}
+
+void GestureKeeper::toggleKeepOn() {
     if (keepOn_.setEnabled(services_.view.isKeepOnChecked(), services_.view.isEnabledOn())) {
-        services_.view.setStatusText(sensorText_);
+        services_.view.setStatusText(gestures_.sensorText());
     }
     armIfWanted(true);
 }
 
-void Controller::deviceArrived(std::uint64_t /*device*/) {
+void GestureKeeper::deviceArrived(std::uint64_t /*device*/) {
     if (!arrivalReconnects(services_.sensor.connectedDevice())) {
         return;
     }
@@ -52,13 +61,13 @@ void Controller::deviceArrived(std::uint64_t /*device*/) {
     scheduleDeviceReconnect();
 }
 
-void Controller::deviceLeft(std::uint64_t device) {
+void GestureKeeper::deviceLeft(std::uint64_t device) {
     if (departureReconnects(device, services_.sensor.connectedDevice())) {
         scheduleDeviceReconnect();
     }
 }
 
-void Controller::toggleLoginItem() {
+void GestureKeeper::toggleLoginItem() {
     const bool wanted = services_.view.isLoginItemChecked();
     const std::int64_t code =
         wanted ? services_.loginItem.registerItem() : services_.loginItem.unregisterItem();
@@ -68,11 +77,11 @@ void Controller::toggleLoginItem() {
     refreshLoginItem();
 }
 
-void Controller::openLoginItems() {
+void GestureKeeper::openLoginItems() {
     services_.loginItem.openLoginItemsSettings();
 }
 
-void Controller::resetPermissions() {
+void GestureKeeper::resetPermissions() {
     const std::optional<std::string> bundleID = services_.resetTool.bundleIdentifier();
     if (!bundleID) {
         services_.view.setStatusText(L("reset.failed", std::int64_t{-1}));
@@ -81,16 +90,13 @@ void Controller::resetPermissions() {
     // Accessibility is about to go away: nothing may be held or rewritten when it does. The
     // program's pause keeps the user's wish, so keeping gestures on brings them back once
     // both permissions are granted again.
-    {
-        const ScopedCount program(programActions_);
-        pause();
-    }
+    gestures_.pauseAsProgram();
     services_.view.setStatusText(L("reset.running"));
     resetNextPermission(0, *bundleID);
 }
 
 // Runs the tool for resetServices[index], then for the next one, each off the main thread.
-void Controller::resetNextPermission(std::size_t index, const std::string& bundleID) {
+void GestureKeeper::resetNextPermission(std::size_t index, const std::string& bundleID) {
     if (index == resetServices.size()) {
         permissionsReset();
         return;
@@ -114,148 +120,50 @@ void Controller::resetNextPermission(std::size_t index, const std::string& bundl
 
 // Both were reset: asks for the first one missing only, so that one prompt and one pane of
 // System Settings come up; the other is asked for by its own button.
-void Controller::permissionsReset() {
+void GestureKeeper::permissionsReset() {
     permissionMemory_.forget();
     services_.view.setStatusText(L("reset.done"));
     if (!services_.permissions.accessibilityTrusted()) {
-        access();
+        gestures_.access();
     } else if (!services_.permissions.inputMonitoringGranted()) {
-        monitor();
+        gestures_.monitor();
     }
-    refresh();
+    display_.refresh();
 }
 
-// After every reconnect, which always ends paused: a wake that did not find the mouse tries
-// again, and gestures the user wants come back on.
-void Controller::afterReconnect() {
-    if (ready_) {
-        keepOn_.sensorConnected();
-    } else {
-        scheduleWakeRetry();
+void GestureKeeper::switchChosen(const SwitchNote& note) {
+    if (keepOn_.userChose(note.on)) {
+        // "Gestures come back on by themselves once …" no longer holds.
+        services_.view.setStatusText(gestures_.sensorText());
     }
-    armIfWanted(true);
+    tickPending_ = note.on;
 }
 
-// Switches gestures back on through toggle()'s own checks when the user wants them on and
-// they can pass; otherwise records what is missing and, when that changed or `announce` asks,
-// says it on the status line.
-void Controller::armIfWanted(bool announce) {
-    if (!keepOn_.shouldArm() || services_.view.isEnabledOn()) {
+void GestureKeeper::switchChanged(const SwitchNote& note) {
+    // The activity is held exactly while the switch is on.
+    syncActivity(note.on);
+    const bool tickFailed = tickPending_ && !note.on;
+    tickPending_ = false;
+    if (tickFailed && keepOn_.shouldArm()) {
+        waitAfterFailedTick();
+    }
+    if (!note.tapDisabled || !keepOn_.enabled() || !keepOn_.wanted()) {
         return;
     }
-    KeepOnWait missing = missingForGestures();
-    if (missing == KeepOnWait::nothing) {
-        {
-            const ScopedCount program(programActions_);
-            services_.view.setEnabledOn(true);
-            toggle();
-        }
-        if (services_.view.isEnabledOn()) {
-            if (keepOn_.setWaiting(KeepOnWait::nothing) || announce) {
-                services_.view.setStatusText(sensorText_);
-            }
-            updateMenuIcon();
-            return;
-        }
-        missing = KeepOnWait::eventTap;
-    }
-    if (keepOn_.setWaiting(missing) || announce) {
-        showWait(missing, sensorText_);
+    if (const std::optional<double> seconds = keepOn_.tapDisabled(note.time)) {
+        coolDown(*seconds);
     }
 }
 
-// The user's tick did not take: toggle() has said so; add what gestures wait for.
-void Controller::waitAfterFailedTick() {
-    KeepOnWait missing = missingForGestures();
-    if (missing == KeepOnWait::nothing) {
-        missing = KeepOnWait::eventTap;
-    }
-    keepOn_.setWaiting(missing);
-    showWait(missing, L("error.enable"));
-}
-
-// The first of toggle()'s checks that fails, in its order, or nothing.
-KeepOnWait Controller::missingForGestures() const {
-    if (!ready_) {
-        return KeepOnWait::sensor;
-    }
-    if (!services_.permissions.accessibilityTrusted()) {
-        return KeepOnWait::accessibility;
-    }
-    if (!services_.permissions.inputMonitoringGranted()) {
-        return KeepOnWait::inputMonitoring;
-    }
-    return KeepOnWait::nothing;
-}
-
-void Controller::showWait(KeepOnWait wait, const std::string& before) {
-    if (const char* key = waitKey(wait)) {
-        services_.view.setStatusText(before + " · " + L(key));
+void GestureKeeper::activeChanged(const ActiveNote& note) {
+    if (note.active) {
+        refreshLoginItem();
     }
 }
 
-// Permissions are polled by the refresh anyway; only a change can change the outcome, so only
-// a change is acted on.
-void Controller::keepOnAtRefresh(bool accessibility, bool inputMonitoring) {
-    const std::pair<bool, bool> now{accessibility, inputMonitoring};
-    const bool changed = lastPermissions_ != now;
-    lastPermissions_ = now;
-    if (!changed || programActions_ > 0 || !keepOn_.enabled() || !keepOn_.wanted()) {
-        return;
-    }
-    if (services_.view.isEnabledOn()) {
-        if (accessibility && inputMonitoring) {
-            return;
-        }
-        // A permission withdrawn under running gestures: pause until it is back.
-        {
-            const ScopedCount program(programActions_);
-            pause();
-        }
-        armIfWanted(true);
-        return;
-    }
-    armIfWanted(false);
-}
-
-void Controller::coolDown(double seconds) {
-    services_.view.setStatusText(L("error.paused") + " · " +
-                                 L("keep.cooldown", static_cast<std::int64_t>(seconds)));
-    services_.queue.after(seconds, [weak = weak_from_this(), epoch = keepOn_.epoch()] {
-        const auto self = weak.lock();
-        if (self && self->keepOn_.coolDownEnded(epoch)) {
-            self->armIfWanted(true);
-        }
-    });
-}
-
-void Controller::scheduleWakeRetry() {
-    const std::optional<double> delay = keepOn_.nextWakeRetry();
-    if (!delay) {
-        return;
-    }
-    services_.queue.after(*delay, [weak = weak_from_this(), epoch = keepOn_.wakeEpoch()] {
-        const auto self = weak.lock();
-        if (self && self->keepOn_.wakeRetryCurrent(epoch) && !self->ready_) {
-            self->reconnect();
-        }
-    });
-}
-
-void Controller::scheduleDeviceReconnect() {
-    if (deviceReconnectPending_) {
-        return;
-    }
-    deviceReconnectPending_ = true;
-    services_.queue.after(deviceSettle, [weak = weak_from_this()] {
-        if (const auto self = weak.lock()) {
-            self->deviceReconnectPending_ = false;
-            self->reconnect();
-        }
-    });
-}
-
-void Controller::watchDevices() {
+void GestureKeeper::launched(double /*time*/) {
+    services_.view.setKeepOnChecked(keepOn_.enabled());
+    refreshLoginItem();
     services_.devices.watch(
         [weak = weak_from_this()](std::uint64_t device) {
             if (const auto self = weak.lock()) {
@@ -269,9 +177,145 @@ void Controller::watchDevices() {
         });
 }
 
-// The activity is held exactly while the switch is on.
-void Controller::syncActivity() {
-    const bool on = services_.view.isEnabledOn();
+void GestureKeeper::windowShown(const MomentNote& /*note*/) {
+    refreshLoginItem();
+}
+
+void GestureKeeper::woke(const MomentNote& /*note*/) {
+    keepOn_.woke();
+}
+
+// After every reconnect, which always ends paused: a wake that did not find the mouse tries
+// again, and gestures the user wants come back on.
+void GestureKeeper::reconnected(const ReconnectNote& note) {
+    if (note.ready) {
+        keepOn_.sensorConnected();
+    } else {
+        scheduleWakeRetry();
+    }
+    armIfWanted(true);
+}
+
+void GestureKeeper::permissionsPolled(const PermissionsNote& note) {
+    polled_ = {note.accessibility, note.inputMonitoring};
+    permissionMemory_.observe(note.accessibility, note.inputMonitoring);
+    const bool stale = permissionMemory_.accessibilityStale(note.accessibility) ||
+                       permissionMemory_.inputMonitoringStale(note.inputMonitoring);
+    display_.setPermissionNote(stale ? L("permission.stale") : std::string());
+    // A tap the system refuses although both are granted is the other face of a stale grant.
+    services_.view.setResetPermissionsVisible(stale || keepOn_.waiting() == KeepOnWait::eventTap);
+}
+
+// Permissions are polled by the refresh anyway; only a change can change the outcome, so only
+// a change is acted on.
+void GestureKeeper::refreshed(double /*time*/) {
+    const bool changed = lastPermissions_ != polled_;
+    lastPermissions_ = polled_;
+    if (!changed || gestures_.programActing() || !keepOn_.enabled() || !keepOn_.wanted()) {
+        return;
+    }
+    if (services_.view.isEnabledOn()) {
+        if (polled_.first && polled_.second) {
+            return;
+        }
+        // A permission withdrawn under running gestures: pause until it is back.
+        gestures_.pauseAsProgram();
+        armIfWanted(true);
+        return;
+    }
+    armIfWanted(false);
+}
+
+// Switches gestures back on through the switch's own checks when the user wants them on and
+// they can pass; otherwise records what is missing and, when that changed or `announce` asks,
+// says it on the status line.
+void GestureKeeper::armIfWanted(bool announce) {
+    if (!keepOn_.shouldArm() || services_.view.isEnabledOn()) {
+        return;
+    }
+    KeepOnWait missing = missingForGestures();
+    if (missing == KeepOnWait::nothing) {
+        if (gestures_.switchOnAsProgram()) {
+            if (keepOn_.setWaiting(KeepOnWait::nothing) || announce) {
+                services_.view.setStatusText(gestures_.sensorText());
+            }
+            return;
+        }
+        missing = KeepOnWait::eventTap;
+    }
+    if (keepOn_.setWaiting(missing) || announce) {
+        showWait(missing, gestures_.sensorText());
+    }
+}
+
+// The user's tick did not take: the switch has said so; add what gestures wait for.
+void GestureKeeper::waitAfterFailedTick() {
+    KeepOnWait missing = missingForGestures();
+    if (missing == KeepOnWait::nothing) {
+        missing = KeepOnWait::eventTap;
+    }
+    keepOn_.setWaiting(missing);
+    showWait(missing, L("error.enable"));
+}
+
+// The first of the switch's checks that fails, in its order, or nothing.
+KeepOnWait GestureKeeper::missingForGestures() const {
+    if (!gestures_.sensorReady()) {
+        return KeepOnWait::sensor;
+    }
+    if (!services_.permissions.accessibilityTrusted()) {
+        return KeepOnWait::accessibility;
+    }
+    if (!services_.permissions.inputMonitoringGranted()) {
+        return KeepOnWait::inputMonitoring;
+    }
+    return KeepOnWait::nothing;
+}
+
+void GestureKeeper::showWait(KeepOnWait wait, const std::string& before) {
+    if (const char* key = waitKey(wait)) {
+        services_.view.setStatusText(before + " · " + L(key));
+    }
+}
+
+void GestureKeeper::coolDown(double seconds) {
+    services_.view.setStatusText(L("error.paused") + " · " +
+                                 L("keep.cooldown", static_cast<std::int64_t>(seconds)));
+    services_.queue.after(seconds, [weak = weak_from_this(), epoch = keepOn_.epoch()] {
+        const auto self = weak.lock();
+        if (self && self->keepOn_.coolDownEnded(epoch)) {
+            self->armIfWanted(true);
+        }
+    });
+}
+
+void GestureKeeper::scheduleWakeRetry() {
+    const std::optional<double> delay = keepOn_.nextWakeRetry();
+    if (!delay) {
+        return;
+    }
+    services_.queue.after(*delay, [weak = weak_from_this(), epoch = keepOn_.wakeEpoch()] {
+        const auto self = weak.lock();
+        if (self && self->keepOn_.wakeRetryCurrent(epoch) && !self->gestures_.sensorReady()) {
+            self->gestures_.reconnect();
+        }
+    });
+}
+
+void GestureKeeper::scheduleDeviceReconnect() {
+    if (deviceReconnectPending_) {
+        return;
+    }
+    deviceReconnectPending_ = true;
+    services_.queue.after(deviceSettle, [weak = weak_from_this()] {
+        if (const auto self = weak.lock()) {
+            self->deviceReconnectPending_ = false;
+            self->gestures_.reconnect();
+        }
+    });
+}
+
+void GestureKeeper::syncActivity(bool on) {
     if (on == activityHeld_) {
         return;
     }
@@ -283,7 +327,7 @@ void Controller::syncActivity() {
     }
 }
 
-void Controller::refreshLoginItem() {
+void GestureKeeper::refreshLoginItem() {
     const LoginItemStatus status = services_.loginItem.status();
     const bool needsApproval = status == LoginItemStatus::requiresApproval;
     services_.view.setLoginItemChecked(status == LoginItemStatus::enabled || needsApproval);
