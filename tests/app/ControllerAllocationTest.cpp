@@ -87,6 +87,32 @@ TEST_F(ControllerAllocationTest, PlainClicksWithStaleContactPassWithoutAllocatin
     EXPECT_EQ(count, 0U);
 }
 
+// The release of a click whose action runs once the button is up is swallowed, and its action
+// handed to the main queue: one unit of work, whatever the observers want to hear of it.
+std::size_t allocationsOfSwallowedRelease(ControllerHarness& h) {
+    h.assign(2, action::copy);
+    h.rest(3);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    EXPECT_EQ(h.send(down), EventDisposition::swallow);
+    h.queue.runReady();
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    std::size_t count = 0;
+    count = AllocationCounter::of([&] { EXPECT_EQ(h.send(up), EventDisposition::swallow); });
+    h.queue.runReady();
+    EXPECT_EQ(h.poster.keyEvents().size(), 2U);
+    return count;
+}
+
+TEST_F(ControllerAllocationTest, ASwallowedReleaseAllocatesAtMostOnce) {
+    EXPECT_LE(allocationsOfSwallowedRelease(h), 1U);
+}
+
+TEST_F(ControllerAllocationTest, ASwallowedReleaseAllocatesAtMostOnceWhileRecording) {
+    h.a().recorder().recordTouches();
+    ASSERT_TRUE(h.a().recorder().isRecording());
+    EXPECT_LE(allocationsOfSwallowedRelease(h), 1U);
+}
+
 TEST_F(ControllerAllocationTest, FrameHandOverAllocatesNothingOfItsOwn) {
     // A closure holding a frame is too big to be stored inside a std::function: were nothing
     // counted here, the counter would not be counting at all.

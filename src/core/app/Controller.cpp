@@ -1,5 +1,6 @@
 #include "core/app/Controller.h"
 
+#include <cstddef>
 #include <limits>
 #include <utility>
 
@@ -8,12 +9,21 @@
 
 namespace tactora {
 
+namespace {
+
+// Releases swallowed before the main queue runs again: one per button at the most, and rarely
+// more than one.
+constexpr std::size_t releasedCapacity = 8;
+
+}  // namespace
+
 std::shared_ptr<Controller> Controller::create(ControllerServices services) {
     return std::make_shared<Controller>(Passkey{}, std::move(services));
 }
 
 Controller::Controller(Passkey /*unused*/, ControllerServices services)
-    : services_(std::move(services)), observers_(services_.queue) {
+    : services_(std::move(services)) {
+    released_.reserve(releasedCapacity);
     frameFingers_.reserve(ContactFrame::capacity);
     services_.view.setLiveText(L("live", std::int64_t{0}, state_.lastGesture, state_.lastAction));
 }

@@ -187,7 +187,8 @@ class Controller final : public StatusDisplay,
     // Creates the tap on first use, otherwise re-enables it. True when a tap exists.
     bool installTap();
     // Decides one event of the tap: pass it on (possibly rewritten in place) or swallow it.
-    // Allocates nothing for events it passes untouched.
+    // Allocates nothing for events it passes untouched, and only the one main-queue task that
+    // tells the observers and performs a swallowed release's action otherwise.
     EventDisposition handle(EventType type, TapEvent& event);
     // Posts the up half of every rewritten press still held, and forgets all held presses.
     void releasePresses();
@@ -244,12 +245,15 @@ class Controller final : public StatusDisplay,
 
     void tapDisabled();
     bool isFromMouse(const TapEvent& event);
+    // handle() but for the hand-off: decides with the observers' notes kept for later.
+    EventDisposition noteAndDecide(EventType type, TapEvent& event);
     EventDisposition decide(EventType type, TapEvent& event);
     // Why the guard refuses `context` now; nothing when it may run.
     std::optional<DropReason> guardRefusal(const GestureDispatchContext& context);
     EventDisposition pressDown(TapEvent& event, std::int64_t button, double now);
     EventDisposition pressContinues(EventType type, TapEvent& event, std::int64_t button);
-    void performOnRelease(const Press& press);
+    // Performs, or drops as the guard says, the actions of the presses swallowed at release.
+    void performReleased();
 
     void warnIfSecureInput();
 
@@ -288,6 +292,9 @@ class Controller final : public StatusDisplay,
     // What the status item shows now, so that an unchanged look is not pushed again.
     std::optional<StatusItemAppearance> shownAppearance_;
     std::vector<Finger> frameFingers_;  // reused for every frame, so frames allocate nothing
+    // Presses swallowed at release whose action waits for the tap's callback to return; its
+    // capacity is reserved, so that a release allocates nothing of its own.
+    std::vector<Press> released_;
 
     // What the parts beside the controller add to the status display.
     struct StatusExtras {

@@ -56,7 +56,21 @@ bool Controller::installTap() {
 }
 
 EventDisposition Controller::handle(EventType type, TapEvent& event) {
-    // The observers hear of this event once the tap has its answer.
+    const EventDisposition disposition = noteAndDecide(type, event);
+    // What the event caused beyond the answer (the observers' notes, the action of a swallowed
+    // release) runs from one main-queue task, once the tap has its answer.
+    if (observers_.hasKept() || !released_.empty()) {
+        services_.queue.async([weak = weak_from_this()] {
+            if (const auto self = weak.lock()) {
+                self->observers_.tellKept();
+                self->performReleased();
+            }
+        });
+    }
+    return disposition;
+}
+
+EventDisposition Controller::noteAndDecide(EventType type, TapEvent& event) {
     const ObserverList::Deferral deferral(observers_);
     if (type == event::tapDisabledByTimeout || type == event::tapDisabledByUserInput) {
         tapDisabled();
@@ -188,31 +202,28 @@ EventDisposition Controller::pressContinues(EventType type, TapEvent& event, std
         rewriteButton(event, *held->second.button, false, true);
         return EventDisposition::pass;
     }
-    const Press press = held->second;
+    Press press = std::move(held->second);
     state_.presses.erase(held);
     if (press.button) {
         rewriteButton(event, *press.button, false, false);
         return EventDisposition::pass;
     }
-    performOnRelease(press);
+    released_.push_back(std::move(press));
     return EventDisposition::swallow;
 }
 
-void Controller::performOnRelease(const Press& press) {
-    // Queued, so that the action runs after the tap callback has returned.
-    services_.queue.async([weak = weak_from_this(), press] {
-        const auto self = weak.lock();
-        if (!self) {
-            return;
+void Controller::performReleased() {
+    // By index: what an action does never reaches the tap, so nothing is added meanwhile.
+    for (std::size_t i = 0; i < released_.size(); ++i) {
+        const Press& press = released_[i];
+        if (const std::optional<DropReason> refused = guardRefusal(press.context)) {
+            observers_.actionDropped(
+                {.action = press.action, .reason = *refused, .time = services_.clock.uptime()});
+        } else {
+            perform(press.action, press.shortcut, ActionOrigin::click, press.fingers);
         }
-        if (!self->mayDispatch(press.context)) {
-            self->observers_.actionDropped({.action = press.action,
-                                            .reason = *self->guardRefusal(press.context),
-                                            .time = self->services_.clock.uptime()});
-            return;
-        }
-        self->perform(press.action, press.shortcut, ActionOrigin::click, press.fingers);
-    });
+    }
+    released_.clear();
 }
 
 }  // namespace tactora

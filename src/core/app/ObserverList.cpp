@@ -5,9 +5,6 @@
 
 namespace tactora {
 
-ObserverList::ObserverList(MainQueue& queue)
-    : queue_(queue), self_(std::make_shared<ObserverList*>(this)) {}
-
 void ObserverList::add(ControllerObserver& observer) {
     observers_.push_back(&observer);
 }
@@ -130,21 +127,10 @@ bool ObserverList::keep(const Note& note) {
 }
 
 ObserverList::Note* ObserverList::nextSlot() {
-    if (keptCount_ == kept_.size()) {
-        return nullptr;
-    }
-    if (keptCount_ == 0) {
-        queue_.async([weak = std::weak_ptr<ObserverList*>(self_)] {
-            if (const auto list = weak.lock()) {
-                (*list)->tellKept();
-            }
-        });
-    }
-    return &kept_.at(keptCount_++);
+    return keptCount_ == kept_.size() ? nullptr : &kept_.at(keptCount_++);
 }
 
 void ObserverList::tellKept() {
-    // Told in the order kept; what an observer causes now is told at once, after these.
     const std::size_t count = keptCount_;
     keptCount_ = 0;
     for (std::size_t i = 0; i < count; ++i) {

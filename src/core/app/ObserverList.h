@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <memory>
 #include <span>
 #include <variant>
 #include <vector>
@@ -10,21 +9,20 @@
 #include "core/app/ControllerEvents.h"
 #include "core/app/ControllerObserver.h"
 #include "core/gestures/Finger.h"
-#include "core/platform/MainQueue.h"
 
 namespace tactora {
 
 // The controller's observers (not owned) and the telling of them. Main thread only.
 //
 // While a Deferral is alive (the event tap's callback), what is told is kept in fixed storage
-// instead, and told from one main-queue task that the first kept note posts: the tap answers
-// first. Nothing is posted, and nothing allocated, while no note is kept.
+// instead, until the owner calls tellKept() from a main-queue task of its own once the tap has
+// its answer. Keeping allocates nothing.
 class ObserverList {
   public:
     // Notes kept during deferral beyond this many are not told.
     static constexpr std::size_t deferredCapacity = 64;
 
-    explicit ObserverList(MainQueue& queue);
+    ObserverList() = default;
     ObserverList(const ObserverList&) = delete;
     ObserverList& operator=(const ObserverList&) = delete;
     ObserverList(ObserverList&&) = delete;
@@ -53,6 +51,11 @@ class ObserverList {
     // A slot, kept for later, for the mouse event being decided; the caller fills it in before
     // its deferral ends. Null when no observer wants mouse events (or the storage is full).
     MouseEventNote* deferMouseEvent();
+    // Whether notes are kept for tellKept().
+    bool hasKept() const { return keptCount_ > 0; }
+    // Tells what was kept, in the order kept; what an observer causes meanwhile is told at once,
+    // after them.
+    void tellKept();
 
     void frameReceived(std::span<const Finger> fingers, double time);
     void gestureRecognised(const GestureNote& note);
@@ -90,15 +93,11 @@ class ObserverList {
     // Keeps `note` when deferring and returns true; false when it is to be told now.
     bool keep(const Note& note);
     Note* nextSlot();
-    void tellKept();
 
-    MainQueue& queue_;
     std::vector<ControllerObserver*> observers_;
     int deferring_ = 0;
     std::array<Note, deferredCapacity> kept_;
     std::size_t keptCount_ = 0;
-    // What the posted task holds weakly, so that it does nothing once the list is gone.
-    std::shared_ptr<ObserverList*> self_;
 };
 
 }  // namespace tactora
