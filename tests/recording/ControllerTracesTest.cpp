@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -102,8 +103,7 @@ TEST_F(ControllerTracesTest, RecordsWhatTheControllerReceives) {
     auto scroll = h.mouseEvent(event::scrollWheel);
     h.send(scroll);
     h.queue.advance(0.5);
-    h.workspace.frontmost = 77;
-    h.workspace.frontmostBundle.clear();
+    h.workspace.bringToFront(77, "");
     h.frame(0);
     h.c().applicationDidBecomeActive();
     h.c().pause();
@@ -186,14 +186,14 @@ TEST_F(ControllerTracesTest, ReplayingARecordingDecidesWhatTheLiveControllerDid)
               "summary taps=2 clicks=1 actions=2 frames=6 mouse-events=3 seconds=1.430\n");
 }
 
-// Nothing tells the controller when another application comes to the front; the recording
-// notes it when the waiting tap looks, and the replay applies it before that tap runs.
+// The recording notes another application coming to the front when the system announces it,
+// and the replay applies it there, before the waiting tap runs.
 TEST_F(ControllerTracesTest, AnApplicationSwitchInTheWaitIsReplayedAsLive) {
     h.assign(5, action::copy);
     h.a().recorder().recordTouches();
     h.tap(2);
     h.queue.advance(0.05);
-    h.workspace.frontmost = 77;
+    h.workspace.bringToFront(77, h.workspace.frontmostBundle);
     h.queue.advance(0.05);
     h.a().recorder().recordTouches();
     EXPECT_TRUE(h.poster.keyEvents().empty());
@@ -202,6 +202,52 @@ TEST_F(ControllerTracesTest, AnApplicationSwitchInTheWaitIsReplayedAsLive) {
     ASSERT_FALSE(reading.error);
     const std::string replayed = TraceReplay::run(reading.lines, h.c().profiles().profiles());
     EXPECT_EQ(replayed.substr(0, replayed.find("summary")), "1000.100 tap 2\n");
+}
+
+TEST_F(ControllerTracesTest, TheApplicationInFrontIsNeverAskedForPerEvent) {
+    h.a().recorder().recordTouches();
+    const int asked = h.workspace.bundleQueries;
+    for (int round = 0; round < 20; ++round) {
+        h.tap(2);
+        auto down = h.mouseEvent(event::leftMouseDown);
+        auto up = h.mouseEvent(event::leftMouseUp);
+        h.send(down);
+        h.send(up);
+        h.queue.advance(0.5);
+    }
+    EXPECT_EQ(h.workspace.bundleQueries, asked);
+    const std::vector<std::string> lines = traced();
+    EXPECT_EQ(std::ranges::count_if(lines,
+                                    [](const std::string& line) {
+                                        return line.find(" front ") != std::string::npos;
+                                    }),
+              1);
+    EXPECT_GT(lines.size(), 60U);
+}
+
+TEST_F(ControllerTracesTest, EveryAnnouncedApplicationIsRecordedOnceEvenThisOne) {
+    h.a().recorder().recordTouches();
+    h.clock.now = 1000.5;
+    h.workspace.bringToFront(77, "com.example.Mail");
+    h.workspace.bringToFront(77, "com.example.Mail");
+    h.workspace.bringToFront(h.workspace.ownProcessID(), "com.example.Self");
+    h.workspace.bringToFront(std::nullopt, "");
+    const std::vector<std::string> lines = traced();
+    EXPECT_EQ(
+        std::vector<std::string>(lines.end() - 3, lines.end()),
+        (std::vector<std::string>{
+            "1000.5 front 77 com.example.Mail",
+            "1000.5 front " + std::to_string(h.workspace.ownProcessID()) + " com.example.Self",
+            "1000.5 front none",
+        }));
+}
+
+TEST_F(ControllerTracesTest, ARecordingStartsFromTheLastAnnouncedApplication) {
+    h.workspace.bringToFront(77, "com.example.Mail");
+    const int asked = h.workspace.bundleQueries;
+    h.a().recorder().recordTouches();
+    EXPECT_EQ(h.workspace.bundleQueries, asked);
+    EXPECT_EQ(traced().back(), "1000.0 front 77 com.example.Mail");
 }
 
 }  // namespace

@@ -124,12 +124,12 @@ struct ProfileNote {
     double time = 0;
 };
 
-// Another application came to the front, or none is in front (this application coming to the
-// front is not told).
+// Another application came to the front (this one included), or none is in front, as the
+// system announced it.
 struct FrontApplicationNote {
     std::optional<std::int32_t> processID;  // none when no application is in front
     std::string bundleID;                   // empty when there is none or it has none
-    std::string name;                       // what the user calls it
+    std::string name;                       // what the user calls it; empty for this one
     double time = 0;
 };
 

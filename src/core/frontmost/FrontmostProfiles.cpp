@@ -31,8 +31,13 @@ void FrontmostProfiles::launched(double /*time*/) {
 
 void FrontmostProfiles::frontmostApplicationChanged(std::optional<std::int32_t> processID,
                                                     std::string bundleID) {
-    // The user comes here to edit profiles: the one of the application left behind stays.
     if (processID && *processID == workspace_.ownProcessID()) {
+        // Told, for what records the application in front; but the user comes here to edit
+        // profiles, so the one of the application left behind stays.
+        switcher_.tellFrontApplication({.processID = processID,
+                                        .bundleID = std::move(bundleID),
+                                        .name = {},
+                                        .time = clock_.uptime()});
         return;
     }
     frontmostBundleID_ = processID ? std::move(bundleID) : std::string();

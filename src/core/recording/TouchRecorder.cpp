@@ -42,7 +42,11 @@ void TouchRecorder::start() {
     noteGestures(view_.isEnabledOn(), now);
     note(now, TraceActive{workspace_.isActive()});
     note(now, TraceProfileSelected{profiles_.profiles().activeID().text()});
-    noteFrontApplication(now);
+    if (!announcedFront_) {
+        // Asked once, should nothing have been announced yet.
+        announcedFront_ = {workspace_.frontmostProcessID(), workspace_.frontmostBundleID()};
+    }
+    noteFrontApplication(*announcedFront_, now);
     view_.setStatusText(L("trace.started", path_));
     showMenuEntry();
     display_.setLiveNote(L("trace.live"));
@@ -69,31 +73,13 @@ void TouchRecorder::frameReceived(std::span<const Finger> fingers, double time) 
     if (!trace_.isRecording()) {
         return;
     }
-    noteFrontApplication(time);
     note(time, TraceFrame{{fingers.begin(), fingers.end()}});
-}
-
-// The guard looks at the application in front when a scheduled action comes due: what it saw
-// is written as it decided, pass or not.
-void TouchRecorder::actionPerformed(const ActionNote& note) {
-    const bool guarded =
-        note.origin == ActionOrigin::tap || (note.origin == ActionOrigin::click && !note.asButton);
-    if (guarded && trace_.isRecording()) {
-        noteFrontApplication(note.time);
-    }
-}
-
-void TouchRecorder::actionDropped(const ActionDropNote& note) {
-    if (trace_.isRecording()) {
-        noteFrontApplication(note.time);
-    }
 }
 
 void TouchRecorder::mouseEventDecided(const MouseEventNote& note) {
     if (!trace_.isRecording() || trace::mouseEventWord(note.type).empty()) {
         return;
     }
-    noteFrontApplication(note.time);
     this->note(note.time, TraceMouseEvent{note.type, note.button, note.fromMouse});
 }
 
@@ -110,6 +96,13 @@ void TouchRecorder::profileSelected(const ProfileNote& note) {
 
 void TouchRecorder::activeChanged(const ActiveNote& note) {
     this->note(note.time, TraceActive{note.active});
+}
+
+void TouchRecorder::frontApplicationChanged(const FrontApplicationNote& note) {
+    announcedFront_ = TraceFrontApplication{note.processID, note.bundleID};
+    if (trace_.isRecording()) {
+        noteFrontApplication(*announcedFront_, note.time);
+    }
 }
 
 void TouchRecorder::refreshed(double time) {
@@ -131,10 +124,7 @@ void TouchRecorder::note(double time, TraceEvent event) {
     }
 }
 
-// The workspace tells nobody when another application comes to the front, so the trace notes
-// it when it sees it, before the event that it may matter to.
-void TouchRecorder::noteFrontApplication(double time) {
-    TraceFrontApplication front{workspace_.frontmostProcessID(), workspace_.frontmostBundleID()};
+void TouchRecorder::noteFrontApplication(TraceFrontApplication front, double time) {
     if (!front.processID) {
         front.bundleID.clear();
     }

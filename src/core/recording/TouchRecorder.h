@@ -33,13 +33,14 @@ class TouchRecorder final : public ControllerObserver {
     bool isRecording() const { return trace_.isRecording(); }
 
     void frameReceived(std::span<const Finger> fingers, double time) override;
-    void actionPerformed(const ActionNote& note) override;
-    void actionDropped(const ActionDropNote& note) override;
     bool wantsMouseEvents() const override { return trace_.isRecording(); }
     void mouseEventDecided(const MouseEventNote& note) override;
     void switchChanged(const SwitchNote& note) override;
     void profileSelected(const ProfileNote& note) override;
     void activeChanged(const ActiveNote& note) override;
+    // The application in front is known from the system's announcements, never asked for per
+    // event, and written when it changes.
+    void frontApplicationChanged(const FrontApplicationNote& note) override;
     void refreshed(double time) override;
     void terminating(double time) override;
 
@@ -48,7 +49,7 @@ class TouchRecorder final : public ControllerObserver {
     void stop();
     void showMenuEntry();
     void note(double time, TraceEvent event);
-    void noteFrontApplication(double time);
+    void noteFrontApplication(TraceFrontApplication front, double time);
     void noteGestures(bool on, double time);
 
     TraceSink& sink_;
@@ -59,6 +60,8 @@ class TouchRecorder final : public ControllerObserver {
     ProfileSwitcher& profiles_;
     TraceRecorder trace_;
     std::string path_;
+    // The application in front as last announced, whether recording or not.
+    std::optional<TraceFrontApplication> announcedFront_;
     // What was last written, so that an unchanged state is not written again.
     std::optional<TraceFrontApplication> front_;
     std::optional<bool> gestures_;

@@ -46,7 +46,10 @@ class FakeWorkspace final : public Workspace {
         log_.add("workspace.observeWake");
         wake = std::move(handler);
     }
-    std::string frontmostBundleID() const override { return frontmostBundle; }
+    std::string frontmostBundleID() const override {
+        ++bundleQueries;
+        return frontmostBundle;
+    }
     void observeFrontmostApplication(
         std::function<void(std::optional<std::int32_t>, std::string)> handler) override {
         log_.add("workspace.observeFrontmostApplication");
@@ -67,6 +70,8 @@ class FakeWorkspace final : public Workspace {
 
     std::optional<std::int32_t> frontmost = 42;
     std::string frontmostBundle = "com.example.Editor";
+    // How often the frontmost application's bundle identifier was asked for.
+    mutable int bundleQueries = 0;
     bool active = false;
     std::int32_t own = 7;
     std::vector<std::int32_t> instances{7};  // this process alone
