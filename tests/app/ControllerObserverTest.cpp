@@ -180,6 +180,31 @@ TEST_F(ControllerObserverTest, WhatTheTapDecidedIsToldOnlyAfterItsCallbackReturn
                            }));
 }
 
+// Events that come before the main queue runs again join the one task already posted: the
+// notes and the released click's action come from it, in the order they happened.
+TEST_F(ControllerObserverTest, EventsBeforeTheQueueRunsShareOneTask) {
+    notes.mouseEvents = true;
+    h.assign(2, action::copy);
+    h.rest(3);
+    h.queue.runReady();
+    notes.lines.clear();
+    const std::size_t before = h.queue.pending();
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    FakeTapEvent drag = h.mouseEvent(event::leftMouseDragged);
+    FakeTapEvent up = h.mouseEvent(event::leftMouseUp);
+    h.send(down);
+    h.send(drag);
+    h.send(up);
+    EXPECT_EQ(h.queue.pending(), before + 1);
+    EXPECT_TRUE(notes.lines.empty());
+    EXPECT_TRUE(h.poster.keyEvents().empty());
+
+    h.queue.runReady();
+    ASSERT_EQ(notes.lines.size(), 5U);
+    EXPECT_EQ(notes.lines.back(), "action " + std::to_string(action::copy) + " by 1 of 3");
+    EXPECT_EQ(h.poster.keyEvents().size(), 2U);
+}
+
 TEST_F(ControllerObserverTest, SwallowedEventsAreToldAndOwnEventsAreNot) {
     notes.mouseEvents = true;
     h.assign(2, action::copy);

@@ -295,6 +295,8 @@ class Controller final : public StatusDisplay,
     // Presses swallowed at release whose action waits for the tap's callback to return; its
     // capacity is reserved, so that a release allocates nothing of its own.
     std::vector<Press> released_;
+    // Whether the task that tells the kept notes and performs released_ is on the main queue.
+    bool handOffPosted_ = false;
 
     // What the parts beside the controller add to the status display.
     struct StatusExtras {

@@ -58,10 +58,13 @@ bool Controller::installTap() {
 EventDisposition Controller::handle(EventType type, TapEvent& event) {
     const EventDisposition disposition = noteAndDecide(type, event);
     // What the event caused beyond the answer (the observers' notes, the action of a swallowed
-    // release) runs from one main-queue task, once the tap has its answer.
-    if (observers_.hasKept() || !released_.empty()) {
+    // release) runs from one main-queue task, once the tap has its answer; events that come
+    // before that task runs join it.
+    if ((observers_.hasKept() || !released_.empty()) && !handOffPosted_) {
+        handOffPosted_ = true;
         services_.queue.async([weak = weak_from_this()] {
             if (const auto self = weak.lock()) {
+                self->handOffPosted_ = false;
                 self->observers_.tellKept();
                 self->performReleased();
             }
