@@ -37,7 +37,7 @@ class NoteTaker final : public ControllerObserver {
         lines.push_back("refused " + std::to_string(note.action) + " " +
                         std::to_string(static_cast<int>(note.reason)));
     }
-    bool wantsMouseEvents() const override { return mouseEvents; }
+    void wantMouseEvents(bool wanted) { setWantsMouseEvents(wanted); }
     void mouseEventDecided(const MouseEventNote& note) override {
         std::string line = "mouse " + std::to_string(note.type) + " " +
                            std::to_string(static_cast<int>(note.fate));
@@ -60,7 +60,6 @@ class NoteTaker final : public ControllerObserver {
         lines.push_back(std::string("active ") + (note.active ? "yes" : "no"));
     }
 
-    bool mouseEvents = false;
     std::vector<std::string> lines;
 };
 
@@ -183,7 +182,7 @@ TEST_F(ControllerObserverTest, WhatTheTapDecidedIsToldOnlyAfterItsCallbackReturn
 // Events that come before the main queue runs again join the one task already posted: the
 // notes and the released click's action come from it, in the order they happened.
 TEST_F(ControllerObserverTest, EventsBeforeTheQueueRunsShareOneTask) {
-    notes.mouseEvents = true;
+    notes.wantMouseEvents(true);
     h.assign(2, action::copy);
     h.rest(3);
     h.queue.runReady();
@@ -206,7 +205,7 @@ TEST_F(ControllerObserverTest, EventsBeforeTheQueueRunsShareOneTask) {
 }
 
 TEST_F(ControllerObserverTest, SwallowedEventsAreToldAndOwnEventsAreNot) {
-    notes.mouseEvents = true;
+    notes.wantMouseEvents(true);
     h.assign(2, action::copy);
     h.rest(3);
     notes.lines.clear();
@@ -224,7 +223,7 @@ TEST_F(ControllerObserverTest, SwallowedEventsAreToldAndOwnEventsAreNot) {
 }
 
 TEST_F(ControllerObserverTest, RewrittenAndPassedEventsAreToldInOrder) {
-    notes.mouseEvents = true;
+    notes.wantMouseEvents(true);
     h.assign(1, action::right);
     h.rest(2);
     notes.lines.clear();
@@ -256,6 +255,38 @@ TEST_F(ControllerObserverTest, PassedEventsPostNothingWhileNobodyWantsThem) {
 
     EXPECT_EQ(h.queue.pending(), pending);
     EXPECT_TRUE(notes.lines.empty());
+}
+
+// Whether anybody wants mouse events is counted as the observers say so, whenever they say it:
+// before being added, while listed, and when removed while still wanting them.
+TEST_F(ControllerObserverTest, MouseEventsAreToldExactlyWhileSomeListedObserverWantsThem) {
+    NoteTaker early;
+    early.wantMouseEvents(true);
+    h.c().addObserver(early);
+    FakeTapEvent first(event::leftMouseDown, 0, otherSender);
+    h.send(first);
+    h.queue.runReady();
+    EXPECT_EQ(early.lines.size(), 1U);
+    EXPECT_EQ(notes.lines.size(), 1U);
+
+    notes.wantMouseEvents(true);
+    early.wantMouseEvents(false);
+    FakeTapEvent second(event::leftMouseDown, 0, otherSender);
+    h.send(second);
+    h.queue.runReady();
+    EXPECT_EQ(notes.lines.size(), 2U);
+
+    h.c().removeObserver(early);
+    h.c().removeObserver(notes);
+    notes.wantMouseEvents(false);
+    notes.wantMouseEvents(true);
+    h.c().addObserver(notes);
+    h.c().removeObserver(notes);
+    const std::size_t pending = h.queue.pending();
+    FakeTapEvent third(event::leftMouseDown, 0, otherSender);
+    h.send(third);
+    EXPECT_EQ(h.queue.pending(), pending);
+    h.c().addObserver(notes);
 }
 
 TEST_F(ControllerObserverTest, PressesLetGoOfAndStateChangesAreTold) {

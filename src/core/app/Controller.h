@@ -245,8 +245,9 @@ class Controller final : public StatusDisplay,
 
     void tapDisabled();
     bool isFromMouse(const TapEvent& event);
-    // handle() but for the hand-off: decides with the observers' notes kept for later.
-    EventDisposition noteAndDecide(EventType type, TapEvent& event);
+    // decide(), filling in `note` with what it decided.
+    EventDisposition decideNoted(EventType type, TapEvent& event, MouseEventNote& note);
+    // The tap's decision proper, for an event of the mouse while gestures can run.
     EventDisposition decide(EventType type, TapEvent& event);
     // Why the guard refuses `context` now; nothing when it may run.
     std::optional<DropReason> guardRefusal(const GestureDispatchContext& context);

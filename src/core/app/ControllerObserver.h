@@ -11,7 +11,8 @@ namespace tactora {
 // every call comes on the main thread, after the decision it tells of. What the event tap
 // decided is told from the main queue once the tap's callback has returned, so an observer can
 // never delay the tap's answer; everything else is told from inside the controller's own
-// operation. An observer must not add or remove observers from inside a call.
+// operation. An observer must not add or remove observers from inside a call, and is in one
+// observer list at a time.
 class ControllerObserver {
   public:
     virtual ~ControllerObserver() = default;
@@ -28,9 +29,10 @@ class ControllerObserver {
     // A scheduled action's guard refused it.
     virtual void actionDropped(const ActionDropNote& /*note*/) {}
 
-    // Whether mouseEventDecided() is wanted now. Asked on every event of the tap, so it must be
-    // cheap; while no observer wants them, the tap's pass path does no work for observers.
-    virtual bool wantsMouseEvents() const { return false; }
+    // Whether mouseEventDecided() is wanted now. Read on every event of the tap, so it is a flag
+    // the observer sets rather than a question asked: while no observer wants them, the tap's
+    // pass path does no work for observers.
+    bool wantsMouseEvents() const { return wantsMouseEvents_; }
     virtual void mouseEventDecided(const MouseEventNote& /*note*/) {}
 
     // Held presses were let go of because something changed.
@@ -64,10 +66,30 @@ class ControllerObserver {
 
   protected:
     ControllerObserver() = default;
-    ControllerObserver(const ControllerObserver&) = default;
-    ControllerObserver(ControllerObserver&&) = default;
-    ControllerObserver& operator=(const ControllerObserver&) = default;
-    ControllerObserver& operator=(ControllerObserver&&) = default;
+    // Not copied: a copy would not be in the list the original is in.
+    ControllerObserver(const ControllerObserver&) = delete;
+    ControllerObserver(ControllerObserver&&) = delete;
+    ControllerObserver& operator=(const ControllerObserver&) = delete;
+    ControllerObserver& operator=(ControllerObserver&&) = delete;
+
+    // Says whether mouseEventDecided() is wanted from now on.
+    void setWantsMouseEvents(bool wanted) {
+        if (wanted == wantsMouseEvents_) {
+            return;
+        }
+        wantsMouseEvents_ = wanted;
+        if (wanters_ != nullptr) {
+            *wanters_ += wanted ? 1 : -1;
+        }
+    }
+
+  private:
+    friend class ObserverList;
+
+    bool wantsMouseEvents_ = false;
+    // The count of observers wanting mouse events that the list this one is in keeps, so that
+    // the tap reads one number instead of asking every observer.
+    int* wanters_ = nullptr;
 };
 
 }  // namespace tactora

@@ -56,7 +56,20 @@ bool Controller::installTap() {
 }
 
 EventDisposition Controller::handle(EventType type, TapEvent& event) {
-    const EventDisposition disposition = noteAndDecide(type, event);
+    EventDisposition disposition = EventDisposition::pass;
+    {
+        // The observers hear of this event once the tap has its answer.
+        const ObserverList::Deferral deferral(observers_);
+        if (type == event::tapDisabledByTimeout || type == event::tapDisabledByUserInput) {
+            tapDisabled();
+        } else if (event.integerField(event::sourceUserData) != marker) {
+            if (MouseEventNote* note = observers_.deferMouseEvent()) {
+                disposition = decideNoted(type, event, *note);
+            } else if (canRunGestures() && isFromMouse(event)) {
+                disposition = decide(type, event);
+            }
+        }
+    }
     // What the event caused beyond the answer (the observers' notes, the action of a swallowed
     // release) runs from one main-queue task, once the tap has its answer; events that come
     // before that task runs join it.
@@ -73,41 +86,28 @@ EventDisposition Controller::handle(EventType type, TapEvent& event) {
     return disposition;
 }
 
-EventDisposition Controller::noteAndDecide(EventType type, TapEvent& event) {
-    const ObserverList::Deferral deferral(observers_);
-    if (type == event::tapDisabledByTimeout || type == event::tapDisabledByUserInput) {
-        tapDisabled();
+EventDisposition Controller::decideNoted(EventType type, TapEvent& event, MouseEventNote& note) {
+    note = {.type = type,
+            .button = event.integerField(event::buttonNumber),
+            .fromMouse = isFromMouse(event),
+            .fate = MouseEventFate::passed,
+            .rewrittenTo = MouseButton::left,
+            .time = services_.clock.uptime()};
+    if (!canRunGestures() || !note.fromMouse) {
         return EventDisposition::pass;
     }
-    if (event.integerField(event::sourceUserData) == marker) {
-        return EventDisposition::pass;
-    }
-    MouseEventNote* note = observers_.deferMouseEvent();
-    if (note == nullptr) {
-        return decide(type, event);
-    }
-    *note = {.type = type,
-             .button = event.integerField(event::buttonNumber),
-             .fromMouse = isFromMouse(event),
-             .fate = MouseEventFate::passed,
-             .rewrittenTo = MouseButton::left,
-             .time = services_.clock.uptime()};
     WatchedEvent watched(event);
     const EventDisposition disposition = decide(type, watched);
     if (disposition == EventDisposition::swallow) {
-        note->fate = MouseEventFate::swallowed;
+        note.fate = MouseEventFate::swallowed;
     } else if (const std::optional<std::int64_t> button = watched.rewrittenButton()) {
-        note->fate = MouseEventFate::rewritten;
-        note->rewrittenTo = static_cast<MouseButton>(*button);
+        note.fate = MouseEventFate::rewritten;
+        note.rewrittenTo = static_cast<MouseButton>(*button);
     }
     return disposition;
 }
 
-// The tap's decision proper, for an event that is not the program's own.
 EventDisposition Controller::decide(EventType type, TapEvent& event) {
-    if (!canRunGestures() || !isFromMouse(event)) {
-        return EventDisposition::pass;
-    }
     const double now = services_.clock.uptime();
     if (type == event::scrollWheel) {
         state_.gesture.moved = true;

@@ -5,24 +5,36 @@
 
 namespace tactora {
 
+ObserverList::~ObserverList() {
+    for (ControllerObserver* observer : observers_) {
+        if (observer->wanters_ == &mouseEventWanters_) {
+            observer->wanters_ = nullptr;
+        }
+    }
+}
+
 void ObserverList::add(ControllerObserver& observer) {
+    if (observer.wanters_ == nullptr) {
+        observer.wanters_ = &mouseEventWanters_;
+        mouseEventWanters_ += observer.wantsMouseEvents_ ? 1 : 0;
+    }
     observers_.push_back(&observer);
 }
 
 void ObserverList::remove(ControllerObserver& observer) {
     const auto found = std::ranges::find(observers_, &observer);
-    if (found != observers_.end()) {
-        observers_.erase(found);
+    if (found == observers_.end()) {
+        return;
+    }
+    observers_.erase(found);
+    if (std::ranges::find(observers_, &observer) == observers_.end() &&
+        observer.wanters_ == &mouseEventWanters_) {
+        mouseEventWanters_ -= observer.wantsMouseEvents_ ? 1 : 0;
+        observer.wanters_ = nullptr;
     }
 }
 
-MouseEventNote* ObserverList::deferMouseEvent() {
-    const bool wanted = std::ranges::any_of(observers_, [](const ControllerObserver* observer) {
-        return observer->wantsMouseEvents();
-    });
-    if (!wanted || deferring_ == 0) {
-        return nullptr;
-    }
+MouseEventNote* ObserverList::keepMouseEvent() {
     Note* slot = nextSlot();
     return slot == nullptr ? nullptr : &slot->emplace<MouseEventNote>();
 }

@@ -27,10 +27,11 @@ class ObserverList {
     ObserverList& operator=(const ObserverList&) = delete;
     ObserverList(ObserverList&&) = delete;
     ObserverList& operator=(ObserverList&&) = delete;
-    ~ObserverList() = default;
+    ~ObserverList();
 
     // `observer` must stay alive until it is removed or the list is gone. Adding one twice
-    // tells it twice; removing one that is not listed does nothing.
+    // tells it twice (and removing it once leaves it listed once); removing one that is not
+    // listed does nothing.
     void add(ControllerObserver& observer);
     void remove(ControllerObserver& observer);
 
@@ -50,7 +51,9 @@ class ObserverList {
 
     // A slot, kept for later, for the mouse event being decided; the caller fills it in before
     // its deferral ends. Null when no observer wants mouse events (or the storage is full).
-    MouseEventNote* deferMouseEvent();
+    MouseEventNote* deferMouseEvent() {
+        return mouseEventWanters_ == 0 || deferring_ == 0 ? nullptr : keepMouseEvent();
+    }
     // Whether notes are kept for tellKept().
     bool hasKept() const { return keptCount_ > 0; }
     // Tells what was kept, in the order kept; what an observer causes meanwhile is told at once,
@@ -93,11 +96,14 @@ class ObserverList {
     // Keeps `note` when deferring and returns true; false when it is to be told now.
     bool keep(const Note& note);
     Note* nextSlot();
+    MouseEventNote* keepMouseEvent();
 
     std::vector<ControllerObserver*> observers_;
     int deferring_ = 0;
     std::array<Note, deferredCapacity> kept_;
     std::size_t keptCount_ = 0;
+    // How many listed observers want mouse events now; the observers keep it up to date.
+    int mouseEventWanters_ = 0;
 };
 
 }  // namespace tactora

@@ -61,7 +61,7 @@ Uuid FrontmostProfiles::frontmostProfile() {
 void FrontmostProfiles::followFrontmost() {
     // A press held now was rewritten under the active profile: it keeps that profile until its
     // up has been sent, at the physical release.
-    followPending_ = switcher_.pressesHeld();
+    setFollowPending(switcher_.pressesHeld());
     if (followPending_) {
         return;
     }
@@ -80,7 +80,13 @@ void FrontmostProfiles::pressesReleased(const PressesReleasedNote& /*note*/) {
 }
 
 void FrontmostProfiles::profileSelected(const ProfileNote& /*note*/) {
-    followPending_ = false;
+    setFollowPending(false);
+}
+
+// While a switch waits, the tap's notes tell when the held press has ended.
+void FrontmostProfiles::setFollowPending(bool pending) {
+    followPending_ = pending;
+    setWantsMouseEvents(pending);
 }
 
 // From the main queue, so that a profile chosen in the same breath as the presses were let go

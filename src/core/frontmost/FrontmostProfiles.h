@@ -44,7 +44,6 @@ class FrontmostProfiles final : public ControllerObserver,
     void launched(double time) override;
     // A switch that waited for a held press happens once the last one has ended; any profile
     // selected meanwhile replaces it.
-    bool wantsMouseEvents() const override { return followPending_; }
     void mouseEventDecided(const MouseEventNote& note) override;
     void pressesReleased(const PressesReleasedNote& note) override;
     void profileSelected(const ProfileNote& note) override;
@@ -77,6 +76,7 @@ class FrontmostProfiles final : public ControllerObserver,
     void closeApplications();
 
   private:
+    void setFollowPending(bool pending);
     ApplicationsSheet applicationsSheet();
     std::string applicationName(const std::string& bundleID) const;
     void resumeWhenPressesEnd();

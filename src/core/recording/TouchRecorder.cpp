@@ -36,6 +36,7 @@ void TouchRecorder::start() {
     path_ = *started.path;
     const double now = clock_.uptime();
     trace_.start(sink_, now);
+    setWantsMouseEvents(true);
     // The state a replay must start from, so that it decides as this program does.
     front_.reset();
     gestures_.reset();
@@ -54,6 +55,7 @@ void TouchRecorder::start() {
 }
 
 void TouchRecorder::stop() {
+    setWantsMouseEvents(false);
     if (!trace_.isRecording()) {
         return;
     }

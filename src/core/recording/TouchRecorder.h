@@ -33,7 +33,6 @@ class TouchRecorder final : public ControllerObserver {
     bool isRecording() const { return trace_.isRecording(); }
 
     void frameReceived(std::span<const Finger> fingers, double time) override;
-    bool wantsMouseEvents() const override { return trace_.isRecording(); }
     void mouseEventDecided(const MouseEventNote& note) override;
     void switchChanged(const SwitchNote& note) override;
     void profileSelected(const ProfileNote& note) override;
