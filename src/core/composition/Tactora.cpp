@@ -2,13 +2,40 @@
 
 #include <utility>
 
+#include "core/app/Globals.h"
+
 namespace tactora {
 
 static_assert(TouchSurface::contactLifetime == Controller::liveContact,
               "The live view and the live line count fingers over the same time");
 
+namespace {
+
+// `services` with the further actions made on them and `platform`.
+ControllerServices withExtraActions(ControllerServices services, ExtraActionPlatform platform) {
+    services.extraActions = std::make_shared<ExtraActions>(
+        ExtraActionServices{
+            .poster = services.poster,
+            .systemEvents = platform.systemEvents,
+            .opener = platform.opener,
+            .processes = platform.processes,
+            .picker = platform.picker,
+            .dialogs = services.dialogs,
+            .view = services.view,
+            .clock = services.clock,
+        },
+        marker);
+    return services;
+}
+
+}  // namespace
+
+Tactora::Tactora(ControllerServices services, ExtraActionPlatform platform)
+    : Tactora(withExtraActions(std::move(services), platform)) {}
+
 Tactora::Tactora(ControllerServices services)
-    : controller_(Controller::create(services)),
+    : extras_(std::dynamic_pointer_cast<ExtraActions>(services.extraActions)),
+      controller_(Controller::create(services)),
       keeper_(GestureKeeper::create({.clock = services.clock,
                                      .queue = services.queue,
                                      .view = services.view,
@@ -38,6 +65,14 @@ Tactora::Tactora(ControllerServices services)
     controller_->addObserver(*liveView_);
     controller_->setProfileTitleSource(frontmost_.get());
     controller_->addObserver(*feedback_);
+    if (extras_) {
+        // A list of Shortcuts that arrives later may change what the gesture rows show.
+        extras_->setRowsChanged([weak = std::weak_ptr<Controller>(controller_)] {
+            if (const auto controller = weak.lock()) {
+                controller->refreshProfileUI();
+            }
+        });
+    }
 }
 
 Tactora::~Tactora() {
