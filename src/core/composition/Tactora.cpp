@@ -11,9 +11,9 @@ static_assert(TouchSurface::contactLifetime == Controller::liveContact,
 
 namespace {
 
-// `services` with the further actions made on them and `platform`.
-ControllerServices withExtraActions(ControllerServices services, ExtraActionPlatform platform) {
-    services.extraActions = std::make_shared<ExtraActions>(
+std::shared_ptr<ExtraActions> makeExtraActions(const ControllerServices& services,
+                                               ExtraActionPlatform platform) {
+    return std::make_shared<ExtraActions>(
         ExtraActionServices{
             .poster = services.poster,
             .systemEvents = platform.systemEvents,
@@ -25,17 +25,27 @@ ControllerServices withExtraActions(ControllerServices services, ExtraActionPlat
             .clock = services.clock,
         },
         marker);
+}
+
+// `services`, handing the further actions to `extras` when there are any.
+ControllerServices withExtraActions(ControllerServices services,
+                                    const std::shared_ptr<ExtraActions>& extras) {
+    if (extras) {
+        services.extraActions = extras;
+    }
     return services;
 }
 
 }  // namespace
 
-Tactora::Tactora(ControllerServices services, ExtraActionPlatform platform)
-    : Tactora(withExtraActions(std::move(services), platform)) {}
+Tactora::Tactora(ControllerServices services) : Tactora(std::move(services), nullptr) {}
 
-Tactora::Tactora(ControllerServices services)
-    : extras_(std::dynamic_pointer_cast<ExtraActions>(services.extraActions)),
-      controller_(Controller::create(services)),
+Tactora::Tactora(ControllerServices services, ExtraActionPlatform platform)
+    : Tactora(services, makeExtraActions(services, platform)) {}
+
+Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras)
+    : extras_(std::move(extras)),
+      controller_(Controller::create(withExtraActions(services, extras_))),
       keeper_(GestureKeeper::create({.clock = services.clock,
                                      .queue = services.queue,
                                      .view = services.view,

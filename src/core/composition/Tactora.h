@@ -53,6 +53,8 @@ class Tactora {
     ExtraActions* extraActions() { return extras_.get(); }
 
   private:
+    Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras);
+
     std::shared_ptr<ExtraActions> extras_;
     std::shared_ptr<Controller> controller_;
     std::shared_ptr<GestureKeeper> keeper_;
