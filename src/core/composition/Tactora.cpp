@@ -40,7 +40,7 @@ ControllerServices withExtraActions(ControllerServices services,
 
 Tactora::Tactora(ControllerServices services) : Tactora(std::move(services), nullptr) {}
 
-Tactora::Tactora(ControllerServices services, ExtraActionPlatform platform)
+Tactora::Tactora(const ControllerServices& services, ExtraActionPlatform platform)
     : Tactora(services, makeExtraActions(services, platform)) {}
 
 Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras)

@@ -34,7 +34,7 @@ class Tactora {
     // Without the further actions: a gesture mapped to one does nothing.
     explicit Tactora(ControllerServices services);
     // With the further actions, carried out through `platform`.
-    Tactora(ControllerServices services, ExtraActionPlatform platform);
+    Tactora(const ControllerServices& services, ExtraActionPlatform platform);
     Tactora(const Tactora&) = delete;
     Tactora& operator=(const Tactora&) = delete;
     Tactora(Tactora&&) = delete;

@@ -22,10 +22,10 @@ std::string seconds(double time) {
     return trace::formatFixed(time, 3);
 }
 
-// An action by its stored name: the fifteen's, or a further action's key in a profile.
+// An action by the key of its name, like the fifteen.
 std::string actionKey(ActionIndex action) {
     if (const std::optional<ExtraAction> extra = action::extra(action)) {
-        return std::string(catalogue::info(*extra).storedKey);
+        return std::string(catalogue::info(*extra).textKey);
     }
     if (action < 0 || static_cast<std::size_t>(action) >= actionKeys.size()) {
         return std::to_string(action);
