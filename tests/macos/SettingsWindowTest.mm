@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "core/actions/ExtraAction.h"
 #include "core/actions/ExtraActionMenu.h"
 #include "core/app/Globals.h"
 #include "core/app/SettingsWindowTexts.h"
