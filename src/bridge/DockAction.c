@@ -28,18 +28,46 @@ static const void* notificationName(int32_t desktop) {
 #endif
 }
 
-int32_t TADesktopAction(int32_t desktop) {
-    /* Failures are not remembered: a later call looks again. */
+/* The Dock call, loaded on first use; NULL when it is not available. Failures are not
+   remembered: a later call looks again. */
+static TADockSend loadDockSend(void) {
     if (dockLibrary == NULL) {
         dockLibrary = TAOpenLibrary(dockPath);
     }
     if (dockSend == NULL && dockLibrary != NULL) {
         dockSend = (TADockSend)TALookUpFunction(dockLibrary, "CoreDockSendNotification");
     }
-    if (dockSend == NULL) {
+    return dockSend;
+}
+
+int32_t TADesktopAction(int32_t desktop) {
+    const TADockSend send = loadDockSend();
+    if (send == NULL) {
         return -1;
     }
-    return dockSend(notificationName(desktop), 0);
+    return send(notificationName(desktop), 0);
+}
+
+int32_t TADockNotification(const char* name) {
+    if (name == NULL) {
+        return -1;
+    }
+    const TADockSend send = loadDockSend();
+    if (send == NULL) {
+        return -1;
+    }
+#ifdef __APPLE__
+    CFStringRef notification =
+        CFStringCreateWithCString(kCFAllocatorDefault, name, kCFStringEncodingUTF8);
+    if (notification == NULL) {
+        return -1;
+    }
+    const int32_t status = send(notification, 0);
+    CFRelease(notification);
+    return status;
+#else
+    return send(name, 0);
+#endif
 }
 
 void TASetDockLibraryPath(const char* path) {

@@ -8,9 +8,9 @@
  * multitouch device that is a mouse and hands each frame's touching contacts to one client
  * callback. Its state is process-wide; there is one connection and one client at a time.
  *
- * Threads: TAStart, TAStop, TAStatus, TAStatusError, TAConnectedDevice, TAIsMouseSender and
- * TADesktopAction are called on the main thread. The client callback runs on the framework's
- * own thread.
+ * Threads: TAStart, TAStop, TAStatus, TAStatusError, TAConnectedDevice, TAIsMouseSender,
+ * TADesktopAction and TADockNotification are called on the main thread. The client callback
+ * runs on the framework's own thread.
  */
 
 #include <stdbool.h>
@@ -65,6 +65,12 @@ bool TAIsMouseSender(uint64_t senderID);
  * library or symbol is looked up again on the next call.
  */
 int32_t TADesktopAction(int32_t desktop);
+
+/*
+ * Sends the Dock the notification with this name (such as App Exposé's
+ * "com.apple.expose.front.awake"); the same outcome as TADesktopAction, and -1 for a null name.
+ */
+int32_t TADockNotification(const char* name);
 
 #ifdef __cplusplus
 }

@@ -101,7 +101,8 @@ void AppKitSettingsView::showApplications(const ApplicationsSheet& sheet) {
 
 void AppKitSettingsView::selectAction(std::size_t slot, std::int64_t action) {
     if (slot < controls_.actionMenus.count) {
-        [controls_.actionMenus[slot] selectItemAtIndex:static_cast<NSInteger>(action)];
+        // Items carry their action as their tag; separators make indices differ from it.
+        [controls_.actionMenus[slot] selectItemWithTag:static_cast<NSInteger>(action)];
     }
 }
 
@@ -109,7 +110,8 @@ std::int64_t AppKitSettingsView::selectedAction(std::size_t slot) const {
     if (slot >= controls_.actionMenus.count) {
         return -1;
     }
-    return controls_.actionMenus[slot].indexOfSelectedItem;
+    NSMenuItem* selected = controls_.actionMenus[slot].selectedItem;
+    return selected != nil ? selected.tag : -1;
 }
 
 void AppKitSettingsView::setRecordButton(std::size_t slot, const RecordButtonState& state) {

@@ -43,6 +43,9 @@ void CGEventPoster::post(const MouseButtonEvent& event) {
     }
     CGEventSetIntegerValueField(mouse.get(), kCGEventSourceUserData, event.userData);
     CGEventSetIntegerValueField(mouse.get(), kCGMouseEventClickState, event.clickState);
+    if (event.flags != 0) {
+        CGEventSetFlags(mouse.get(), static_cast<CGEventFlags>(event.flags));
+    }
     CGEventPost(kCGHIDEventTap, mouse.get());
 }
 

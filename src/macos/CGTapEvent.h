@@ -16,6 +16,7 @@ class CGTapEvent final : public TapEvent {
     std::int64_t integerField(EventField field) const override;
     void setIntegerField(EventField field, std::int64_t value) override;
     void setType(EventType type) override;
+    void setFlags(std::uint64_t flags) override;
 
   private:
     CGEventRef event_;

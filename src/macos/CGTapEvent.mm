@@ -28,4 +28,8 @@ void CGTapEvent::setType(EventType type) {
     CGEventSetType(event_, static_cast<CGEventType>(type));
 }
 
+void CGTapEvent::setFlags(std::uint64_t flags) {
+    CGEventSetFlags(event_, static_cast<CGEventFlags>(flags));
+}
+
 }  // namespace tactora::macos

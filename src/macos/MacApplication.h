@@ -12,18 +12,22 @@
 #include "macos/AppKitSurfaceView.h"
 #include "macos/AppKitWorkspace.h"
 #include "macos/CGEventPoster.h"
+#include "macos/CGSystemEventPoster.h"
 #include "macos/DispatchMainQueue.h"
 #include "macos/FileTraceSink.h"
 #include "macos/IOKitDeviceWatcher.h"
 #include "macos/MachPortEventTap.h"
+#include "macos/PanelActionValuePicker.h"
 #include "macos/ServiceManagementLoginItem.h"
 #include "macos/SystemPermissions.h"
 #include "macos/SystemProcessActivity.h"
 #include "macos/SystemSecureInput.h"
 #import "macos/TAApplicationDelegate.h"
 #import "macos/TASettingsControls.h"
+#include "macos/TaskProcessLauncher.h"
 #include "macos/TccutilResetTool.h"
 #include "macos/UptimeClock.h"
+#include "macos/WorkspaceOpener.h"
 
 namespace tactora::macos {
 
@@ -66,6 +70,10 @@ class MacApplication {
     AppKitSettingsView view_;
     AppKitShell shell_;
     AppKitSurfaceView surface_;
+    CGSystemEventPoster systemEvents_;
+    WorkspaceOpener opener_;
+    TaskProcessLauncher processes_;
+    PanelActionValuePicker picker_;
     std::unique_ptr<Tactora> program_;
 };
 

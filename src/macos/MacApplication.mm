@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/app/ApplicationController.h"
+#include "core/app/Globals.h"
 #include "core/app/SettingsWindowTexts.h"
 #include "macos/EventTapCallback.h"
 #include "macos/StringConversion.h"
@@ -22,27 +23,34 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
       view_(controls_),
       shell_(controls_, delegate_),
       surface_(controls_),
-      program_(std::make_unique<Tactora>(ControllerServices{
-          .clock = clock_,
-          .queue = queue_,
-          .workspace = workspace_,
-          .permissions = permissions_,
-          .poster = poster_,
-          .tap = tap_,
-          .sensor = sensor,
-          .shell = shell_,
-          .view = view_,
-          .dialogs = dialogs_,
-          .traceSink = traceSink_,
-          .defaults = std::move(defaults),
-          .surface = surface_,
-          .files = files_,
-          .devices = devices_,
-          .loginItem = loginItem_,
-          .activity = activity_,
-          .secureInput = secureInput_,
-          .resetTool = resetTool_,
-      })) {
+      program_(std::make_unique<Tactora>(
+          ControllerServices{
+              .clock = clock_,
+              .queue = queue_,
+              .workspace = workspace_,
+              .permissions = permissions_,
+              .poster = poster_,
+              .tap = tap_,
+              .sensor = sensor,
+              .shell = shell_,
+              .view = view_,
+              .dialogs = dialogs_,
+              .traceSink = traceSink_,
+              .defaults = std::move(defaults),
+              .surface = surface_,
+              .files = files_,
+              .devices = devices_,
+              .loginItem = loginItem_,
+              .activity = activity_,
+              .secureInput = secureInput_,
+              .resetTool = resetTool_,
+          },
+          ExtraActionPlatform{
+              .systemEvents = systemEvents_,
+              .opener = opener_,
+              .processes = processes_,
+              .picker = picker_,
+          })) {
     [delegate_ attachProgram:program_.get()];
 }
 

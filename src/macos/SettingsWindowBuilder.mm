@@ -264,11 +264,7 @@ void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsW
     fixWidth(fingers, fingerWidth);
     const auto slot = static_cast<NSInteger>(row.slot);
     NSStackView* rowView = makeRow(
-        @[
-            fingers, makeActionMenu(slot, texts.actionNames),
-            makeRecordButton(slot, texts.recordButton)
-        ],
-        18);
+        @[ fingers, makeActionMenu(slot, texts), makeRecordButton(slot, texts.recordButton) ], 18);
     add(rowView);
 }
 
@@ -295,13 +291,19 @@ void SettingsWindowBuilder::addLiveArea(const SettingsWindowTexts& texts) {
 }
 
 NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,
-                                                     const std::vector<std::string>& names) {
+                                                     const SettingsWindowTexts& texts) {
     NSPopUpButton* menu = [[NSPopUpButton alloc] initWithFrame:NSZeroRect pullsDown:NO];
-    // Items go straight into the menu so that an item's index is always its action's index.
-    for (const std::string& name : names) {
-        [menu.menu addItem:[[NSMenuItem alloc] initWithTitle:toNSString(name)
-                                                      action:nil
-                                               keyEquivalent:@""]];
+    // Items go straight into the menu, each tagged with its action: the fifteen first, in
+    // catalogue order, then each group of extra actions after a separator.
+    NSInteger action = 0;
+    for (const std::string& name : texts.actionNames) {
+        [menu.menu addItem:makeActionItem(name, action++)];
+    }
+    for (const std::vector<ActionMenuEntry>& group : texts.extraActionGroups) {
+        [menu.menu addItem:[NSMenuItem separatorItem]];
+        for (const ActionMenuEntry& entry : group) {
+            [menu.menu addItem:makeActionItem(entry.title, static_cast<NSInteger>(entry.action))];
+        }
     }
     menu.tag = slot;
     menu.target = target_;
@@ -309,6 +311,14 @@ NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,
     fixWidth(menu, 320);
     [controls_.actionMenus addObject:menu];
     return menu;
+}
+
+NSMenuItem* SettingsWindowBuilder::makeActionItem(const std::string& title, NSInteger action) {
+    NSMenuItem* item = [[NSMenuItem alloc] initWithTitle:toNSString(title)
+                                                  action:nil
+                                           keyEquivalent:@""];
+    item.tag = action;
+    return item;
 }
 
 NSButton* SettingsWindowBuilder::makeRecordButton(NSInteger slot, const std::string& title) {

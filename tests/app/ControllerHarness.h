@@ -95,9 +95,9 @@ class ControllerHarness {
     // Everything the controller reaches the platform through, for a second controller on the
     // same fakes.
     ControllerServices services() {
-        return {clock,   queue,     workspace, permissions, poster,   eventTap, sensor,
-                shell,   view,      dialogs,   traceSink,   defaults, surface,  files,
-                devices, loginItem, activity,  secureInput, resetTool};
+        return {clock,   queue,     workspace, permissions, poster,    eventTap, sensor,
+                shell,   view,      dialogs,   traceSink,   defaults,  surface,  files,
+                devices, loginItem, activity,  secureInput, resetTool, nullptr};
     }
 
     // Launches, then ticks the master switch as the user would.

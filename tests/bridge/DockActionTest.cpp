@@ -79,5 +79,23 @@ TEST_F(DockAction, ReturnsTheDockStatus) {
     EXPECT_EQ(dockState(dock).calls, 2);
 }
 
+TEST_F(DockAction, SendsANamedNotificationAsGiven) {
+    TASetDockLibraryPath(kFakeDockPath);
+    LoadedLibrary dock(kFakeDockPath);
+    dockState(dock) = FakeDockState{};
+    dockState(dock).result = 7;
+
+    EXPECT_EQ(TADockNotification("com.apple.launchpad.toggle"), 7);
+    EXPECT_STREQ(dockState(dock).lastNotification, "com.apple.launchpad.toggle");
+    EXPECT_EQ(dockState(dock).lastFlags, 0);
+    EXPECT_EQ(dockState(dock).calls, 1);
+}
+
+TEST_F(DockAction, ANamedNotificationWithoutTheDockCallOrANameIsMinusOne) {
+    EXPECT_EQ(TADockNotification("com.apple.expose.front.awake"), -1);
+    TASetDockLibraryPath(kFakeDockPath);
+    EXPECT_EQ(TADockNotification(nullptr), -1);
+}
+
 }  // namespace
 }  // namespace tactora::testing

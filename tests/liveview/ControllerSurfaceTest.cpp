@@ -125,6 +125,16 @@ TEST_F(ControllerSurfaceTest, ARecordedShortcutIsNamedByItsKeys) {
     EXPECT_EQ(shown().actionText, "⌘C");
 }
 
+TEST_F(ControllerSurfaceTest, AFurtherActionIsNamedByItsOwnName) {
+    // The test's table has no text for it, so its key shows.
+    h.c().profiles().setExtra({ExtraAction::spotlight, ""}, 4);
+    showWindow();
+    h.tap(1);
+    h.queue.advance(Controller::tapDelay);
+
+    EXPECT_EQ(shown().actionText, "action.spotlight");
+}
+
 TEST_F(ControllerSurfaceTest, ARewrittenClickIsHighlightedWithItsActionAtOnce) {
     h.assign(1, action::right);
     showWindow();

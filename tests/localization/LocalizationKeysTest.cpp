@@ -68,12 +68,12 @@ TEST(LocalizationKeysTest, OnlyTheBlockedSensorShowsItsErrorCode) {
     }
 }
 
-TEST(LocalizationKeysTest, FortySixKeysTakeArgumentsAndTheRestNone) {
+TEST(LocalizationKeysTest, FiftySixKeysTakeArgumentsAndTheRestNone) {
     std::size_t withArguments = 0;
     for (const LocalizationKey& key : localizationKeys) {
         withArguments += key.arguments().empty() ? 0 : 1;
     }
-    EXPECT_EQ(withArguments, 46U);
+    EXPECT_EQ(withArguments, 56U);
 }
 
 TEST(LocalizationKeysTest, ARecordingThatCantStartShowsWhatAndWhy) {
@@ -91,6 +91,16 @@ TEST(LocalizationKeysTest, KeepingGesturesOnShowsSecondsCodesAndExitStatuses) {
     for (const std::string_view key : {"keep.cooldown", "reset.failed", "login.failed"}) {
         EXPECT_EQ(argumentsOf(key), std::vector{integerArgument}) << key;
     }
+}
+
+TEST(LocalizationKeysTest, ExtraActionTextsTakeTheirNameAndAShortcutsExitStatus) {
+    for (const std::string_view key :
+         {"extra.url.invalid", "extra.missing.app", "extra.missing.file", "extra.missing.url",
+          "extra.missing.shortcut", "extra.failed.open", "extra.timeout.shortcut",
+          "extra.failed.start", "extra.row.missing"}) {
+        EXPECT_EQ(argumentsOf(key), std::vector{stringArgument}) << key;
+    }
+    EXPECT_EQ(argumentsOf("extra.failed.shortcut"), (std::vector{stringArgument, integerArgument}));
 }
 
 TEST(LocalizationKeysTest, UnknownKeyHasNoEntry) {

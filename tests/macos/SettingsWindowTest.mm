@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+#include "core/actions/ExtraAction.h"
+#include "core/actions/ExtraActionMenu.h"
 #include "core/app/Globals.h"
 #include "core/app/SettingsWindowTexts.h"
 #include "core/localization/Localizer.h"
@@ -290,7 +292,21 @@ TEST_P(SettingsWindowTest, GestureRowsHoldTheirSlotsInOrder) {
         EXPECT_EQ(menu.tag, static_cast<NSInteger>(slot));
         EXPECT_EQ(record.tag, static_cast<NSInteger>(slot));
         EXPECT_EQ(rowOf(menu), rowOf(record));
-        EXPECT_EQ(menu.numberOfItems, static_cast<NSInteger>(choices().size()));
+        // The fifteen, then each group of extra actions after a separator; every action's item
+        // is tagged with it.
+        const std::vector<std::vector<ActionMenuEntry>> groups = extraActionMenu();
+        std::size_t extras = 0;
+        for (const auto& group : groups) {
+            extras += group.size();
+        }
+        EXPECT_EQ(menu.numberOfItems,
+                  static_cast<NSInteger>(choices().size() + groups.size() + extras));
+        for (NSInteger action = 0; action < action::allCount; ++action) {
+            const NSInteger index = [menu indexOfItemWithTag:action];
+            ASSERT_GE(index, 0) << action;
+            EXPECT_FALSE([menu itemAtIndex:index].separatorItem) << action;
+        }
+        EXPECT_TRUE([menu itemAtIndex:static_cast<NSInteger>(choices().size())].separatorItem);
         if (slot > 0) {
             EXPECT_LT(rowOf(controls_.actionMenus[slot - 1]), rowOf(menu));
         }

@@ -139,6 +139,21 @@ TEST_F(TraceReplayTest, ReplaysAFileWithAProfileList) {
     EXPECT_EQ(err.str(), "");
 }
 
+TEST_F(TraceReplayTest, AFurtherActionIsNamedAndNotCarriedOut) {
+    const std::string trace = file("x.trace", "tactora-trace 1\n1.0 frame 1:0.5,0.5\n1.1 frame\n");
+    const std::string profiles =
+        file("x.json",
+             R"([{"id":"6F1C2A10-0000-4000-8000-00000000000B","name":"P","actions":[0,0,0,0,)"
+             R"(0,0,0,0],"shortcuts":[null,null,null,null,null,null,null,null],)"
+             R"("extraActions":[null,null,null,null,{"action":"commandClick"},null,null,null]}])");
+    EXPECT_EQ(replay({"tactora", "--replay", trace, "--profile", profiles}), 0);
+    EXPECT_EQ(out.str(),
+              "1.100 tap 1\n1.180 action action.click.command\n"
+              "summary taps=1 clicks=0 actions=1 frames=2 mouse-events=0 "
+              "seconds=0.100\n");
+    EXPECT_EQ(err.str(), "");
+}
+
 TEST_F(TraceReplayTest, AMalformedTraceNamesItsLineAndWritesNothing) {
     setStringTable(std::make_shared<const StringsTable>(
         StringsTable::Entries{{"trace.error.back", "line %lld goes back"}}));

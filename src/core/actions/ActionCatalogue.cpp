@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/actions/ExtraAction.h"
 #include "core/actions/ModifierFlags.h"
 
 namespace tactora::catalogue {
@@ -58,10 +59,32 @@ std::optional<MouseButton> pressTarget(ActionIndex action) {
     if (action == action::doubleClick) {
         return std::nullopt;
     }
+    if (pressFlags(action)) {
+        return MouseButton::left;
+    }
     if (auto clicks = buttonClicks(action)) {
         return clicks->button;
     }
     return std::nullopt;
+}
+
+std::optional<std::uint64_t> pressFlags(ActionIndex action) {
+    const std::optional<ExtraAction> extra = action::extra(action);
+    if (!extra) {
+        return std::nullopt;
+    }
+    switch (*extra) {
+        case ExtraAction::commandClick:
+            return ModifierFlags::command;
+        case ExtraAction::optionClick:
+            return ModifierFlags::option;
+        case ExtraAction::shiftClick:
+            return ModifierFlags::shift;
+        case ExtraAction::controlClick:
+            return ModifierFlags::control;
+        default:
+            return std::nullopt;
+    }
 }
 
 std::optional<bool> dockShowsDesktop(ActionIndex action) {

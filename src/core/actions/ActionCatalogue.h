@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "core/actions/ActionIndex.h"
@@ -20,6 +21,10 @@ std::optional<KeyStroke> keyStroke(ActionIndex action);
 // right or centre for the three single-click actions; nothing for every other action, whose
 // press is swallowed and performed on release instead.
 std::optional<MouseButton> pressTarget(ActionIndex action);
+
+// The modifier flags a press turned into a ⌘-, ⌥-, ⇧- or ⌃-click carries from its down event
+// through its drags to its up event; nothing for every other action.
+std::optional<std::uint64_t> pressFlags(ActionIndex action);
 
 // The Dock notification an action sends: true for Show Desktop, false for Mission Control,
 // nothing for the others.

@@ -87,7 +87,17 @@ ActionIndex Controller::actionAt(std::int64_t slot) {
     if (slot < 0 || static_cast<std::size_t>(slot) >= actions.size()) {
         fatalError("Gesture slot out of range");
     }
+    if (const std::optional<SlotExtra> extra =
+            profiles().current().extraAt(static_cast<std::size_t>(slot))) {
+        return action::index(extra->action);
+    }
     return actions[static_cast<std::size_t>(slot)];
+}
+
+std::string Controller::valueAt(std::int64_t slot) {
+    const std::optional<SlotExtra> extra =
+        profiles().current().extraAt(static_cast<std::size_t>(slot));
+    return extra ? extra->value : std::string();
 }
 
 const std::optional<SavedShortcut>& Controller::shortcutAt(std::int64_t slot) {

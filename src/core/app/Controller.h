@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "core/actions/ActionIndex.h"
+#include "core/actions/ExtraAction.h"
 #include "core/actions/SavedShortcut.h"
 #include "core/app/ControllerEvents.h"
 #include "core/app/ControllerObserver.h"
@@ -171,12 +172,14 @@ class Controller final : public StatusDisplay,
 
     // --- Actions -----------------------------------------------------------------------------
 
-    // Carries out catalogue entry `action`; `shortcut` is used by the custom action only.
-    // `origin` and `fingers` say, for the observers, which gesture it stood for.
+    // Carries out catalogue entry `action`; `shortcut` is used by the custom action only, and
+    // `value` (what it opens or runs) by the further actions only. `origin` and `fingers` say,
+    // for the observers, which gesture it stood for.
     void perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
-                 ActionOrigin origin = ActionOrigin::direct, std::int64_t fingers = 0);
-    // Posts one marked mouse button event at the pointer.
-    void post(MouseButton button, bool down, std::int64_t clickState = 1);
+                 ActionOrigin origin = ActionOrigin::direct, std::int64_t fingers = 0,
+                 const std::string& value = std::string());
+    // Posts one marked mouse button event at the pointer, with `flags` as its modifier flags.
+    void post(MouseButton button, bool down, std::int64_t clickState = 1, std::uint64_t flags = 0);
     // Posts one marked key press, down then up.
     void sendKeys(std::uint16_t keyCode, std::uint64_t flags);
     // The settings window's test button: Show Desktop.
@@ -234,10 +237,10 @@ class Controller final : public StatusDisplay,
     static void receiveFrame(const ContactFrame& frame);
     void receive(const ContactFrame& frame);
     void scheduleTap(std::int64_t fingers, ActionIndex action,
-                     const std::optional<SavedShortcut>& shortcut,
+                     const std::optional<SavedShortcut>& shortcut, const std::string& value,
                      const GestureDispatchContext& context, double recognisedAt);
     void performTap(std::int64_t fingers, ActionIndex action,
-                    const std::optional<SavedShortcut>& shortcut,
+                    const std::optional<SavedShortcut>& shortcut, const std::string& value,
                     const GestureDispatchContext& context, double recognisedAt);
 
     void performShortcut(const std::optional<SavedShortcut>& shortcut);
@@ -272,8 +275,14 @@ class Controller final : public StatusDisplay,
     void applySwitch();
     void showStatusMenu();
 
+    // The slot's action: one of the fifteen, or the index of the slot's extra action.
     ActionIndex actionAt(std::int64_t slot);
     const std::optional<SavedShortcut>& shortcutAt(std::int64_t slot);
+    // What the slot's extra action opens or runs; empty for every other action.
+    std::string valueAt(std::int64_t slot);
+    // An action pop-up chose an extra action: asks for its value where it needs one, then
+    // stores it in the slot.
+    void chooseExtra(std::int64_t slot, ExtraAction extra);
 
     ControllerServices services_;
 

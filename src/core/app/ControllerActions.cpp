@@ -20,7 +20,7 @@ const std::string& actionName(ActionIndex action) {
 }  // namespace
 
 void Controller::perform(ActionIndex action, const std::optional<SavedShortcut>& shortcut,
-                         ActionOrigin origin, std::int64_t fingers) {
+                         ActionOrigin origin, std::int64_t fingers, const std::string& value) {
     observers_.actionPerformed({
         .action = action,
         .shortcut = shortcut,
@@ -29,6 +29,12 @@ void Controller::perform(ActionIndex action, const std::optional<SavedShortcut>&
         .asButton = std::nullopt,
         .time = services_.clock.uptime(),
     });
+    if (const std::optional<ExtraAction> extra = action::extra(action)) {
+        if (services_.extraActions != nullptr) {
+            services_.extraActions->perform(*extra, value);
+        }
+        return;
+    }
     if (action == action::custom) {
         performShortcut(shortcut);
         return;
@@ -51,13 +57,14 @@ void Controller::perform(ActionIndex action, const std::optional<SavedShortcut>&
     }
 }
 
-void Controller::post(MouseButton button, bool down, std::int64_t clickState) {
+void Controller::post(MouseButton button, bool down, std::int64_t clickState, std::uint64_t flags) {
     const MouseMotion motion = down ? MouseMotion::down : MouseMotion::up;
     services_.poster.post(MouseButtonEvent{
         .type = mouseEventType(button, motion),
         .button = button,
         .clickState = clickState,
         .userData = marker,
+        .flags = flags,
     });
 }
 

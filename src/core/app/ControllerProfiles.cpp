@@ -54,7 +54,14 @@ void Controller::refreshProfileUI() {
         const ActionIndex action = actionAt(slot);
         const std::optional<SavedShortcut>& shortcut = shortcutAt(slot);
         const auto index = static_cast<std::size_t>(slot);
-        services_.view.selectAction(index, std::clamp(action, ActionIndex{0}, action::count - 1));
+        services_.view.selectAction(index,
+                                    std::clamp(action, ActionIndex{0}, action::allCount - 1));
+        const std::optional<ExtraAction> extra = action::extra(action);
+        if (extra && services_.extraActions != nullptr) {
+            services_.view.setRecordButton(
+                index, services_.extraActions->rowButton(*extra, valueAt(slot)));
+            continue;
+        }
         services_.view.setRecordButton(index,
                                        {
                                            .enabled = action == action::custom,
@@ -67,13 +74,37 @@ void Controller::refreshProfileUI() {
 void Controller::changed(std::int64_t slot) {
     cancelPendingActions();
     const ActionIndex action = services_.view.selectedAction(static_cast<std::size_t>(slot));
-    if (action == action::custom && !shortcutAt(slot)) {
+    if (const std::optional<ExtraAction> extra = action::extra(action)) {
+        chooseExtra(slot, *extra);
+    } else if (action == action::custom && !shortcutAt(slot)) {
         // The recording stores the shortcut and the custom action together when it is saved.
         beginRecording(slot);
     } else {
         profiles().setAction(action, slot);
     }
     refreshProfileUI();
+}
+
+void Controller::chooseExtra(std::int64_t slot, ExtraAction extra) {
+    ExtraActionPerformer* const extras = services_.extraActions.get();
+    if (extras == nullptr) {
+        return;
+    }
+    // Choosing the slot's own action again changes its value, starting from the one it has.
+    const std::string current = actionAt(slot) == action::index(extra) ? valueAt(slot) : "";
+    // A value may come after the list of Shortcuts arrived; by then it belongs to the same
+    // profile only.
+    extras->choose(extra, current,
+                   [weak = weak_from_this(), slot, extra,
+                    profile = profiles().activeID()](const std::string& value) {
+                       const auto self = weak.lock();
+                       if (!self || self->profiles().activeID() != profile) {
+                           return;
+                       }
+                       self->cancelPendingActions();
+                       self->profiles().setExtra({extra, value}, slot);
+                       self->refreshProfileUI();
+                   });
 }
 
 void Controller::selectProfile() {

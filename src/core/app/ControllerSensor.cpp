@@ -119,22 +119,22 @@ void Controller::receive(std::span<const Finger> fingers) {
             {.reason = DropReason::gesturesOff, .fingers = *count, .time = now});
         return;
     }
-    scheduleTap(*count, action, shortcut, context, now);
+    scheduleTap(*count, action, shortcut, valueAt(slot), context, now);
 }
 
 void Controller::scheduleTap(std::int64_t fingers, ActionIndex action,
-                             const std::optional<SavedShortcut>& shortcut,
+                             const std::optional<SavedShortcut>& shortcut, const std::string& value,
                              const GestureDispatchContext& context, double recognisedAt) {
-    services_.queue.after(
-        tapDelay, [weak = weak_from_this(), fingers, action, shortcut, context, recognisedAt] {
-            if (const auto self = weak.lock()) {
-                self->performTap(fingers, action, shortcut, context, recognisedAt);
-            }
-        });
+    services_.queue.after(tapDelay, [weak = weak_from_this(), fingers, action, shortcut, value,
+                                     context, recognisedAt] {
+        if (const auto self = weak.lock()) {
+            self->performTap(fingers, action, shortcut, value, context, recognisedAt);
+        }
+    });
 }
 
 void Controller::performTap(std::int64_t fingers, ActionIndex action,
-                            const std::optional<SavedShortcut>& shortcut,
+                            const std::optional<SavedShortcut>& shortcut, const std::string& value,
                             const GestureDispatchContext& context, double recognisedAt) {
     const double now = services_.clock.uptime();
     std::optional<DropReason> refused = mayDispatch(context) ? std::nullopt : guardRefusal(context);
@@ -146,7 +146,7 @@ void Controller::performTap(std::int64_t fingers, ActionIndex action,
         observers_.actionDropped({.action = action, .reason = *refused, .time = now});
         return;
     }
-    perform(action, shortcut, ActionOrigin::tap, fingers);
+    perform(action, shortcut, ActionOrigin::tap, fingers, value);
 }
 
 }  // namespace tactora

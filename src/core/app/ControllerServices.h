@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/app/ExtraActionPerformer.h"
 #include "core/platform/AppShell.h"
 #include "core/platform/Clock.h"
 #include "core/platform/DeviceWatcher.h"
@@ -52,6 +53,8 @@ struct ControllerServices {
     ProcessActivity& activity;
     SecureInput& secureInput;
     PermissionResetTool& resetTool;
+    // Carries out the further actions and chooses their values; they do nothing without it.
+    std::shared_ptr<ExtraActionPerformer> extraActions;
 };
 
 }  // namespace tactora

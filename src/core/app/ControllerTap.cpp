@@ -20,6 +20,15 @@ bool isDrag(EventType type) {
     return type == event::leftMouseDragged || type == event::rightMouseDragged;
 }
 
+// Turns `event` into the held press's button, with the modifier flags of a modifier click on
+// every one of its events, so that a ⌘-drag stays a ⌘-drag to its up.
+void rewritePress(TapEvent& event, const Press& press, bool down, bool drag) {
+    rewriteButton(event, *press.button, down, drag);
+    if (const std::optional<std::uint64_t> flags = catalogue::pressFlags(press.action)) {
+        event.setFlags(*flags);
+    }
+}
+
 // The event being decided, watched for a rewrite on its way through the decision.
 class WatchedEvent final : public TapEvent {
   public:
@@ -35,6 +44,7 @@ class WatchedEvent final : public TapEvent {
         event_.setIntegerField(field, value);
     }
     void setType(EventType type) override { event_.setType(type); }
+    void setFlags(std::uint64_t flags) override { event_.setFlags(flags); }
 
     // The button it was turned into, if it was.
     std::optional<std::int64_t> rewrittenButton() const { return button_; }
@@ -127,7 +137,7 @@ void Controller::releasePresses() {
     PressesReleasedNote note{.buttons = {}, .count = 0, .time = services_.clock.uptime()};
     for (const auto& [physical, press] : state_.presses) {
         if (press.button) {
-            post(*press.button, false, 1);
+            post(*press.button, false, 1, catalogue::pressFlags(press.action).value_or(0));
             if (note.count < note.buttons.size()) {
                 note.buttons.at(note.count++) = *press.button;
             }
@@ -171,8 +181,14 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
     if (action == action::defaultAction) {
         return EventDisposition::pass;
     }
-    const Press press{action, shortcutAt(slot), catalogue::pressTarget(action), dispatchContext(),
-                      fingers};
+    const Press press{
+        .action = action,
+        .shortcut = shortcutAt(slot),
+        .button = catalogue::pressTarget(action),
+        .context = dispatchContext(),
+        .fingers = fingers,
+        .value = valueAt(slot),
+    };
     state_.presses.insert_or_assign(button, press);
     if (!press.button) {
         return EventDisposition::swallow;
@@ -186,7 +202,7 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
         .asButton = press.button,
         .time = now,
     });
-    rewriteButton(event, *press.button, true, false);
+    rewritePress(event, press, true, false);
     return EventDisposition::pass;
 }
 
@@ -202,13 +218,13 @@ EventDisposition Controller::pressContinues(EventType type, TapEvent& event, std
         if (!held->second.button) {
             return EventDisposition::swallow;
         }
-        rewriteButton(event, *held->second.button, false, true);
+        rewritePress(event, held->second, false, true);
         return EventDisposition::pass;
     }
     Press press = std::move(held->second);
     state_.presses.erase(held);
     if (press.button) {
-        rewriteButton(event, *press.button, false, false);
+        rewritePress(event, press, false, false);
         return EventDisposition::pass;
     }
     released_.push_back(std::move(press));
@@ -223,7 +239,7 @@ void Controller::performReleased() {
             observers_.actionDropped(
                 {.action = press.action, .reason = *refused, .time = services_.clock.uptime()});
         } else {
-            perform(press.action, press.shortcut, ActionOrigin::click, press.fingers);
+            perform(press.action, press.shortcut, ActionOrigin::click, press.fingers, press.value);
         }
     }
     released_.clear();

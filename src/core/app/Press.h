@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "core/actions/ActionIndex.h"
 #include "core/actions/SavedShortcut.h"
@@ -20,6 +21,7 @@ struct Press {
     std::optional<MouseButton> button;
     GestureDispatchContext context;  // decides on release whether the action may still run
     std::int64_t fingers = 0;        // the resting fingers of the click it stands for
+    std::string value;  // what the click slot's further action opens or runs; empty otherwise
 
     bool operator==(const Press&) const = default;
 };

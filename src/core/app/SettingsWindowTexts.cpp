@@ -1,5 +1,6 @@
 #include "core/app/SettingsWindowTexts.h"
 
+#include "core/actions/ExtraActionMenu.h"
 #include "core/app/Globals.h"
 #include "core/localization/Localizer.h"
 
@@ -26,6 +27,7 @@ SettingsWindowTexts settingsWindowTexts() {
         .enableSwitch = L("enable"),
         .gestureRows = gestureRows(),
         .actionNames = choices(),
+        .extraActionGroups = extraActionMenu(),
         .recordButton = L("record.button"),
         .recordHint = L("record.hint"),
         .testDesktop = L("test.desktop"),

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/app/GestureRow.h"
+#include "core/platform/ActionMenuEntry.h"
 
 namespace tactora {
 
@@ -32,6 +33,9 @@ struct SettingsWindowTexts {
     std::string enableSwitch;
     std::vector<GestureRow> gestureRows;
     std::vector<std::string> actionNames;  // catalogue order: an item's index is its action
+    // The extra actions after the fifteen, one list per group, each after a separator; an
+    // item's tag is its action.
+    std::vector<std::vector<ActionMenuEntry>> extraActionGroups;
     std::string recordButton;
     std::string recordHint;
     std::string testDesktop;

@@ -2,13 +2,50 @@
 
 #include <utility>
 
+#include "core/app/Globals.h"
+
 namespace tactora {
 
 static_assert(TouchSurface::contactLifetime == Controller::liveContact,
               "The live view and the live line count fingers over the same time");
 
-Tactora::Tactora(ControllerServices services)
-    : controller_(Controller::create(services)),
+namespace {
+
+std::shared_ptr<ExtraActions> makeExtraActions(const ControllerServices& services,
+                                               ExtraActionPlatform platform) {
+    return std::make_shared<ExtraActions>(
+        ExtraActionServices{
+            .poster = services.poster,
+            .systemEvents = platform.systemEvents,
+            .opener = platform.opener,
+            .processes = platform.processes,
+            .picker = platform.picker,
+            .dialogs = services.dialogs,
+            .view = services.view,
+            .clock = services.clock,
+        },
+        marker);
+}
+
+// `services`, handing the further actions to `extras` when there are any.
+ControllerServices withExtraActions(ControllerServices services,
+                                    const std::shared_ptr<ExtraActions>& extras) {
+    if (extras) {
+        services.extraActions = extras;
+    }
+    return services;
+}
+
+}  // namespace
+
+Tactora::Tactora(ControllerServices services) : Tactora(std::move(services), nullptr) {}
+
+Tactora::Tactora(const ControllerServices& services, ExtraActionPlatform platform)
+    : Tactora(services, makeExtraActions(services, platform)) {}
+
+Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras)
+    : extras_(std::move(extras)),
+      controller_(Controller::create(withExtraActions(services, extras_))),
       keeper_(GestureKeeper::create({.clock = services.clock,
                                      .queue = services.queue,
                                      .view = services.view,
@@ -38,6 +75,14 @@ Tactora::Tactora(ControllerServices services)
     controller_->addObserver(*liveView_);
     controller_->setProfileTitleSource(frontmost_.get());
     controller_->addObserver(*feedback_);
+    if (extras_) {
+        // A list of Shortcuts that arrives later may change what the gesture rows show.
+        extras_->setRowsChanged([weak = std::weak_ptr<Controller>(controller_)] {
+            if (const auto controller = weak.lock()) {
+                controller->refreshProfileUI();
+            }
+        });
+    }
 }
 
 Tactora::~Tactora() {

@@ -8,6 +8,7 @@
 #include "core/frontmost/FrontmostProfiles.h"
 #include "core/keepgestures/GestureKeeper.h"
 #include "core/liveview/LiveView.h"
+#include "core/moreactions/ExtraActions.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
 
@@ -23,12 +24,17 @@ namespace tactora {
 //   feedback/    the finger count in the menu bar
 //   recording/   the recording of touch traces
 //   profilefiles/ deleting, exporting and importing profiles
+//   moreactions/ the further actions (opening, Shortcuts, media keys, the system's views,
+//                modifier clicks), which the controller hands on through ExtraActionPerformer
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
 class Tactora {
   public:
+    // Without the further actions: a gesture mapped to one does nothing.
     explicit Tactora(ControllerServices services);
+    // With the further actions, carried out through `platform`.
+    Tactora(const ControllerServices& services, ExtraActionPlatform platform);
     Tactora(const Tactora&) = delete;
     Tactora& operator=(const Tactora&) = delete;
     Tactora(Tactora&&) = delete;
@@ -43,8 +49,13 @@ class Tactora {
     MenuBarFeedback& feedback() { return *feedback_; }
     TouchRecorder& recorder() { return recorder_; }
     ProfileFileControls& profileFiles() { return profileFiles_; }
+    // Nothing when made without the further actions.
+    ExtraActions* extraActions() { return extras_.get(); }
 
   private:
+    Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras);
+
+    std::shared_ptr<ExtraActions> extras_;
     std::shared_ptr<Controller> controller_;
     std::shared_ptr<GestureKeeper> keeper_;
     std::shared_ptr<FrontmostProfiles> frontmost_;

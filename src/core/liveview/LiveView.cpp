@@ -3,7 +3,9 @@
 #include <cstddef>
 #include <vector>
 
+#include "core/actions/ExtraActionInfo.h"
 #include "core/app/Globals.h"
+#include "core/localization/Localizer.h"
 
 namespace tactora {
 
@@ -15,6 +17,9 @@ std::optional<std::string> displayName(ActionIndex action,
                                        const std::optional<SavedShortcut>& shortcut) {
     if (action == action::custom && shortcut && shortcut->isValid()) {
         return shortcut->label;
+    }
+    if (const std::optional<ExtraAction> extra = action::extra(action)) {
+        return L(catalogue::info(*extra).textKey);
     }
     const std::vector<std::string>& names = choices();
     if (action < 0 || static_cast<std::size_t>(action) >= names.size()) {

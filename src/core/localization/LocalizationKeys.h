@@ -29,6 +29,29 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("action.mission"),
     LocalizationKey("action.desktop"),
     LocalizationKey("action.custom"),
+    // The actions beyond the first fifteen, in index order.
+    LocalizationKey("action.open.app"),
+    LocalizationKey("action.open.file"),
+    LocalizationKey("action.open.url"),
+    LocalizationKey("action.shortcut.run"),
+    LocalizationKey("action.media.play"),
+    LocalizationKey("action.media.next"),
+    LocalizationKey("action.media.previous"),
+    LocalizationKey("action.volume.up"),
+    LocalizationKey("action.volume.down"),
+    LocalizationKey("action.volume.mute"),
+    LocalizationKey("action.space.left"),
+    LocalizationKey("action.space.right"),
+    LocalizationKey("action.app.expose"),
+    LocalizationKey("action.launchpad"),
+    LocalizationKey("action.notifications"),
+    LocalizationKey("action.spotlight"),
+    LocalizationKey("action.lookup"),
+    LocalizationKey("action.screenshot"),
+    LocalizationKey("action.click.command"),
+    LocalizationKey("action.click.option"),
+    LocalizationKey("action.click.shift"),
+    LocalizationKey("action.click.control"),
     // Outcomes of performing an action; "action.failed" shows the Dock's status code, and
     // "error.action" the action's display name and that code.
     LocalizationKey("action.sent"),
@@ -205,6 +228,29 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("login.approval"),
     LocalizationKey("login.failed", {integerArgument}),
     LocalizationKey("secure.input"),
+    // Choosing what an extra action opens or runs: the panels, the address field and the list
+    // of Shortcuts.
+    LocalizationKey("extra.choose"),
+    LocalizationKey("extra.app.message"),
+    LocalizationKey("extra.file.message"),
+    LocalizationKey("extra.url.title"),
+    LocalizationKey("extra.url.info"),
+    LocalizationKey("extra.url.invalid", {stringArgument}),
+    LocalizationKey("extra.shortcut.title"),
+    LocalizationKey("extra.shortcut.info"),
+    LocalizationKey("extra.shortcut.none"),
+    // Performing them: a value that no longer names anything (by its name), an open or a
+    // Shortcut that failed (with the Shortcut's exit status), a program that did not start (its
+    // path); and a gesture row whose value is missing.
+    LocalizationKey("extra.missing.app", {stringArgument}),
+    LocalizationKey("extra.missing.file", {stringArgument}),
+    LocalizationKey("extra.missing.url", {stringArgument}),
+    LocalizationKey("extra.missing.shortcut", {stringArgument}),
+    LocalizationKey("extra.failed.open", {stringArgument}),
+    LocalizationKey("extra.failed.shortcut", {stringArgument, integerArgument}),
+    LocalizationKey("extra.timeout.shortcut", {stringArgument}),
+    LocalizationKey("extra.failed.start", {stringArgument}),
+    LocalizationKey("extra.row.missing", {stringArgument}),
 });
 
 // The entry for `key`, or nothing when the program never looks it up.

@@ -58,9 +58,10 @@ class SettingsView {
     // shown, replaces its content. Closing it reaches the frontmost part's closeApplications().
     virtual void showApplications(const ApplicationsSheet& sheet) = 0;
 
-    // Selects the catalogue entry `action` (0...14) in the action pop-up of gesture slot `slot`.
+    // Selects the action `action` (one of the fifteen, or an extra action's index after them) in
+    // the action pop-up of gesture slot `slot`.
     virtual void selectAction(std::size_t slot, std::int64_t action) = 0;
-    // The index selected in the action pop-up of `slot`.
+    // The action selected in the action pop-up of `slot`.
     virtual std::int64_t selectedAction(std::size_t slot) const = 0;
     virtual void setRecordButton(std::size_t slot, const RecordButtonState& state) = 0;
 

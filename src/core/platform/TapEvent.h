@@ -19,6 +19,8 @@ class TapEvent {
 
     // Changes the event's type; everything else about it stays.
     virtual void setType(EventType type) = 0;
+    // Replaces the event's modifier flags (in the layout of ModifierFlags).
+    virtual void setFlags(std::uint64_t flags) = 0;
 };
 
 }  // namespace tactora

@@ -1,10 +1,13 @@
 #include "core/profiles/ProfileJson.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <exception>
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <utility>
+
+#include "core/actions/ExtraActionInfo.h"
 
 namespace tactora {
 
@@ -24,11 +27,35 @@ OrderedJson encodeShortcut(const std::optional<SavedShortcut>& shortcut) {
     return object;
 }
 
+OrderedJson encodeExtra(const std::optional<SlotExtra>& extra) {
+    if (!extra) {
+        return nullptr;
+    }
+    OrderedJson object = OrderedJson::object();
+    object["action"] = catalogue::info(extra->action).storedKey;
+    if (!extra->value.empty()) {
+        object["value"] = extra->value;
+    }
+    return object;
+}
+
+// A slot with an extra action is written with the default action in "actions", whatever the
+// list holds in memory, so that a reader that knows only "actions" never performs another one.
+std::vector<ActionIndex> storedActions(const WorkProfile& profile) {
+    std::vector<ActionIndex> actions = profile.actions;
+    for (std::size_t i = 0; i < actions.size(); ++i) {
+        if (profile.extraAt(i)) {
+            actions[i] = action::defaultAction;
+        }
+    }
+    return actions;
+}
+
 OrderedJson encodeProfile(const WorkProfile& profile) {
     OrderedJson object = OrderedJson::object();
     object["id"] = profile.id.text();
     object["name"] = profile.name;
-    object["actions"] = profile.actions;
+    object["actions"] = storedActions(profile);
     OrderedJson shortcuts = OrderedJson::array();
     for (const auto& shortcut : profile.shortcuts) {
         shortcuts.push_back(encodeShortcut(shortcut));
@@ -38,6 +65,14 @@ OrderedJson encodeProfile(const WorkProfile& profile) {
     // stored exactly as before the key existed.
     if (!profile.apps.empty()) {
         object["apps"] = profile.apps;
+    }
+    // The same for the extra actions.
+    if (std::ranges::any_of(profile.extras, [](const auto& extra) { return extra.has_value(); })) {
+        OrderedJson extras = OrderedJson::array();
+        for (const auto& extra : profile.extras) {
+            extras.push_back(encodeExtra(extra));
+        }
+        object["extraActions"] = std::move(extras);
     }
     return object;
 }
@@ -152,6 +187,38 @@ std::vector<std::string> decodeApps(const Json& object) {
     return apps;
 }
 
+// One slot of the optional "extraActions" key: an action this version knows, with a string
+// value or none. Anything else leaves the slot without an extra, and so with its stored action.
+std::optional<SlotExtra> decodeExtra(const Json& element) {
+    if (!element.is_object()) {
+        return std::nullopt;
+    }
+    const std::string* key = stringMember(element, "action");
+    const std::optional<ExtraAction> action =
+        key != nullptr ? catalogue::extraFromStoredKey(*key) : std::nullopt;
+    if (!action) {
+        return std::nullopt;
+    }
+    const Json* value = member(element, "value");
+    if (value != nullptr && !value->is_string()) {
+        return std::nullopt;
+    }
+    return SlotExtra{*action, value != nullptr ? value->get<std::string>() : std::string()};
+}
+
+std::vector<std::optional<SlotExtra>> decodeExtras(const Json& object) {
+    const Json* array = arrayMember(object, "extraActions");
+    if (array == nullptr) {
+        return {};
+    }
+    std::vector<std::optional<SlotExtra>> extras;
+    extras.reserve(array->size());
+    for (const Json& element : *array) {
+        extras.push_back(decodeExtra(element));
+    }
+    return extras;
+}
+
 std::optional<WorkProfile> decodeProfile(const Json& object) {
     if (!object.is_object()) {
         return std::nullopt;
@@ -172,6 +239,7 @@ std::optional<WorkProfile> decodeProfile(const Json& object) {
     }
     WorkProfile profile(*id, *name, std::move(*actions), std::move(*shortcuts));
     profile.apps = decodeApps(object);
+    profile.extras = decodeExtras(object);
     return profile;
 }
 

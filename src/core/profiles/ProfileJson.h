@@ -12,15 +12,19 @@ namespace tactora {
 // The stored form of a profile list: one compact JSON array of profile objects. Both functions
 // are pure and may be called from any thread.
 
-// The optional "apps" key is written only for a profile with applications.
+// The optional "apps" key is written only for a profile with applications, and the optional
+// "extraActions" key (one element per slot: null, or the action's stored name and its "value")
+// only for a profile with extra actions; their slots hold 0 in "actions".
 // Nothing when a profile cannot be written (a name or label that is not valid UTF-8).
 std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profiles);
 
 // The whole list, or nothing at all when any element is malformed: a missing key, a value of
 // the wrong type or out of its field's range, or an id that is not a UUID. Unknown keys are
-// ignored and nothing is repaired; run sanitize() on each profile afterwards. The one exception
-// is the optional "apps" key: a value that is not an array of non-empty strings leaves that
-// profile without applications instead of failing the list.
+// ignored and nothing is repaired; run sanitize() on each profile afterwards. The exceptions
+// are the optional "apps" key: a value that is not an array of non-empty strings leaves that
+// profile without applications instead of failing the list; and the optional "extraActions"
+// key, whose elements that are not an extra action this version knows leave their slot without
+// one.
 //
 // Strict about the text: it must be one JSON array in valid UTF-8 (a leading byte order mark
 // is skipped), without comments or trailing data. Integer fields take integers only: a number

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/actions/ExtraActionInfo.h"
 #include "core/profiles/DefaultsInteger.h"
 #include "core/profiles/GestureSlot.h"
 #include "core/profiles/ProfileJson.h"
@@ -158,7 +159,29 @@ void ProfileStore::setAction(ActionIndex action, std::int64_t index) {
     if (profile == nullptr) {
         return;
     }
-    profile->actions[static_cast<std::size_t>(index)] = action;
+    const auto position = static_cast<std::size_t>(index);
+    profile->actions[position] = action;
+    if (position < profile->extras.size()) {
+        profile->extras[position].reset();
+        profile->sanitize();
+    }
+    save();
+}
+
+void ProfileStore::setExtra(const SlotExtra& extra, std::int64_t index) {
+    const bool needsValue = catalogue::info(extra.action).value != ActionValueKind::none;
+    if (!slot::isValid(index) || (needsValue && extra.value.empty())) {
+        return;
+    }
+    WorkProfile* profile = active();
+    if (profile == nullptr) {
+        return;
+    }
+    const auto position = static_cast<std::size_t>(index);
+    profile->actions[position] = action::defaultAction;
+    profile->extras.resize(slot::count);
+    profile->extras[position] = extra;
+    profile->sanitize();
     save();
 }
 
@@ -173,6 +196,7 @@ void ProfileStore::setShortcut(const SavedShortcut& shortcut, std::int64_t index
     const auto position = static_cast<std::size_t>(index);
     profile->shortcuts[position] = shortcut;
     profile->actions[position] = action::custom;
+    profile->sanitize();  // the slot's extra, if any, gives way
     save();
 }
 
@@ -182,6 +206,7 @@ void ProfileStore::add(const std::string& name, bool duplicate) {
         const WorkProfile& source = current();
         profile.actions = source.actions;
         profile.shortcuts = source.shortcuts;
+        profile.extras = source.extras;
     }
     activeID_ = profile.id;
     chosenID_ = profile.id;

@@ -48,7 +48,11 @@ class ProfileStore {
 
     void save();
     void select(const Uuid& id);
+    // Gives a slot of the active profile one of the catalogue's fifteen, taking away any extra.
     void setAction(ActionIndex action, std::int64_t index);
+    // Gives a slot of the active profile an extra action (and the default in its `actions`).
+    // Ignored when the action needs a value and has none.
+    void setExtra(const SlotExtra& extra, std::int64_t index);
     // Stores a valid shortcut in a slot of the active profile and makes the slot custom.
     void setShortcut(const SavedShortcut& shortcut, std::int64_t index);
     // Appends a profile (a copy of the active one's slots when `duplicate`) and activates it.

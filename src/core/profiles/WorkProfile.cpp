@@ -1,6 +1,9 @@
 #include "core/profiles/WorkProfile.h"
 
+#include <algorithm>
 #include <utility>
+
+#include "core/actions/ExtraActionInfo.h"
 
 namespace tactora {
 
@@ -31,6 +34,33 @@ void WorkProfile::sanitize() {
             actions[i] = action::defaultAction;
         }
     }
+    sanitizeExtras();
+}
+
+void WorkProfile::sanitizeExtras() {
+    extras.resize(slot::count, std::nullopt);
+    for (std::size_t i = 0; i < slot::count; ++i) {
+        std::optional<SlotExtra>& extra = extras[i];
+        if (!extra) {
+            continue;
+        }
+        const ActionValueKind kind = catalogue::info(extra->action).value;
+        if (kind == ActionValueKind::none) {
+            extra->value.clear();
+        }
+        // A slot that an older copy gave another action keeps that action in both copies.
+        if (actions[i] != action::defaultAction ||
+            (kind != ActionValueKind::none && extra->value.empty())) {
+            extra.reset();
+        }
+    }
+    if (std::ranges::none_of(extras, [](const auto& extra) { return extra.has_value(); })) {
+        extras.clear();
+    }
+}
+
+std::optional<SlotExtra> WorkProfile::extraAt(std::size_t slot) const {
+    return slot < extras.size() ? extras[slot] : std::nullopt;
 }
 
 }  // namespace tactora

@@ -7,6 +7,7 @@
 #include "core/actions/ActionIndex.h"
 #include "core/actions/SavedShortcut.h"
 #include "core/profiles/GestureSlot.h"
+#include "core/profiles/SlotExtra.h"
 #include "core/profiles/Uuid.h"
 
 namespace tactora {
@@ -27,7 +28,12 @@ struct WorkProfile {
 
     // Exactly eight actions and shortcuts afterwards; invalid shortcuts are dropped and actions
     // outside the catalogue, or custom actions without a shortcut, fall back to the default.
+    // Then the extras: none at all, or exactly eight; a slot keeps its extra only while its
+    // action is the default, and an extra that needs a value only with one.
     void sanitize();
+
+    // The extra action of a slot, if it holds one.
+    std::optional<SlotExtra> extraAt(std::size_t slot) const;
 
     Uuid id;
     std::string name;
@@ -36,8 +42,15 @@ struct WorkProfile {
     // Bundle identifiers of the applications that make this profile active while they are in
     // front. sanitize() leaves it alone; the store keeps each application in one profile only.
     std::vector<std::string> apps;
+    // The extra actions, by slot: empty when the profile has none. A slot with an extra holds
+    // the default action in `actions`, so a reader that knows only `actions` does the system's
+    // own behaviour there.
+    std::vector<std::optional<SlotExtra>> extras;
 
     bool operator==(const WorkProfile&) const = default;
+
+  private:
+    void sanitizeExtras();
 };
 
 }  // namespace tactora

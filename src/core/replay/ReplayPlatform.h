@@ -246,6 +246,7 @@ class TapEvent final : public tactora::TapEvent {
         }
     }
     void setType(EventType /*type*/) override {}
+    void setFlags(std::uint64_t /*flags*/) override {}
 
   private:
     std::array<std::int64_t, 128> fields_{};

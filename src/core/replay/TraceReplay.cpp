@@ -3,6 +3,7 @@
 #include <memory>
 #include <type_traits>
 
+#include "core/actions/ExtraActionInfo.h"
 #include "core/app/Controller.h"
 #include "core/app/Globals.h"
 #include "core/frontmost/FrontmostProfiles.h"
@@ -21,7 +22,11 @@ std::string seconds(double time) {
     return trace::formatFixed(time, 3);
 }
 
+// An action by the key of its name, like the fifteen.
 std::string actionKey(ActionIndex action) {
+    if (const std::optional<ExtraAction> extra = action::extra(action)) {
+        return std::string(catalogue::info(*extra).textKey);
+    }
     if (action < 0 || static_cast<std::size_t>(action) >= actionKeys.size()) {
         return std::to_string(action);
     }
@@ -47,7 +52,9 @@ struct Stage {
           controller(
               Controller::create({queue, queue, workspace, permissions, poster, tap, sensor, shell,
                                   view, dialogs, traceSink, std::move(defaults), surface, files,
-                                  devices, loginItem, activity, secureInput, resetTool})),
+                                  devices, loginItem, activity, secureInput, resetTool,
+                                  // The replay carries out no further action: it names it.
+                                  nullptr})),
           frontmost(FrontmostProfiles::create(*controller, workspace, view, queue, queue)) {
         controller->addObserver(*frontmost);
         controller->setProfileTitleSource(frontmost.get());

@@ -29,10 +29,15 @@ class FakeTapEvent final : public TapEvent {
         type = newType;
         ++changes;
     }
+    void setFlags(std::uint64_t newFlags) override {
+        flags = newFlags;
+        ++changes;
+    }
 
     std::int64_t button() const { return fields.at(event::buttonNumber); }
 
     EventType type;
+    std::uint64_t flags = 0;
     std::array<std::int64_t, 128> fields{};
     int changes = 0;
 };
