@@ -64,13 +64,14 @@ class ControllerObserver {
     // The application is about to quit; told before gestures stop.
     virtual void terminating(double /*time*/) {}
 
-  protected:
-    ControllerObserver() = default;
     // Not copied: a copy would not be in the list the original is in.
     ControllerObserver(const ControllerObserver&) = delete;
     ControllerObserver(ControllerObserver&&) = delete;
     ControllerObserver& operator=(const ControllerObserver&) = delete;
     ControllerObserver& operator=(ControllerObserver&&) = delete;
+
+  protected:
+    ControllerObserver() = default;
 
     // Says whether mouseEventDecided() is wanted from now on.
     void setWantsMouseEvents(bool wanted) {

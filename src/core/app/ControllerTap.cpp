@@ -232,9 +232,8 @@ EventDisposition Controller::pressContinues(EventType type, TapEvent& event, std
 }
 
 void Controller::performReleased() {
-    // By index: what an action does never reaches the tap, so nothing is added meanwhile.
-    for (std::size_t i = 0; i < released_.size(); ++i) {
-        const Press& press = released_[i];
+    // What an action does never reaches the tap, so nothing is added meanwhile.
+    for (const Press& press : released_) {
         if (const std::optional<DropReason> refused = guardRefusal(press.context)) {
             observers_.actionDropped(
                 {.action = press.action, .reason = *refused, .time = services_.clock.uptime()});
