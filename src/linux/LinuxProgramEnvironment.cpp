@@ -31,7 +31,7 @@ std::optional<std::vector<std::int64_t>> LinuxProgramEnvironment::appIconPixelWi
 void LinuxProgramEnvironment::runApplication() {
     std::cerr << "Tactora's interactive application needs macOS; here it runs as "
                  "tactora --self-test, tactora --check-localization, tactora --probe or "
-                 "tactora --replay FILE [--profile FILE].\n";
+                 "tactora --replay FILE [--profile FILE] [--explain].\n";
 }
 
 }  // namespace tactora

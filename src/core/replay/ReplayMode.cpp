@@ -80,7 +80,11 @@ int runReplay(std::span<const std::string> arguments, std::ostream& out, std::os
             return fail(err, L("replay.profiles", *profilePath));
         }
     }
-    out << TraceReplay::run(reading.lines, profiles) << std::flush;
+    const bool explain = std::ranges::find(arguments, "--explain") != arguments.end();
+    out << TraceReplay::run(
+               reading.lines, profiles,
+               explain ? TraceReplay::Detail::explained : TraceReplay::Detail::decisions)
+        << std::flush;
     return 0;
 }
 
