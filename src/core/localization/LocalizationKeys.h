@@ -197,6 +197,8 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("trace.error.process", {integerArgument}),
     LocalizationKey("trace.error.switch", {integerArgument}),
     LocalizationKey("trace.error.extra", {integerArgument}),
+    LocalizationKey("trace.error.device", {integerArgument}),
+    LocalizationKey("trace.error.undeclared", {integerArgument}),
     // The replay's own failures; the argument is the file's path.
     LocalizationKey("replay.usage"),
     LocalizationKey("replay.unreadable", {stringArgument}),

@@ -90,6 +90,10 @@ struct Stage {
         controller->toggle();
     }
 
+    // Which device a frame came from is not told apart here: every frame reaches the one
+    // recogniser, as the Magic Mouse's do.
+    void apply(const TraceDevice& /*device*/) {}
+
     void apply(const TraceActive& active) {
         workspace.active = active.active;
         if (active.active) {
