@@ -203,6 +203,10 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("replay.usage"),
     LocalizationKey("replay.unreadable", {stringArgument}),
     LocalizationKey("replay.profiles", {stringArgument}),
+    // The score's own failures: the directory, or the label file and the line.
+    LocalizationKey("score.usage"),
+    LocalizationKey("score.empty", {stringArgument}),
+    LocalizationKey("score.labels", {stringArgument, integerArgument}),
     // Key names in shortcut labels.
     LocalizationKey("key.space"),
     LocalizationKey("key.return"),

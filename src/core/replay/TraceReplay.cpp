@@ -128,8 +128,8 @@ struct Stage {
 }  // namespace
 
 std::string TraceReplay::run(const std::vector<TraceLine>& lines,
-                             const std::optional<std::vector<WorkProfile>>& profiles,
-                             Detail detail) {
+                             const std::optional<std::vector<WorkProfile>>& profiles, Detail detail,
+                             std::span<ControllerObserver* const> watchers) {
     const double start = lines.empty() ? 0 : lines.front().time;
     TraceReplay replay;
     DecisionExplainer explainer(
@@ -140,6 +140,9 @@ std::string TraceReplay::run(const std::vector<TraceLine>& lines,
     const bool explained = detail == Detail::explained;
     if (explained) {
         stage.controller->addObserver(explainer);
+    }
+    for (ControllerObserver* watcher : watchers) {
+        stage.controller->addObserver(*watcher);
     }
     for (const TraceLine& line : lines) {
         // A line comes before work due at its very moment: a recording notes a change of the
@@ -160,6 +163,9 @@ std::string TraceReplay::run(const std::vector<TraceLine>& lines,
     }
     const double end = lines.empty() ? start : lines.back().time;
     stage.queue.advanceTo(end + settle);
+    for (ControllerObserver* watcher : watchers) {
+        stage.controller->removeObserver(*watcher);
+    }
     if (explained) {
         stage.controller->removeObserver(explainer);
     }

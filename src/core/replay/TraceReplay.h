@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -38,10 +39,12 @@ class TraceReplay final : private ControllerObserver {
     };
 
     // `profiles`: the profile list to decide with, its first profile active; without it, the
-    // default profile, every action 0.
+    // default profile, every action 0. `watchers` are told what the controller decides too, for
+    // the whole replay.
     static std::string run(const std::vector<TraceLine>& lines,
                            const std::optional<std::vector<WorkProfile>>& profiles,
-                           Detail detail = Detail::decisions);
+                           Detail detail = Detail::decisions,
+                           std::span<ControllerObserver* const> watchers = {});
 
   private:
     TraceReplay() = default;
