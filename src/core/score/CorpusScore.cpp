@@ -3,20 +3,18 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <cstdio>
 
 #include "core/app/ControllerObserver.h"
 #include "core/replay/TraceReplay.h"
 #include "core/score/ScoreObserver.h"
+#include "core/trace/TraceNumbers.h"
 
 namespace tactora {
 
 namespace {
 
 std::string fixed(double value, int decimals) {
-    std::array<char, 64> text{};
-    std::snprintf(text.data(), text.size(), "%.*f", decimals, value);
-    return text.data();
+    return trace::formatFixed(value, decimals);
 }
 
 std::string milliseconds(const std::vector<double>& latencies, double fraction) {

@@ -1,6 +1,7 @@
 #include "core/score/ScoreMode.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <ostream>
