@@ -1,11 +1,12 @@
 // Arbitrary bytes as a touch trace: reading must never crash; whatever it accepts must be
 // written back to text that reads again to the same values and is then written the same way,
-// and must replay to an end.
+// and must replay to an end, explained.
 #include <bit>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -32,9 +33,29 @@ bool same(double first, double second) {
            std::bit_cast<std::uint64_t>(first) == std::bit_cast<std::uint64_t>(second);
 }
 
+bool same(float first, float second) {
+    return (std::isnan(first) && std::isnan(second)) ||
+           std::bit_cast<std::uint32_t>(first) == std::bit_cast<std::uint32_t>(second);
+}
+
+bool sameShape(const std::optional<tactora::ContactShape>& first,
+               const std::optional<tactora::ContactShape>& second) {
+    if (!first || !second) {
+        return first.has_value() == second.has_value();
+    }
+    return same(first->size, second->size) && same(first->angle, second->angle) &&
+           same(first->majorAxis, second->majorAxis) && same(first->minorAxis, second->minorAxis);
+}
+
 bool sameFrame(const tactora::TraceFrame& first, const tactora::TraceFrame& second) {
-    if (first.fingers.size() != second.fingers.size()) {
+    if (first.fingers.size() != second.fingers.size() || first.device != second.device ||
+        first.shapes.size() != second.shapes.size()) {
         return false;
+    }
+    for (std::size_t i = 0; i < first.shapes.size(); ++i) {
+        if (!sameShape(first.shapes[i], second.shapes[i])) {
+            return false;
+        }
     }
     for (std::size_t i = 0; i < first.fingers.size(); ++i) {
         const tactora::Finger& a = first.fingers[i];
@@ -91,6 +112,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (again.error || !sameLines(reading.lines, again.lines) || written(again.lines) != once) {
         std::abort();
     }
-    tactora::TraceReplay::run(reading.lines, std::nullopt);
+    tactora::TraceReplay::run(reading.lines, std::nullopt, tactora::TraceReplay::Detail::explained);
     return 0;
 }

@@ -30,8 +30,9 @@ std::optional<std::vector<std::int64_t>> LinuxProgramEnvironment::appIconPixelWi
 
 void LinuxProgramEnvironment::runApplication() {
     std::cerr << "Tactora's interactive application needs macOS; here it runs as "
-                 "tactora --self-test, tactora --check-localization, tactora --probe or "
-                 "tactora --replay FILE [--profile FILE].\n";
+                 "tactora --self-test, tactora --check-localization, tactora --probe, "
+                 "tactora --replay FILE [--profile FILE] [--explain] or "
+                 "tactora --score DIRECTORY [--profile FILE].\n";
 }
 
 }  // namespace tactora

@@ -89,6 +89,15 @@ TEST_F(ProgramTest, AReplayPrintsWhatTheTraceMakesTheControllerDo) {
     EXPECT_EQ(environment.applicationRuns, 0);
 }
 
+TEST_F(ProgramTest, AScoreOfADirectoryWithoutLabelledTracesEndsWithStatusOne) {
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(run({"tactora", "--score", "/nonexistent"}), 1);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "replay.unreadable\n");
+    EXPECT_EQ(output, "");
+    EXPECT_EQ(environment.applicationRuns, 0);
+    EXPECT_EQ(environment.fakeSensor.starts, 0);
+}
+
 TEST_F(ProgramTest, GlobalsHoldTheMarkerAndTheLocalisedActionNames) {
     setStringTable(std::make_shared<MapStringTable>(
         std::map<std::string, std::string, std::less<>>{{"action.copy", "Copy"}}));

@@ -1,6 +1,6 @@
 // Replays every trace in tests/traces with the profiles kept there and compares the output with
-// the expected file beside it. Adding a trace recorded on a Mac is adding <name>.trace and its
-// <name>.expected.
+// the expected file beside it, and its explained replay with the explained file. Adding a trace
+// recorded on a Mac is adding <name>.trace, its <name>.expected and its <name>.explained.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -59,6 +59,18 @@ TEST_P(GoldenTrace, ReplaysToItsExpectedOutput) {
     const std::filesystem::path expected = base.string() + ".expected";
     ASSERT_TRUE(std::filesystem::exists(expected)) << expected;
     EXPECT_EQ(TraceReplay::run(reading.lines, profiles), contents(expected));
+}
+
+TEST_P(GoldenTrace, ExplainsItselfAsItsExplainedFileSays) {
+    const std::filesystem::path base = tracesDirectory() / GetParam();
+    const TraceReading reading = readTrace(contents(base.string() + ".trace"));
+    ASSERT_FALSE(reading.error) << describeTraceError(*reading.error);
+    const auto profiles = decodeProfiles(contents(tracesDirectory() / "profiles.json"));
+    ASSERT_TRUE(profiles);
+    const std::filesystem::path explained = base.string() + ".explained";
+    ASSERT_TRUE(std::filesystem::exists(explained)) << explained;
+    EXPECT_EQ(TraceReplay::run(reading.lines, profiles, TraceReplay::Detail::explained),
+              contents(explained));
 }
 
 TEST_P(GoldenTrace, SaysWhatItShows) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "core/trace/TraceFormat.h"
 #include "core/trace/TraceNumbers.h"
@@ -24,7 +25,7 @@ TraceError errorOf(const std::string& body) {
 }
 
 TEST(TraceFormat, WritesEveryEventAsDocumented) {
-    EXPECT_EQ(trace::header(), "tactora-trace 1");
+    EXPECT_EQ(trace::header(), "tactora-trace 2");
     EXPECT_EQ(trace::formatLine({1042.5, TraceFrame{{Finger(3, 0.5, 0.25), Finger(-1, 1, 0)}}}),
               "1042.5 frame 3:0.5,0.25 -1:1,0");
     EXPECT_EQ(trace::formatLine({1.0, TraceFrame{}}), "1.0 frame");
@@ -120,7 +121,7 @@ TEST(TraceReader, NamesTheHeaderWhenItIsMissingOrWrong) {
 }
 
 TEST(TraceReader, RefusesAVersionNewerThanItKnows) {
-    EXPECT_EQ(readTrace("tactora-trace 2\n1.0 frame\n").error,
+    EXPECT_EQ(readTrace("tactora-trace 3\n1.0 frame\n").error,
               (TraceError{1, TraceProblem::version}));
 }
 
@@ -204,6 +205,111 @@ TEST(TraceFormat, TimesEndBelowTwoToTheFiftyThird) {
     EXPECT_FALSE(
         trace::parseSeconds("100000000000000000000000000000000000000000000000000000000000"));
     EXPECT_EQ(errorOf("9007199254740992.0 frame\n"), (TraceError{2, TraceProblem::time}));
+}
+
+TEST(TraceFormat, WritesDevicesAndShapesOnlyWhereALineHasThem) {
+    const ContactShape palm{3.5F, 1.25F, 18.5F, 11.0F};
+    EXPECT_EQ(trace::formatLine(
+                  {1.0, TraceDevice{7, TraceDeviceKind::magicTrackpad, "Magic Trackpad 2"}}),
+              "1.0 device 7 magic-trackpad Magic Trackpad 2");
+    EXPECT_EQ(trace::formatLine({1.0, TraceDevice{0, TraceDeviceKind::builtInTrackpad, ""}}),
+              "1.0 device 0 built-in-trackpad -");
+    EXPECT_EQ(trace::formatLine({1.0, TraceDevice{1, TraceDeviceKind::other, " two\nlines "}}),
+              "1.0 device 1 other two lines");
+    EXPECT_EQ(trace::formatLine({1.0, TraceDevice{2, TraceDeviceKind::magicMouse, "Mouse"}}),
+              "1.0 device 2 magic-mouse Mouse");
+    EXPECT_EQ(trace::formatLine({2.0, TraceFrame{{Finger(1, 0.5, 0.25), Finger(2, 0.75, 0.5)},
+                                                 {std::nullopt, palm},
+                                                 7}}),
+              "2.0 frame @7 1:0.5,0.25 2:0.75,0.5/3.5,1.25,18.5,11");
+    EXPECT_EQ(trace::formatLine({2.0, TraceFrame{{}, {}, 7}}), "2.0 frame @7");
+    EXPECT_EQ(trace::formatLine({3.0, TraceMouseEvent{event::leftMouseDown, 0, true, 7}}),
+              "3.0 left-down 0 @7");
+    EXPECT_EQ(trace::formatLine({3.0, TraceMouseEvent{event::scrollWheel, 0, true, 7}}),
+              "3.0 scroll @7");
+}
+
+TEST(TraceReader, ReadsDevicesAndShapesBackAsWritten) {
+    const std::vector<TraceLine> lines = {
+        {1.0, TraceDevice{7, TraceDeviceKind::magicTrackpad, "Magic Trackpad"}},
+        {1.0, TraceDevice{18446744073709551615ULL, TraceDeviceKind::magicMouse, "Mouse"}},
+        {1.5, TraceFrame{{Finger(1, 0.5, 0.5)}, {ContactShape{0.75F, -0.5F, 9.25F, 8.0F}}, 7}},
+        {1.6, TraceFrame{{Finger(1, 0.5, 0.5), Finger(4, 0.25, 0.125)},
+                         {std::nullopt, ContactShape{2, 0, 20, 12}},
+                         18446744073709551615ULL}},
+        {1.7, TraceMouseEvent{event::rightMouseUp, 1, true, 7}},
+        {1.8, TraceFrame{{}, {}, 7}},
+    };
+    std::string text = trace::header() + "\n";
+    for (const TraceLine& line : lines) {
+        text += trace::formatLine(line) + "\n";
+    }
+    const TraceReading reading = readTrace(text);
+    EXPECT_FALSE(reading.error);
+    EXPECT_EQ(reading.lines, lines);
+}
+
+TEST(TraceReader, ReadsAFirstVersionTraceAsTheMagicMouseWithoutShapes) {
+    const TraceReading reading =
+        readTrace("tactora-trace 1\n1.0 frame 1:0.5,0.5\n1.1 left-down 0 mouse\n");
+    ASSERT_FALSE(reading.error);
+    ASSERT_EQ(reading.lines.size(), 2U);
+    const auto& frame = std::get<TraceFrame>(reading.lines[0].event);
+    EXPECT_FALSE(frame.device);
+    EXPECT_TRUE(frame.shapes.empty());
+    const auto& mouse = std::get<TraceMouseEvent>(reading.lines[1].event);
+    EXPECT_TRUE(mouse.fromMouse);
+    EXPECT_FALSE(mouse.device);
+}
+
+TEST(TraceReader, ShapesAreKeptPerContactInFrameOrder) {
+    const TraceReading reading =
+        readTrace("tactora-trace 2\n1.0 frame 1:0.5,0.5/1,2,3,4 2:0.5,0.5 3:0.5,0.5\n");
+    ASSERT_FALSE(reading.error);
+    const auto& frame = std::get<TraceFrame>(reading.lines.at(0).event);
+    ASSERT_EQ(frame.shapes.size(), 3U);
+    EXPECT_EQ(frame.shapes[0], (ContactShape{1, 2, 3, 4}));
+    EXPECT_FALSE(frame.shapes[1]);
+    EXPECT_FALSE(frame.shapes[2]);
+}
+
+TEST(TraceReader, ADeviceNameIsTheRestOfTheLine) {
+    const TraceReading reading = readTrace(
+        "tactora-trace 2\n1.0 device 3 magic-mouse   Anna’s  Mouse  \r\n1.0 device 4 other -\n");
+    ASSERT_FALSE(reading.error);
+    EXPECT_EQ(std::get<TraceDevice>(reading.lines.at(0).event).name, "Anna’s  Mouse");
+    EXPECT_EQ(std::get<TraceDevice>(reading.lines.at(1).event).name, "");
+}
+
+TEST(TraceReader, NamesWhatIsWrongWithDevicesAndShapes) {
+    const std::string declared = "1.0 device 7 magic-mouse Mouse\n";
+    EXPECT_EQ(errorOf("1.0 device\n"), (TraceError{2, TraceProblem::device}));
+    EXPECT_EQ(errorOf("1.0 device x magic-mouse M\n"), (TraceError{2, TraceProblem::device}));
+    EXPECT_EQ(errorOf("1.0 device -1 magic-mouse M\n"), (TraceError{2, TraceProblem::device}));
+    EXPECT_EQ(errorOf("1.0 device 1 pen M\n"), (TraceError{2, TraceProblem::device}));
+    EXPECT_EQ(errorOf("1.0 device 1 magic-mouse\n"), (TraceError{2, TraceProblem::device}));
+    EXPECT_EQ(errorOf("1.0 frame @7 1:0.5,0.5\n"), (TraceError{2, TraceProblem::unknownDevice}));
+    EXPECT_EQ(errorOf(declared + "1.0 frame @8\n"), (TraceError{3, TraceProblem::unknownDevice}));
+    EXPECT_EQ(errorOf(declared + "1.0 frame @\n"), (TraceError{3, TraceProblem::unknownDevice}));
+    EXPECT_EQ(errorOf(declared + "1.0 left-down 0 @8\n"),
+              (TraceError{3, TraceProblem::unknownDevice}));
+    EXPECT_EQ(errorOf(declared + "1.0 scroll @x\n"), (TraceError{3, TraceProblem::unknownDevice}));
+    EXPECT_EQ(errorOf(declared + "1.0 frame 1:0.5,0.5 @7\n"),
+              (TraceError{3, TraceProblem::contact}));
+    EXPECT_EQ(errorOf(declared + "1.0 scroll @7 mouse\n"), (TraceError{3, TraceProblem::extra}));
+    for (const char* contact : {"1:0.5,0.5/", "1:0.5,0.5/1,2,3", "1:0.5,0.5/1,2,3,4,5",
+                                "1:0.5,0.5/1,2,,4", "1:0.5,0.5/1,2,3,x", "1:0.5,0.5/1/2"}) {
+        EXPECT_EQ(errorOf(std::string("1.0 frame ") + contact + "\n"),
+                  (TraceError{2, TraceProblem::contact}))
+            << contact;
+    }
+}
+
+TEST(TraceReader, ADeviceMayBeDeclaredAgain) {
+    const TraceReading reading = readTrace(
+        "tactora-trace 2\n1.0 device 7 magic-mouse A\n2.0 device 7 other B\n3.0 frame @7\n");
+    ASSERT_FALSE(reading.error);
+    EXPECT_EQ(reading.lines.size(), 3U);
 }
 
 }  // namespace

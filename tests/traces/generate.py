@@ -7,6 +7,10 @@ so running this again gives the same files. The expected replay output beside ea
 
     tactora --replay <name>.trace --profile profiles.json > <name>.expected
 
+and its explained replay (<name>.explained) with
+
+    tactora --replay <name>.trace --profile profiles.json --explain > <name>.explained
+
 and must be checked by hand against what the recogniser and the controller are meant to do.
 
 profiles.json holds two profiles. "Every gesture" (active first) maps

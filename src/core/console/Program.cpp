@@ -7,6 +7,7 @@
 #include "core/app/Globals.h"
 #include "core/console/ConsoleModes.h"
 #include "core/replay/ReplayMode.h"
+#include "core/score/ScoreMode.h"
 
 namespace tactora {
 
@@ -26,6 +27,8 @@ int runProgram(std::span<const std::string> arguments, ProgramEnvironment& envir
         runProbe(environment);
     } else if (contains(arguments, "--replay")) {
         return runReplay(arguments, std::cout, std::cerr);
+    } else if (contains(arguments, "--score")) {
+        return runScore(arguments, std::cout, std::cerr);
     } else {
         environment.runApplication();
     }

@@ -197,10 +197,16 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("trace.error.process", {integerArgument}),
     LocalizationKey("trace.error.switch", {integerArgument}),
     LocalizationKey("trace.error.extra", {integerArgument}),
+    LocalizationKey("trace.error.device", {integerArgument}),
+    LocalizationKey("trace.error.undeclared", {integerArgument}),
     // The replay's own failures; the argument is the file's path.
     LocalizationKey("replay.usage"),
     LocalizationKey("replay.unreadable", {stringArgument}),
     LocalizationKey("replay.profiles", {stringArgument}),
+    // The score's own failures: the directory, or the label file and the line.
+    LocalizationKey("score.usage"),
+    LocalizationKey("score.empty", {stringArgument}),
+    LocalizationKey("score.labels", {stringArgument, integerArgument}),
     // Key names in shortcut labels.
     LocalizationKey("key.space"),
     LocalizationKey("key.return"),

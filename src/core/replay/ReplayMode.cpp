@@ -17,7 +17,21 @@ namespace tactora {
 
 namespace {
 
-// The argument after `flag`: nothing when the flag is absent, empty when it ends the list.
+bool hasDistinctIDs(const std::vector<WorkProfile>& profiles) {
+    std::set<Uuid> ids;
+    for (const WorkProfile& profile : profiles) {
+        ids.insert(profile.id);
+    }
+    return ids.size() == profiles.size();
+}
+
+int fail(std::ostream& err, const std::string& message) {
+    err << message << '\n' << std::flush;
+    return 1;
+}
+
+}  // namespace
+
 std::optional<std::string> valueAfter(std::span<const std::string> arguments,
                                       std::string_view flag) {
     const auto found = std::ranges::find(arguments, flag);
@@ -28,15 +42,6 @@ std::optional<std::string> valueAfter(std::span<const std::string> arguments,
     return value == arguments.end() ? std::string() : *value;
 }
 
-bool hasDistinctIDs(const std::vector<WorkProfile>& profiles) {
-    std::set<Uuid> ids;
-    for (const WorkProfile& profile : profiles) {
-        ids.insert(profile.id);
-    }
-    return ids.size() == profiles.size();
-}
-
-// The profile list in `path`, sanitised as the store would; nothing when it is not one.
 std::optional<std::vector<WorkProfile>> profileList(const std::string& text) {
     std::optional<std::vector<WorkProfile>> profiles = decodeProfiles(text);
     if (!profiles || profiles->empty() || !hasDistinctIDs(*profiles)) {
@@ -47,13 +52,6 @@ std::optional<std::vector<WorkProfile>> profileList(const std::string& text) {
     }
     return profiles;
 }
-
-int fail(std::ostream& err, const std::string& message) {
-    err << message << '\n' << std::flush;
-    return 1;
-}
-
-}  // namespace
 
 int runReplay(std::span<const std::string> arguments, std::ostream& out, std::ostream& err) {
     const std::optional<std::string> tracePath = valueAfter(arguments, "--replay");
@@ -80,7 +78,11 @@ int runReplay(std::span<const std::string> arguments, std::ostream& out, std::os
             return fail(err, L("replay.profiles", *profilePath));
         }
     }
-    out << TraceReplay::run(reading.lines, profiles) << std::flush;
+    const bool explain = std::ranges::find(arguments, "--explain") != arguments.end();
+    out << TraceReplay::run(
+               reading.lines, profiles,
+               explain ? TraceReplay::Detail::explained : TraceReplay::Detail::decisions)
+        << std::flush;
     return 0;
 }
 

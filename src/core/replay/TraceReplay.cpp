@@ -3,9 +3,9 @@
 #include <memory>
 #include <type_traits>
 
-#include "core/actions/ExtraActionInfo.h"
 #include "core/app/Controller.h"
-#include "core/app/Globals.h"
+#include "core/explain/DecisionExplainer.h"
+#include "core/explain/DecisionWords.h"
 #include "core/frontmost/FrontmostProfiles.h"
 #include "core/profiles/MemoryPreferences.h"
 #include "core/profiles/ProfileJson.h"
@@ -20,17 +20,6 @@ namespace {
 
 std::string seconds(double time) {
     return trace::formatFixed(time, 3);
-}
-
-// An action by the key of its name, like the fifteen.
-std::string actionKey(ActionIndex action) {
-    if (const std::optional<ExtraAction> extra = action::extra(action)) {
-        return std::string(catalogue::info(*extra).textKey);
-    }
-    if (action < 0 || static_cast<std::size_t>(action) >= actionKeys.size()) {
-        return std::to_string(action);
-    }
-    return std::string(actionKeys[static_cast<std::size_t>(action)]);
 }
 
 std::shared_ptr<MemoryPreferences> defaultsWith(
@@ -101,6 +90,10 @@ struct Stage {
         controller->toggle();
     }
 
+    // Which device a frame came from is not told apart here: every frame reaches the one
+    // recogniser, as the Magic Mouse's do.
+    void apply(const TraceDevice& /*device*/) {}
+
     void apply(const TraceActive& active) {
         workspace.active = active.active;
         if (active.active) {
@@ -135,12 +128,22 @@ struct Stage {
 }  // namespace
 
 std::string TraceReplay::run(const std::vector<TraceLine>& lines,
-                             const std::optional<std::vector<WorkProfile>>& profiles) {
+                             const std::optional<std::vector<WorkProfile>>& profiles, Detail detail,
+                             std::span<ControllerObserver* const> watchers) {
     const double start = lines.empty() ? 0 : lines.front().time;
     TraceReplay replay;
+    DecisionExplainer explainer(
+        [&replay](double time, const std::string& what) { replay.print(time, what); });
     Stage stage(start, defaultsWith(profiles));
     stage.launch();
     stage.controller->addObserver(replay);
+    const bool explained = detail == Detail::explained;
+    if (explained) {
+        stage.controller->addObserver(explainer);
+    }
+    for (ControllerObserver* watcher : watchers) {
+        stage.controller->addObserver(*watcher);
+    }
     for (const TraceLine& line : lines) {
         // A line comes before work due at its very moment: a recording notes a change of the
         // application in front when the waiting work looks at it, just before that work runs.
@@ -160,6 +163,12 @@ std::string TraceReplay::run(const std::vector<TraceLine>& lines,
     }
     const double end = lines.empty() ? start : lines.back().time;
     stage.queue.advanceTo(end + settle);
+    for (ControllerObserver* watcher : watchers) {
+        stage.controller->removeObserver(*watcher);
+    }
+    if (explained) {
+        stage.controller->removeObserver(explainer);
+    }
     stage.controller->removeObserver(replay);
     replay.output_ += replay.summary(end - start);
     return replay.output_;
@@ -173,7 +182,7 @@ void TraceReplay::gestureRecognised(const GestureNote& note) {
 
 void TraceReplay::actionPerformed(const ActionNote& note) {
     ++actions_;
-    std::string what = "action " + actionKey(note.action);
+    std::string what = "action " + explain::actionWord(note.action);
     if (note.asButton) {
         what += " button " + std::to_string(static_cast<std::uint32_t>(*note.asButton));
     }

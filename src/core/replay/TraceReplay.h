@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -20,17 +22,29 @@ namespace tactora {
 //   <t> action <action key> button <number>    a physical press was rewritten into that button
 //   summary taps=<n> clicks=<n> actions=<n> frames=<n> mouse-events=<n> seconds=<s>
 //
-// <t> is the virtual uptime in seconds with three decimals. Main thread only; the string table
-// must be installed (the controller's texts are looked up, though none is printed).
+// Explained, it also says, in time order among those lines, why every touch that became no
+// gesture was dropped, why an action was not carried out, the fate of every mouse event and the
+// ups sent for held presses (see DecisionExplainer.h). <t> is the virtual uptime in seconds with
+// three decimals. Main thread only; the string table must be installed (the controller's texts are
+// looked up, though none is printed).
 class TraceReplay final : private ControllerObserver {
   public:
     // Scheduled work still runs this long after the trace's last line.
     static constexpr double settle = 1.0;
 
+    // How much a replay writes down.
+    enum class Detail : std::uint8_t {
+        decisions,  // the gestures, the actions and the summary
+        explained,  // and why everything else came to nothing
+    };
+
     // `profiles`: the profile list to decide with, its first profile active; without it, the
-    // default profile, every action 0.
+    // default profile, every action 0. `watchers` are told what the controller decides too, for
+    // the whole replay.
     static std::string run(const std::vector<TraceLine>& lines,
-                           const std::optional<std::vector<WorkProfile>>& profiles);
+                           const std::optional<std::vector<WorkProfile>>& profiles,
+                           Detail detail = Detail::decisions,
+                           std::span<ControllerObserver* const> watchers = {});
 
   private:
     TraceReplay() = default;

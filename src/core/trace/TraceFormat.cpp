@@ -1,6 +1,8 @@
 #include "core/trace/TraceFormat.h"
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <type_traits>
 #include <utility>
 
@@ -42,15 +44,38 @@ std::string word(const std::string& text) {
     return result;
 }
 
+std::string deviceReference(std::uint64_t device) {
+    return '@' + std::to_string(device);
+}
+
+void appendShape(std::string& text, const ContactShape& shape) {
+    text += '/';
+    text += formatPosition(shape.size);
+    text += ',';
+    text += formatPosition(shape.angle);
+    text += ',';
+    text += formatPosition(shape.majorAxis);
+    text += ',';
+    text += formatPosition(shape.minorAxis);
+}
+
 std::string describe(const TraceFrame& frame) {
     std::string text = "frame";
-    for (const Finger& finger : frame.fingers) {
+    if (frame.device) {
+        text += ' ';
+        text += deviceReference(*frame.device);
+    }
+    for (std::size_t index = 0; index < frame.fingers.size(); ++index) {
+        const Finger& finger = frame.fingers[index];
         text += ' ';
         text += std::to_string(finger.id);
         text += ':';
         text += formatPosition(static_cast<float>(finger.x));
         text += ',';
         text += formatPosition(static_cast<float>(finger.y));
+        if (index < frame.shapes.size() && frame.shapes[index]) {
+            appendShape(text, *frame.shapes[index]);
+        }
     }
     return text;
 }
@@ -62,8 +87,30 @@ std::string describe(const TraceMouseEvent& mouse) {
         text += std::to_string(mouse.button);
     }
     text += ' ';
-    text += source(mouse.fromMouse);
+    text += mouse.device && mouse.fromMouse ? deviceReference(*mouse.device)
+                                            : std::string(source(mouse.fromMouse));
     return text;
+}
+
+// The rest of the line: line breaks become spaces, and "-" stands for no name.
+std::string deviceName(const std::string& name) {
+    std::string result = name;
+    for (char& c : result) {
+        if (c == '\n' || c == '\r') {
+            c = ' ';
+        }
+    }
+    const std::size_t start = result.find_first_not_of(" \t");
+    if (start == std::string::npos) {
+        return "-";
+    }
+    const std::size_t end = result.find_last_not_of(" \t");
+    return result.substr(start, end - start + 1);
+}
+
+std::string describe(const TraceDevice& device) {
+    return "device " + std::to_string(device.id) + ' ' + std::string(deviceKindWord(device.kind)) +
+           ' ' + deviceName(device.name);
 }
 
 std::string describe(const TraceProfileSelected& profile) {
@@ -94,6 +141,20 @@ std::string header() {
 std::string formatLine(const TraceLine& line) {
     return formatSeconds(line.time) + ' ' +
            std::visit([](const auto& event) { return describe(event); }, line.event);
+}
+
+std::string_view deviceKindWord(TraceDeviceKind kind) {
+    switch (kind) {
+        case TraceDeviceKind::magicMouse:
+            return "magic-mouse";
+        case TraceDeviceKind::magicTrackpad:
+            return "magic-trackpad";
+        case TraceDeviceKind::builtInTrackpad:
+            return "built-in-trackpad";
+        case TraceDeviceKind::other:
+            break;
+    }
+    return "other";
 }
 
 std::string_view mouseEventWord(EventType type) {

@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
+#include "core/gestures/ContactShape.h"
 #include "core/gestures/Finger.h"
 #include "core/platform/ContactFrame.h"
 #include "core/platform/EventTypes.h"
@@ -18,18 +20,51 @@ struct TraceFrame {
     // As many contacts as the live path passes on from one frame of the surface.
     static constexpr std::size_t mostContacts = ContactFrame::capacity;
 
+    TraceFrame() = default;
+    explicit TraceFrame(std::vector<Finger> contacts,
+                        std::vector<std::optional<ContactShape>> contactShapes = {},
+                        std::optional<std::uint64_t> fromDevice = std::nullopt)
+        : fingers(std::move(contacts)), shapes(std::move(contactShapes)), device(fromDevice) {}
+
     std::vector<Finger> fingers;
+    // Empty when the trace carries no shapes; otherwise one entry per finger, in finger order,
+    // each empty when that contact's shape was not recorded.
+    std::vector<std::optional<ContactShape>> shapes;
+    // The touch device the frame came from, as a `device` line declared it; nothing for the
+    // Magic Mouse of a trace that names no devices.
+    std::optional<std::uint64_t> device;
 
     bool operator==(const TraceFrame&) const = default;
 };
 
 // A mouse event that reached the event tap: a button's down, drag or up, or a scroll.
 struct TraceMouseEvent {
+    TraceMouseEvent() = default;
+    TraceMouseEvent(EventType eventType, std::int64_t buttonNumber, bool fromTouchDevice,
+                    std::optional<std::uint64_t> fromDevice = std::nullopt)
+        : type(eventType), button(buttonNumber), fromMouse(fromTouchDevice), device(fromDevice) {}
+
     EventType type = event::leftMouseDown;
     std::int64_t button = 0;
-    bool fromMouse = true;  // the sender was the touch mouse, not another pointing device
+    bool fromMouse = true;  // the sender was a touch device in use, not another pointing device
+    // Which touch device sent it, as a `device` line declared it; nothing for the Magic Mouse
+    // of a trace that names no devices, and for other pointing devices.
+    std::optional<std::uint64_t> device;
 
     bool operator==(const TraceMouseEvent&) const = default;
+};
+
+// The kinds of touch device a trace names.
+enum class TraceDeviceKind { magicMouse, magicTrackpad, builtInTrackpad, other };
+
+// A touch device that later lines refer to by `id`. Declaring an id again replaces its kind
+// and name from that line on.
+struct TraceDevice {
+    std::uint64_t id = 0;
+    TraceDeviceKind kind = TraceDeviceKind::magicMouse;
+    std::string name;  // for people; may hold spaces, never a line break
+
+    bool operator==(const TraceDevice&) const = default;
 };
 
 // The user selected the work profile with this id (the canonical UUID text).
@@ -62,7 +97,7 @@ struct TraceActive {
 };
 
 using TraceEvent = std::variant<TraceFrame, TraceMouseEvent, TraceProfileSelected,
-                                TraceFrontApplication, TraceGestures, TraceActive>;
+                                TraceFrontApplication, TraceGestures, TraceActive, TraceDevice>;
 
 // One line of a trace: when (seconds of system uptime) and what.
 struct TraceLine {

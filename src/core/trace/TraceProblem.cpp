@@ -38,6 +38,10 @@ const char* keyOf(TraceProblem problem) {
             return "trace.error.switch";
         case TraceProblem::extra:
             return "trace.error.extra";
+        case TraceProblem::device:
+            return "trace.error.device";
+        case TraceProblem::unknownDevice:
+            return "trace.error.undeclared";
     }
     return "trace.error.header";
 }

@@ -1,9 +1,12 @@
 #include "core/trace/TraceReader.h"
 
+#include <array>
 #include <charconv>
 #include <cstdint>
+#include <set>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "core/profiles/Uuid.h"
 #include "core/trace/TraceFormat.h"
@@ -33,6 +36,17 @@ class Words {
     }
 
     bool atEnd() const { return rest_.find_first_not_of(' ') == std::string_view::npos; }
+
+    // Everything left on the line, without the spaces, tabs and carriage returns around it.
+    std::string_view rest() {
+        constexpr std::string_view blank = " \t\r";
+        const std::size_t start = rest_.find_first_not_of(blank);
+        std::string_view text =
+            start == std::string_view::npos ? std::string_view() : rest_.substr(start);
+        text.remove_suffix(text.size() - (text.find_last_not_of(blank) + 1));
+        rest_ = {};
+        return text;
+    }
 
   private:
     std::string_view rest_;
@@ -77,6 +91,40 @@ Parsed failed(TraceProblem problem) {
     return {std::nullopt, problem};
 }
 
+// The ids of the devices declared so far.
+using Devices = std::set<std::uint64_t>;
+
+// Four 32-bit values separated by commas: size, angle, major and minor axis.
+std::optional<ContactShape> parseShape(std::string_view text) {
+    std::array<float, 4> values{};
+    for (std::size_t index = 0; index < values.size(); ++index) {
+        const bool last = index + 1 == values.size();
+        const std::size_t comma = last ? text.size() : text.find(',');
+        if (comma == std::string_view::npos) {
+            return std::nullopt;
+        }
+        const std::optional<float> value = trace::parsePosition(text.substr(0, comma));
+        if (!value) {
+            return std::nullopt;
+        }
+        values.at(index) = *value;
+        text.remove_prefix(last ? text.size() : comma + 1);
+    }
+    return ContactShape{values[0], values[1], values[2], values[3]};
+}
+
+// "@<id>" naming a declared device; nothing for anything else.
+std::optional<std::uint64_t> parseDeviceReference(std::string_view word, const Devices& devices) {
+    if (!word.starts_with('@')) {
+        return std::nullopt;
+    }
+    const auto id = parseInteger<std::uint64_t>(word.substr(1));
+    if (!id || !devices.contains(*id)) {
+        return std::nullopt;
+    }
+    return id;
+}
+
 // One contact, or what is wrong with it.
 struct ParsedContact {
     std::optional<Finger> finger;
@@ -101,10 +149,19 @@ ParsedContact parseContact(std::string_view text) {
     return {Finger(*id.value, static_cast<double>(*x), static_cast<double>(*y))};
 }
 
-Parsed parseFrame(Words& words) {
+Parsed parseFrame(Words& words, const Devices& devices) {
     TraceFrame frame;
-    while (const auto word = words.next()) {
-        const ParsedContact contact = parseContact(*word);
+    std::optional<std::string_view> word = words.next();
+    if (word && word->starts_with('@')) {
+        frame.device = parseDeviceReference(*word, devices);
+        if (!frame.device) {
+            return failed(TraceProblem::unknownDevice);
+        }
+        word = words.next();
+    }
+    for (; word; word = words.next()) {
+        const std::size_t slash = word->find('/');
+        const ParsedContact contact = parseContact(word->substr(0, slash));
         if (!contact.finger) {
             return failed(contact.problem);
         }
@@ -112,6 +169,18 @@ Parsed parseFrame(Words& words) {
             return failed(TraceProblem::crowded);
         }
         frame.fingers.push_back(*contact.finger);
+        if (slash == std::string_view::npos) {
+            continue;
+        }
+        const std::optional<ContactShape> shape = parseShape(word->substr(slash + 1));
+        if (!shape) {
+            return failed(TraceProblem::contact);
+        }
+        frame.shapes.resize(frame.fingers.size());
+        frame.shapes.back() = shape;
+    }
+    if (!frame.shapes.empty()) {
+        frame.shapes.resize(frame.fingers.size());
     }
     return {frame};
 }
@@ -147,7 +216,7 @@ std::optional<EventType> mouseEventType(std::string_view word) {
     return std::nullopt;
 }
 
-Parsed parseMouseEvent(EventType type, Words& words) {
+Parsed parseMouseEvent(EventType type, Words& words, const Devices& devices) {
     TraceMouseEvent mouse{type, 0, true};
     if (type != event::scrollWheel) {
         const auto word = words.next();
@@ -157,12 +226,44 @@ Parsed parseMouseEvent(EventType type, Words& words) {
         }
         mouse.button = *button;
     }
-    const std::optional<bool> fromMouse = parseSource(words.next());
+    const std::optional<std::string_view> source = words.next();
+    if (source && source->starts_with('@')) {
+        mouse.device = parseDeviceReference(*source, devices);
+        if (!mouse.device) {
+            return failed(TraceProblem::unknownDevice);
+        }
+        return {mouse};
+    }
+    const std::optional<bool> fromMouse = parseSource(source);
     if (!fromMouse) {
         return failed(TraceProblem::source);
     }
     mouse.fromMouse = *fromMouse;
     return {mouse};
+}
+
+std::optional<TraceDeviceKind> parseDeviceKind(std::optional<std::string_view> word) {
+    for (const TraceDeviceKind kind : {TraceDeviceKind::magicMouse, TraceDeviceKind::magicTrackpad,
+                                       TraceDeviceKind::builtInTrackpad, TraceDeviceKind::other}) {
+        if (word == trace::deviceKindWord(kind)) {
+            return kind;
+        }
+    }
+    return std::nullopt;
+}
+
+Parsed parseDevice(Words& words, Devices& devices) {
+    const auto word = words.next();
+    const std::optional<std::uint64_t> id =
+        word ? parseInteger<std::uint64_t>(*word) : std::nullopt;
+    const std::optional<TraceDeviceKind> kind = parseDeviceKind(words.next());
+    const std::string_view name = words.rest();
+    if (!id || !kind || name.empty()) {
+        return failed(TraceProblem::device);
+    }
+    TraceDevice device{id.value(), *kind, name == "-" ? std::string() : std::string(name)};
+    devices.insert(device.id);
+    return {std::move(device)};
 }
 
 Parsed parseProfile(Words& words) {
@@ -199,16 +300,18 @@ Parsed parseSwitch(std::string_view name, Words& words) {
     return {TraceActive{*on}};
 }
 
-Parsed parseEvent(Words& words) {
+Parsed parseEvent(Words& words, Devices& devices) {
     const auto name = words.next();
     if (!name) {
         return failed(TraceProblem::event);
     }
     Parsed parsed = failed(TraceProblem::event);
     if (*name == "frame") {
-        parsed = parseFrame(words);
+        parsed = parseFrame(words, devices);
     } else if (const std::optional<EventType> type = mouseEventType(*name)) {
-        parsed = parseMouseEvent(*type, words);
+        parsed = parseMouseEvent(*type, words, devices);
+    } else if (*name == "device") {
+        parsed = parseDevice(words, devices);
     } else if (*name == "profile") {
         parsed = parseProfile(words);
     } else if (*name == "front") {
@@ -284,6 +387,7 @@ TraceReading readTrace(std::string_view text) {
         return failure(1, TraceProblem::version);
     }
     TraceReading reading;
+    Devices devices;
     std::size_t number = 1;
     double previous = 0;
     while (const auto line = lines.next()) {
@@ -301,7 +405,7 @@ TraceReading readTrace(std::string_view text) {
             return failure(number, TraceProblem::timeBack);
         }
         previous = *time;
-        Parsed parsed = parseEvent(words);
+        Parsed parsed = parseEvent(words, devices);
         if (!parsed.event) {
             return failure(number, parsed.problem);
         }
