@@ -288,6 +288,11 @@ TEST(TraceReader, NamesWhatIsWrongWithDevicesAndShapes) {
     EXPECT_EQ(errorOf("1.0 device -1 magic-mouse M\n"), (TraceError{2, TraceProblem::device}));
     EXPECT_EQ(errorOf("1.0 device 1 pen M\n"), (TraceError{2, TraceProblem::device}));
     EXPECT_EQ(errorOf("1.0 device 1 magic-mouse\n"), (TraceError{2, TraceProblem::device}));
+    // Control characters are refused: written back, a carriage return would become a space.
+    EXPECT_EQ(errorOf("1.0 device 1 magic-mouse A\rB\n"), (TraceError{2, TraceProblem::device}));
+    EXPECT_EQ(errorOf(std::string("1.0 device 1 magic-mouse A\0B\n", 29)),
+              (TraceError{2, TraceProblem::device}));
+    EXPECT_EQ(errorOf("1.0 device 1 magic-mouse A\x7f\n"), (TraceError{2, TraceProblem::device}));
     EXPECT_EQ(errorOf("1.0 frame @7 1:0.5,0.5\n"), (TraceError{2, TraceProblem::unknownDevice}));
     EXPECT_EQ(errorOf(declared + "1.0 frame @8\n"), (TraceError{3, TraceProblem::unknownDevice}));
     EXPECT_EQ(errorOf(declared + "1.0 frame @\n"), (TraceError{3, TraceProblem::unknownDevice}));

@@ -1,5 +1,6 @@
 #include "core/trace/TraceReader.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdint>
@@ -252,13 +253,22 @@ std::optional<TraceDeviceKind> parseDeviceKind(std::optional<std::string_view> w
     return std::nullopt;
 }
 
+// A name for people: control characters (other than tabs) are no part of one, and the writer
+// could not give them back.
+bool isDeviceName(std::string_view name) {
+    return !name.empty() && std::ranges::none_of(name, [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return (byte < 0x20 && c != '\t') || byte == 0x7F;
+    });
+}
+
 Parsed parseDevice(Words& words, Devices& devices) {
     const auto word = words.next();
     const std::optional<std::uint64_t> id =
         word ? parseInteger<std::uint64_t>(*word) : std::nullopt;
     const std::optional<TraceDeviceKind> kind = parseDeviceKind(words.next());
     const std::string_view name = words.rest();
-    if (!id || !kind || name.empty()) {
+    if (!id || !kind || !isDeviceName(name)) {
         return failed(TraceProblem::device);
     }
     TraceDevice device{id.value(), *kind, name == "-" ? std::string() : std::string(name)};
