@@ -273,6 +273,18 @@ TEST(TraceReader, ShapesAreKeptPerContactInFrameOrder) {
     EXPECT_FALSE(frame.shapes[2]);
 }
 
+// The writer never puts a tab or a carriage return inside a word, so they separate words.
+TEST(TraceReader, TabsAndCarriageReturnsSeparateWords) {
+    const TraceReading reading =
+        readTrace("tactora-trace 1\n1.0\tfront 852 com.example.Mail\r\n2.0 front 9 a\tb\n");
+    ASSERT_TRUE(reading.error);
+    EXPECT_EQ(*reading.error, (TraceError{3, TraceProblem::extra}));
+    const TraceReading first = readTrace("tactora-trace 1\n1.0\tfront 852 com.example.Mail\r\n");
+    ASSERT_FALSE(first.error);
+    EXPECT_EQ(std::get<TraceFrontApplication>(first.lines.at(0).event).bundleID,
+              "com.example.Mail");
+}
+
 TEST(TraceReader, ADeviceNameIsTheRestOfTheLine) {
     const TraceReading reading = readTrace(
         "tactora-trace 2\n1.0 device 3 magic-mouse   Anna’s  Mouse  \r\n1.0 device 4 other -\n");

@@ -17,39 +17,41 @@ namespace tactora {
 
 namespace {
 
-// The words of one line, taken one at a time.
+// The words of one line, taken one at a time. Spaces, tabs and carriage returns separate
+// them: the writer never puts one inside a word, so a word read is written back as it was.
 class Words {
   public:
     explicit Words(std::string_view line) : rest_(line) {}
 
     // The next word, or nothing at the end of the line.
     std::optional<std::string_view> next() {
-        const std::size_t start = rest_.find_first_not_of(' ');
+        const std::size_t start = rest_.find_first_not_of(separators);
         if (start == std::string_view::npos) {
             rest_ = {};
             return std::nullopt;
         }
         rest_.remove_prefix(start);
-        const std::size_t end = std::min(rest_.find(' '), rest_.size());
+        const std::size_t end = std::min(rest_.find_first_of(separators), rest_.size());
         const std::string_view word = rest_.substr(0, end);
         rest_.remove_prefix(end);
         return word;
     }
 
-    bool atEnd() const { return rest_.find_first_not_of(' ') == std::string_view::npos; }
+    bool atEnd() const { return rest_.find_first_not_of(separators) == std::string_view::npos; }
 
     // Everything left on the line, without the spaces, tabs and carriage returns around it.
     std::string_view rest() {
-        constexpr std::string_view blank = " \t\r";
-        const std::size_t start = rest_.find_first_not_of(blank);
+        const std::size_t start = rest_.find_first_not_of(separators);
         std::string_view text =
             start == std::string_view::npos ? std::string_view() : rest_.substr(start);
-        text.remove_suffix(text.size() - (text.find_last_not_of(blank) + 1));
+        text.remove_suffix(text.size() - (text.find_last_not_of(separators) + 1));
         rest_ = {};
         return text;
     }
 
   private:
+    static constexpr std::string_view separators = " \t\r";
+
     std::string_view rest_;
 };
 
