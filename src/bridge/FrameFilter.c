@@ -7,6 +7,10 @@ enum {
     STATE_OFFSET = 20,
     X_OFFSET = 32,
     Y_OFFSET = 36,
+    SIZE_OFFSET = 48,
+    ANGLE_OFFSET = 56,
+    MAJOR_AXIS_OFFSET = 60,
+    MINOR_AXIS_OFFSET = 64,
     STATE_TOUCHING = 3,
     STATE_PRESSING = 4,
 };
@@ -42,6 +46,11 @@ bool TAFilterFrame(const void* contacts, int32_t count, TAFrame* frame) {
         frame->ids[frame->count] = readInt(record, ID_OFFSET);
         frame->xs[frame->count] = readFloat(record, X_OFFSET);
         frame->ys[frame->count] = readFloat(record, Y_OFFSET);
+        float* shape = frame->shapes + (size_t)frame->count * TA_SHAPE_VALUES;
+        shape[0] = readFloat(record, SIZE_OFFSET);
+        shape[1] = readFloat(record, ANGLE_OFFSET);
+        shape[2] = readFloat(record, MAJOR_AXIS_OFFSET);
+        shape[3] = readFloat(record, MINOR_AXIS_OFFSET);
         ++frame->count;
     }
     return true;

@@ -7,7 +7,8 @@
  *
  * A raw frame is `count` records of TA_CONTACT_RECORD_SIZE bytes each, in no particular
  * alignment: identifier (32-bit integer) at byte 16, state (32-bit integer) at 20, normalised
- * x (32-bit float) at 32 and y at 36.
+ * x (32-bit float) at 32 and y at 36; the contact's size at 48, the angle of its long axis at
+ * 56 and the lengths of its major and minor axes at 60 and 64 (32-bit floats each).
  */
 
 #include <stdbool.h>
@@ -21,6 +22,7 @@ enum {
     TA_CONTACT_RECORD_SIZE = 96,
     TA_MAX_FRAME_CONTACTS = 32, /* more than this is not a real frame */
     TA_MAX_KEPT_CONTACTS = 16,
+    TA_SHAPE_VALUES = 4, /* size, angle, major axis, minor axis */
 };
 
 /* The touching contacts of one frame, in record order. */
@@ -29,6 +31,7 @@ typedef struct TAFrame {
     int32_t ids[TA_MAX_KEPT_CONTACTS];
     float xs[TA_MAX_KEPT_CONTACTS];
     float ys[TA_MAX_KEPT_CONTACTS];
+    float shapes[TA_MAX_KEPT_CONTACTS * TA_SHAPE_VALUES];
 } TAFrame;
 
 /*

@@ -40,7 +40,7 @@ static int frame(void* source, const void* contacts, int32_t count, double times
     }
     TAFrameCallback target = atomic_load(&client);
     if (target != NULL) {
-        target(kept.count, kept.ids, kept.xs, kept.ys);
+        target(kept.count, kept.ids, kept.xs, kept.ys, kept.shapes);
     }
     return 0;
 }

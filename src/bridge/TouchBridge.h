@@ -21,12 +21,13 @@ extern "C" {
 #endif
 
 /*
- * Receives the contacts of one frame that touch the surface: `count` (0 to 16) identifiers and
- * normalised positions. The arrays are valid only during the call. Count 0 means every finger
- * has lifted. Runs on the framework's thread: copy the data and hand it on.
+ * Receives the contacts of one frame that touch the surface: `count` (0 to 16) identifiers,
+ * normalised positions and shapes (four values per contact: size, angle, major and minor axis).
+ * The arrays are valid only during the call. Count 0 means every finger has lifted. Runs on the
+ * framework's thread: copy the data and hand it on.
  */
-typedef void (*TAFrameCallback)(int32_t count, const int32_t* ids, const float* xs,
-                                const float* ys);
+typedef void (*TAFrameCallback)(int32_t count, const int32_t* ids, const float* xs, const float* ys,
+                                const float* shapes);
 
 /*
  * Stops any earlier connection, then connects to the mouse and delivers its frames to

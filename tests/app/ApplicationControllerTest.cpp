@@ -39,7 +39,7 @@ TEST(ApplicationControllerTest, TheControllerLivesOnWhileSetAfterItsMakerLetsGo)
     const std::int32_t ids[] = {1, 2};
     const float xs[] = {0.4F, 0.6F};
     const float ys[] = {0.5F, 0.5F};
-    Controller::frameCallback(2, ids, xs, ys);
+    Controller::frameCallback(2, ids, xs, ys, nullptr);
     h.queue.runReady();
     EXPECT_EQ(applicationController()->state().gesture.count, 2);
 
@@ -50,7 +50,7 @@ TEST(ApplicationControllerTest, TheControllerLivesOnWhileSetAfterItsMakerLetsGo)
 TEST(ApplicationControllerTest, FramesWithoutAControllerAreDropped) {
     const std::int32_t ids[] = {1};
     const float xs[] = {0.5F};
-    Controller::frameCallback(1, ids, xs, xs);
+    Controller::frameCallback(1, ids, xs, xs, nullptr);
     SUCCEED();
 }
 

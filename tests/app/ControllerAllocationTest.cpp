@@ -19,17 +19,20 @@ struct Contacts {
     std::array<std::int32_t, ContactFrame::capacity> ids{};
     std::array<float, ContactFrame::capacity> xs{};
     std::array<float, ContactFrame::capacity> ys{};
+    // Four values a contact: size, angle, major and minor axis, as the sensor reports them.
+    std::array<float, ContactFrame::capacity * 4> shapes{};
 
     Contacts() {
         for (std::size_t i = 0; i < ContactFrame::capacity; ++i) {
             ids.at(i) = static_cast<std::int32_t>(i + 1);
             xs.at(i) = 0.5F;
             ys.at(i) = 0.5F;
+            shapes.at(i * 4) = 0.8F;
         }
     }
 
     void deliver(std::int32_t count) const {
-        Controller::frameCallback(count, ids.data(), xs.data(), ys.data());
+        Controller::frameCallback(count, ids.data(), xs.data(), ys.data(), shapes.data());
     }
 };
 

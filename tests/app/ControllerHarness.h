@@ -97,7 +97,7 @@ class ControllerHarness {
     ControllerServices services() {
         return {clock,   queue,     workspace, permissions, poster,    eventTap, sensor,
                 shell,   view,      dialogs,   traceSink,   defaults,  surface,  files,
-                devices, loginItem, activity,  secureInput, resetTool, nullptr};
+                devices, loginItem, activity,  secureInput, resetTool, nullptr,  nullptr};
     }
 
     // Launches, then ticks the master switch as the user would.
@@ -119,7 +119,7 @@ class ControllerHarness {
             xs.push_back(x);
             ys.push_back(0.5F);
         }
-        Controller::frameCallback(fingers, ids.data(), xs.data(), ys.data());
+        Controller::frameCallback(fingers, ids.data(), xs.data(), ys.data(), nullptr);
         queue.runReady();
     }
 

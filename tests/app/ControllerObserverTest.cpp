@@ -13,8 +13,8 @@ namespace {
 // Writes down every note, one short line each, in the order told.
 class NoteTaker final : public ControllerObserver {
   public:
-    void frameReceived(std::span<const Finger> fingers, double /*time*/) override {
-        lines.push_back("frame " + std::to_string(fingers.size()));
+    void frameReceived(const FrameNote& note) override {
+        lines.push_back("frame " + std::to_string(note.fingers.size()));
     }
     void gestureRecognised(const GestureNote& note) override {
         lines.push_back((note.kind == GestureKind::tap ? "tap " : "click ") +

@@ -214,7 +214,7 @@ TEST_F(ControllerSensorTest, FramesReachTheControllerOnlyThroughTheMainQueue) {
     const std::int32_t ids[] = {1, 2};
     const float xs[] = {0.5F, 0.6F};
     const float ys[] = {0.5F, 0.5F};
-    Controller::frameCallback(2, ids, xs, ys);
+    Controller::frameCallback(2, ids, xs, ys, nullptr);
 
     EXPECT_EQ(h.c().state().gesture.count, 0);
     h.queue.runReady();
@@ -224,7 +224,7 @@ TEST_F(ControllerSensorTest, FramesReachTheControllerOnlyThroughTheMainQueue) {
 TEST_F(ControllerSensorTest, FrameWithMissingArraysIsAnEmptyFrame) {
     h.rest(2);
     const float xs[] = {0.5F, 0.6F};
-    Controller::frameCallback(2, nullptr, xs, xs);
+    Controller::frameCallback(2, nullptr, xs, xs, nullptr);
     h.queue.runReady();
 
     EXPECT_EQ(h.c().state().gesture.count, 0);
@@ -238,7 +238,7 @@ TEST_F(ControllerSensorTest, FrameBeyondSixteenContactsKeepsSixteen) {
 }
 
 TEST(ControllerSensorDeathTest, NegativeContactCountStopsTheProgram) {
-    EXPECT_DEATH(Controller::frameCallback(-1, nullptr, nullptr, nullptr), "");
+    EXPECT_DEATH(Controller::frameCallback(-1, nullptr, nullptr, nullptr, nullptr), "");
 }
 
 TEST(ControllerReconnectTest, ShowsTheSensorStatusWithItsErrorCode) {

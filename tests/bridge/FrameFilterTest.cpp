@@ -107,5 +107,22 @@ TEST(FrameFilter, CopiesIdentifierAndPositionOfUnalignedRecords) {
     EXPECT_FLOAT_EQ(result.frame.ys[0], 0.75f);
 }
 
+TEST(FrameFilter, CopiesEachTouchingContactsShapeBesideItsPosition) {
+    RawContact palm{5, kPressing, 0.5f, 0.2f};
+    palm.size = 4.5f;
+    palm.angle = 1.25f;
+    palm.majorAxis = 25.0f;
+    palm.minorAxis = 16.0f;
+    RawFrame raw({{1, kHovering, 0.1f, 0.1f}, palm}, 1);
+
+    Filtered result = filter(raw);
+
+    ASSERT_EQ(result.frame.count, 1);
+    EXPECT_FLOAT_EQ(result.frame.shapes[0], 4.5f);
+    EXPECT_FLOAT_EQ(result.frame.shapes[1], 1.25f);
+    EXPECT_FLOAT_EQ(result.frame.shapes[2], 25.0f);
+    EXPECT_FLOAT_EQ(result.frame.shapes[3], 16.0f);
+}
+
 }  // namespace
 }  // namespace tactora::testing

@@ -9,6 +9,7 @@ struct DeliveredContact {
     std::int32_t id;
     float x;
     float y;
+    float size = 0;  // the first of the contact's shape values
     bool operator==(const DeliveredContact&) const = default;
 };
 
@@ -20,10 +21,11 @@ class FrameRecorder {
     static const std::vector<std::vector<DeliveredContact>>& received() { return frames(); }
 
     static void record(std::int32_t count, const std::int32_t* ids, const float* xs,
-                       const float* ys) {
+                       const float* ys, const float* shapes) {
         std::vector<DeliveredContact> frame;
         for (std::int32_t index = 0; index < count; ++index) {
-            frame.push_back({ids[index], xs[index], ys[index]});
+            const float size = shapes == nullptr ? -1.0f : shapes[index * 4];
+            frame.push_back({ids[index], xs[index], ys[index], size});
         }
         frames().push_back(frame);
     }

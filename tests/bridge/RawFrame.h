@@ -14,6 +14,11 @@ struct RawContact {
     std::int32_t state;
     float x;
     float y;
+    // The contact's shape: size, angle of its long axis, its major and minor axes.
+    float size = 0;
+    float angle = 0;
+    float majorAxis = 0;
+    float minorAxis = 0;
 };
 
 inline constexpr std::int32_t kTouching = 3;
@@ -34,6 +39,10 @@ class RawFrame {
             std::memcpy(record + 20, &contacts[index].state, 4);
             std::memcpy(record + 32, &contacts[index].x, 4);
             std::memcpy(record + 36, &contacts[index].y, 4);
+            std::memcpy(record + 48, &contacts[index].size, 4);
+            std::memcpy(record + 56, &contacts[index].angle, 4);
+            std::memcpy(record + 60, &contacts[index].majorAxis, 4);
+            std::memcpy(record + 64, &contacts[index].minorAxis, 4);
         }
         count_ = static_cast<std::int32_t>(contacts.size());
     }

@@ -195,12 +195,14 @@ TEST_F(TouchBridge, StartEndsTheEarlierConnectionFirst) {
 TEST_F(TouchBridge, DeliversTheTouchingContactsOfAFrameToTheClient) {
     fake_.controls().addDevice(kMouse, true);
     ASSERT_EQ(start(), 1);
-    RawFrame raw(
-        {{4, kTouching, 0.25f, 0.5f}, {5, kHovering, 0.1f, 0.1f}, {6, kPressing, 0.75f, 1.0f}});
+    RawContact palm{6, kPressing, 0.75f, 1.0f};
+    palm.size = 4.5f;
+    RawFrame raw({{4, kTouching, 0.25f, 0.5f}, {5, kHovering, 0.1f, 0.1f}, palm});
 
     ASSERT_TRUE(fake_.controls().deliverFrame(raw.data(), raw.count()));
 
-    const std::vector<DeliveredContact> expected{{4, 0.25f, 0.5f}, {6, 0.75f, 1.0f}};
+    // Each with its shape's first value, its size.
+    const std::vector<DeliveredContact> expected{{4, 0.25f, 0.5f, 0.0f}, {6, 0.75f, 1.0f, 4.5f}};
     ASSERT_EQ(FrameRecorder::received().size(), 1u);
     EXPECT_EQ(FrameRecorder::received()[0], expected);
 }

@@ -170,7 +170,7 @@ TEST_F(ConsoleModesTest, ProbeHandsTheSensorACallbackThatIgnoresFrames) {
     ASSERT_NE(environment.fakeSensor.lastCallback, nullptr);
     const std::int32_t ids[] = {1};
     const float positions[] = {0.5F};
-    environment.fakeSensor.lastCallback(1, ids, positions, positions);
+    environment.fakeSensor.lastCallback(1, ids, positions, positions, nullptr);
 }
 
 }  // namespace

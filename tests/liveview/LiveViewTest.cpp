@@ -36,7 +36,7 @@ class LiveViewTest : public ::testing::Test {
 
 TEST_F(LiveViewTest, DrawsNothingUntilTheWindowIsVisible) {
     const std::array<Finger, 2> fingers{Finger(1, 0.5, 0.5), Finger(2, 0.6, 0.5)};
-    view->frameReceived(fingers, clock.now);
+    view->frameReceived({.fingers = fingers, .shapes = {}, .time = clock.now});
     view->gestureRecognised({GestureKind::tap, 2, action::copy, clock.now});
     view->refreshed(clock.now);
     EXPECT_EQ(surface.shows, 0U);

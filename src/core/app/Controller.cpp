@@ -25,6 +25,7 @@ Controller::Controller(Passkey /*unused*/, ControllerServices services)
     : services_(std::move(services)) {
     released_.reserve(releasedCapacity);
     frameFingers_.reserve(ContactFrame::capacity);
+    frameShapes_.reserve(ContactFrame::capacity);
     services_.view.setLiveText(L("live", std::int64_t{0}, state_.lastGesture, state_.lastAction));
 }
 

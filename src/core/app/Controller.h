@@ -22,6 +22,7 @@
 #include "core/app/GestureSwitch.h"
 #include "core/app/NamingMode.h"
 #include "core/app/ObserverList.h"
+#include "core/app/PendingTap.h"
 #include "core/app/Press.h"
 #include "core/app/ProfileSwitcher.h"
 #include "core/app/ProfileTitleSource.h"
@@ -31,6 +32,7 @@
 #include "core/gestures/GestureState.h"
 #include "core/keepon/LaunchPresence.h"
 #include "core/platform/ContactFrame.h"
+#include "core/platform/ContactShape.h"
 #include "core/platform/EventDisposition.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/MenuEntry.h"
@@ -142,11 +144,13 @@ class Controller final : public StatusDisplay,
     // and hands it to the main queue by value, where the application controller of the moment
     // receives it. Allocates nothing itself. A negative count stops the program.
     static void frameCallback(std::int32_t count, const std::int32_t* ids, const float* xs,
-                              const float* ys);
+                              const float* ys, const float* shapes);
 
-    // One contact frame, on the main thread: feeds the recogniser and schedules a recognised
-    // tap's action tapDelay seconds later.
-    void receive(std::span<const Finger> fingers);
+    // One contact frame, on the main thread, with its contacts' shapes when the sensor reports
+    // them (one per finger): feeds the recogniser, through the touch judge when there is one,
+    // and schedules a recognised tap's action tapDelay seconds later.
+    void receive(std::span<const Finger> fingers,
+                 std::span<const std::optional<ContactShape>> shapes = {});
 
     // --- Status display ----------------------------------------------------------------------
 
@@ -236,12 +240,8 @@ class Controller final : public StatusDisplay,
   private:
     static void receiveFrame(const ContactFrame& frame);
     void receive(const ContactFrame& frame);
-    void scheduleTap(std::int64_t fingers, ActionIndex action,
-                     const std::optional<SavedShortcut>& shortcut, const std::string& value,
-                     const GestureDispatchContext& context, double recognisedAt);
-    void performTap(std::int64_t fingers, ActionIndex action,
-                    const std::optional<SavedShortcut>& shortcut, const std::string& value,
-                    const GestureDispatchContext& context, double recognisedAt);
+    void scheduleTap(PendingTap tap);
+    void performTap(const PendingTap& tap);
 
     void performShortcut(const std::optional<SavedShortcut>& shortcut);
     void notifyDock(ActionIndex action, bool showDesktop);
@@ -301,7 +301,9 @@ class Controller final : public StatusDisplay,
     bool statusItemCreated_ = false;
     // What the status item shows now, so that an unchanged look is not pushed again.
     std::optional<StatusItemAppearance> shownAppearance_;
-    std::vector<Finger> frameFingers_;  // reused for every frame, so frames allocate nothing
+    // Reused for every frame, so frames allocate nothing.
+    std::vector<Finger> frameFingers_;
+    std::vector<std::optional<ContactShape>> frameShapes_;
     // Presses swallowed at release whose action waits for the tap's callback to return; its
     // capacity is reserved, so that a release allocates nothing of its own.
     std::vector<Press> released_;

@@ -4,11 +4,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "core/actions/ActionIndex.h"
 #include "core/actions/SavedShortcut.h"
 #include "core/app/GestureKind.h"
+#include "core/gestures/Finger.h"
+#include "core/platform/ContactShape.h"
 #include "core/platform/EventTypes.h"
 #include "core/platform/MouseButton.h"
 
@@ -29,6 +32,20 @@ enum class DropReason : std::uint8_t {
     applicationChanged,  // another application came to the front before it came due
     switchChanged,       // gestures were switched off, or something else cancelled pending work
     gesturesOff,         // gestures were off (or being configured) when the touch ended
+    // Left out by the options against accidents, each off unless the user switches it on:
+    largeContact,    // a contact as large as a palm or a thumb was part of the touch
+    edgeBand,        // the contact landed in a band along the surface's edge
+    restingContact,  // a contact rested since before the gesture began
+    afterActivity,   // the touch began just after a scroll or a click
+    duringPress,     // the touch began while the button was held: part of the click
+};
+
+// A contact frame as the sensor delivered it (empty when the last finger lifted). The spans
+// live only for the call.
+struct FrameNote {
+    std::span<const Finger> fingers;
+    std::span<const std::optional<ContactShape>> shapes;  // empty, or one per finger
+    double time = 0;
 };
 
 // The last finger lifted and the touch was a tap, or the button went down with fingers resting.

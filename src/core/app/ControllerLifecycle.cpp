@@ -6,6 +6,7 @@
 #include "core/app/AppMenus.h"
 #include "core/app/Controller.h"
 #include "core/app/SettingsWindowTexts.h"
+#include "core/app/TouchStep.h"
 #include "core/localization/Localizer.h"
 #include "core/support/ScopedCount.h"
 
@@ -192,7 +193,7 @@ void Controller::watch() {
 void Controller::dropPendingWork() {
     cancelPendingActions();
     releasePresses();
-    state_.gesture.reset();
+    resetTouch(state_.gesture, services_.judge.get());
 }
 
 }  // namespace tactora

@@ -17,9 +17,8 @@ class ControllerObserver {
   public:
     virtual ~ControllerObserver() = default;
 
-    // A contact frame reached the recogniser (empty when the last finger lifted). `fingers`
-    // lives only for the call.
-    virtual void frameReceived(std::span<const Finger> /*fingers*/, double /*time*/) {}
+    // A contact frame arrived from the sensor, before anything was left out of it.
+    virtual void frameReceived(const FrameNote& /*note*/) {}
     // A touch became a gesture: a tap, or a click with fingers resting.
     virtual void gestureRecognised(const GestureNote& /*note*/) {}
     // A touch ended without a gesture, or its gesture could not run.

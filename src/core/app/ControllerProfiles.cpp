@@ -2,6 +2,7 @@
 
 #include "core/app/Controller.h"
 #include "core/app/ProfileName.h"
+#include "core/app/TouchStep.h"
 #include "core/localization/Localizer.h"
 #include "core/profiles/GestureSlot.h"
 
@@ -148,7 +149,7 @@ void Controller::nameProfile(NamingMode mode) {
     // A touch half seen before the dialog must not complete after it, even when it is cancelled.
     cancelPendingActions();
     releasePresses();
-    state_.gesture.reset();
+    resetTouch(state_.gesture, services_.judge.get());
     const NamingDialogTexts texts{
         .message = L(namingTitle(mode)),
         .informative = L("profile.name"),
@@ -162,7 +163,7 @@ void Controller::nameProfile(NamingMode mode) {
         return;
     }
     releasePresses();
-    state_.gesture.reset();
+    resetTouch(state_.gesture, services_.judge.get());
     if (mode == NamingMode::rename) {
         profiles().rename(*name);
     } else {

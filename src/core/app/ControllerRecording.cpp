@@ -1,4 +1,5 @@
 #include "core/app/Controller.h"
+#include "core/app/TouchStep.h"
 #include "core/localization/Localizer.h"
 #include "core/shortcuts/ShortcutRecorder.h"
 
@@ -12,7 +13,7 @@ void Controller::beginRecording(std::int64_t slot) {
     // A touch begun before the dialog must not complete as a tap while it is open.
     cancelPendingActions();
     releasePresses();
-    state_.gesture.reset();
+    resetTouch(state_.gesture, services_.judge.get());
     state_.recording = true;
     const RecordingDialogTexts texts{
         .message = L("record.title"),
@@ -35,7 +36,7 @@ void Controller::beginRecording(std::int64_t slot) {
     }
     // Touches made while the dialog was open must not complete as a tap.
     state_.recording = false;
-    state_.gesture.reset();
+    resetTouch(state_.gesture, services_.judge.get());
     refreshProfileUI();
 }
 

@@ -3,6 +3,7 @@
 
 #include "core/app/ApplicationController.h"
 #include "core/app/Controller.h"
+#include "core/app/TouchStep.h"
 #include "core/localization/Localizer.h"
 #include "core/profiles/GestureSlot.h"
 #include "core/support/Fatal.h"
@@ -10,39 +11,11 @@
 
 namespace tactora {
 
-namespace {
-
-// Why the sequence that `state` holds is no tap, were it to end at `time`; nothing when it is.
-std::optional<DropReason> whyNoTap(const GestureState& state, double time) {
-    if (!state.began) {
-        return std::nullopt;
-    }
-    const double duration = time - *state.began;
-    if (state.clicked) {
-        return DropReason::clickDuring;
-    }
-    if (state.invalid || state.peak > GestureState::maxFingers) {
-        return DropReason::tooManyFingers;
-    }
-    if (state.moved) {
-        return DropReason::moved;
-    }
-    if (duration < GestureState::shortestTap) {
-        return DropReason::tooShort;
-    }
-    if (duration > GestureState::longestTap) {
-        return DropReason::tooLong;
-    }
-    return std::nullopt;
-}
-
-}  // namespace
-
 void Controller::reconnect() {
     {
         const ScopedCount program(programActions_);
         pause();
-        state_.gesture.reset();
+        resetTouch(state_.gesture, services_.judge.get());
         state_.lastFrame = 0;
         state_.ready = services_.sensor.start(&Controller::frameCallback);
         const std::int64_t error = services_.sensor.statusError();
@@ -61,7 +34,7 @@ void Controller::woke() {
 }
 
 void Controller::frameCallback(std::int32_t count, const std::int32_t* ids, const float* xs,
-                               const float* ys) {
+                               const float* ys, const float* shapes) {
     if (count < 0) {
         fatalError("Negative contact count");
     }
@@ -71,6 +44,13 @@ void Controller::frameCallback(std::int32_t count, const std::int32_t* ids, cons
         std::copy_n(ids, frame.count, frame.ids.begin());
         std::copy_n(xs, frame.count, frame.xs.begin());
         std::copy_n(ys, frame.count, frame.ys.begin());
+    }
+    if (shapes != nullptr && frame.count > 0) {
+        frame.hasShapes = true;
+        for (std::size_t i = 0; i < frame.count; ++i) {
+            const float* values = shapes + i * 4;
+            frame.shapes.at(i) = {values[0], values[1], values[2], values[3]};
+        }
     }
     if (Controller* controller = applicationController()) {
         controller->services_.queue.asyncFrame(frame, &Controller::receiveFrame);
@@ -86,67 +66,73 @@ void Controller::receiveFrame(const ContactFrame& frame) {
 
 void Controller::receive(const ContactFrame& frame) {
     frameFingers_.clear();
+    frameShapes_.clear();
     for (std::size_t i = 0; i < frame.count; ++i) {
         frameFingers_.emplace_back(frame.ids[i], frame.xs[i], frame.ys[i]);
+        if (frame.hasShapes) {
+            frameShapes_.emplace_back(frame.shapes.at(i));
+        }
     }
-    receive(frameFingers_);
+    receive(frameFingers_, frameShapes_);
 }
 
-void Controller::receive(std::span<const Finger> fingers) {
+void Controller::receive(std::span<const Finger> fingers,
+                         std::span<const std::optional<ContactShape>> shapes) {
     const double now = services_.clock.uptime();
     state_.lastFrame = now;
-    // Only an empty frame ends a sequence; the reason is worked out before the state resets.
-    const std::optional<DropReason> dropped =
-        fingers.empty() ? whyNoTap(state_.gesture, now) : std::nullopt;
-    const std::int64_t peak = state_.gesture.peak;
-    const std::optional<std::int64_t> count = state_.gesture.update(fingers, now);
-    observers_.frameReceived(fingers, now);
-    if (!count) {
-        if (dropped) {
-            observers_.touchDropped({.reason = *dropped, .fingers = peak, .time = now});
-        }
+    const TouchStep step = stepTouch(state_.gesture, services_.judge.get(), fingers, shapes, now);
+    observers_.frameReceived({.fingers = fingers, .shapes = shapes, .time = now});
+    if (step.dropped) {
+        observers_.touchDropped(
+            {.reason = *step.dropped, .fingers = step.droppedFingers, .time = now});
+    }
+    if (!step.tap) {
         return;
     }
-    state_.lastGesture = L("gesture.tap", *count);
-    const std::int64_t slot = slot::forTap(*count);
+    const std::int64_t count = *step.tap;
+    state_.lastGesture = L("gesture.tap", count);
+    const std::int64_t slot = slot::forTap(count);
     const ActionIndex action = actionAt(slot);
     observers_.gestureRecognised(
-        {.kind = GestureKind::tap, .fingers = *count, .action = action, .time = now});
-    const std::optional<SavedShortcut> shortcut = shortcutAt(slot);
-    const GestureDispatchContext context = dispatchContext();
+        {.kind = GestureKind::tap, .fingers = count, .action = action, .time = now});
     if (!canRunGestures()) {
-        observers_.touchDropped(
-            {.reason = DropReason::gesturesOff, .fingers = *count, .time = now});
+        observers_.touchDropped({.reason = DropReason::gesturesOff, .fingers = count, .time = now});
         return;
     }
-    scheduleTap(*count, action, shortcut, valueAt(slot), context, now);
+    scheduleTap({.fingers = count,
+                 .action = action,
+                 .shortcut = shortcutAt(slot),
+                 .value = valueAt(slot),
+                 .context = dispatchContext(),
+                 .began = step.began,
+                 .recognisedAt = now});
 }
 
-void Controller::scheduleTap(std::int64_t fingers, ActionIndex action,
-                             const std::optional<SavedShortcut>& shortcut, const std::string& value,
-                             const GestureDispatchContext& context, double recognisedAt) {
-    services_.queue.after(tapDelay, [weak = weak_from_this(), fingers, action, shortcut, value,
-                                     context, recognisedAt] {
+void Controller::scheduleTap(PendingTap tap) {
+    services_.queue.after(tapDelay, [weak = weak_from_this(), tap = std::move(tap)] {
         if (const auto self = weak.lock()) {
-            self->performTap(fingers, action, shortcut, value, context, recognisedAt);
+            self->performTap(tap);
         }
     });
 }
 
-void Controller::performTap(std::int64_t fingers, ActionIndex action,
-                            const std::optional<SavedShortcut>& shortcut, const std::string& value,
-                            const GestureDispatchContext& context, double recognisedAt) {
+void Controller::performTap(const PendingTap& tap) {
     const double now = services_.clock.uptime();
-    std::optional<DropReason> refused = mayDispatch(context) ? std::nullopt : guardRefusal(context);
+    std::optional<DropReason> refused =
+        mayDispatch(tap.context) ? std::nullopt : guardRefusal(tap.context);
     // A click just before the release, or during the wait, means the touch was a click.
-    if (!refused && state_.lastClick >= recognisedAt - tapDelay) {
+    const double click = state_.lastClick;
+    const bool vetoed =
+        services_.judge ? services_.judge->clickVetoes(click, tap.began, tap.recognisedAt, tapDelay)
+                        : click >= tap.recognisedAt - tapDelay;
+    if (!refused && vetoed) {
         refused = DropReason::clickAfter;
     }
     if (refused) {
-        observers_.actionDropped({.action = action, .reason = *refused, .time = now});
+        observers_.actionDropped({.action = tap.action, .reason = *refused, .time = now});
         return;
     }
-    perform(action, shortcut, ActionOrigin::tap, fingers, value);
+    perform(tap.action, tap.shortcut, ActionOrigin::tap, tap.fingers, tap.value);
 }
 
 }  // namespace tactora

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "core/app/ExtraActionPerformer.h"
+#include "core/app/TouchJudge.h"
 #include "core/platform/AppShell.h"
 #include "core/platform/Clock.h"
 #include "core/platform/DeviceWatcher.h"
@@ -55,6 +56,9 @@ struct ControllerServices {
     PermissionResetTool& resetTool;
     // Carries out the further actions and chooses their values; they do nothing without it.
     std::shared_ptr<ExtraActionPerformer> extraActions;
+    // Has a say in what touches become (the options against accidents, the tap's limits); the
+    // recogniser decides alone without it.
+    std::shared_ptr<TouchJudge> judge;
 };
 
 }  // namespace tactora

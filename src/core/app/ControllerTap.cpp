@@ -119,13 +119,19 @@ EventDisposition Controller::decideNoted(EventType type, TapEvent& event, MouseE
 
 EventDisposition Controller::decide(EventType type, TapEvent& event) {
     const double now = services_.clock.uptime();
+    TouchJudge* judge = services_.judge.get();
     if (type == event::scrollWheel) {
-        state_.gesture.moved = true;
+        if (judge == nullptr || judge->scroll(now)) {
+            state_.gesture.moved = true;
+        }
         return EventDisposition::pass;
     }
     const std::int64_t button = event.integerField(event::buttonNumber);
     if (isDown(type)) {
         return pressDown(event, button, now);
+    }
+    if (isUp(type) && judge != nullptr) {
+        judge->button(false, now);
     }
     return pressContinues(type, event, button);
 }
@@ -168,9 +174,17 @@ bool Controller::isFromMouse(const TapEvent& event) {
 EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, double now) {
     state_.lastClick = now;
     state_.gesture.physicalClick();
+    TouchJudge* judge = services_.judge.get();
+    if (judge != nullptr) {
+        judge->button(true, now);
+    }
     const std::int64_t fingers = state_.gesture.count;
     if (now - state_.lastFrame >= freshContact || fingers < 1 ||
         fingers > GestureState::maxFingers) {
+        return EventDisposition::pass;
+    }
+    if (const std::optional<DropReason> ordinary = judge ? judge->judgeClick() : std::nullopt) {
+        observers_.touchDropped({.reason = *ordinary, .fingers = fingers, .time = now});
         return EventDisposition::pass;
     }
     state_.lastGesture = L("gesture.click", fingers);

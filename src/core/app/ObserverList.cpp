@@ -39,8 +39,8 @@ MouseEventNote* ObserverList::keepMouseEvent() {
     return slot == nullptr ? nullptr : &slot->emplace<MouseEventNote>();
 }
 
-void ObserverList::frameReceived(std::span<const Finger> fingers, double time) {
-    each(&ControllerObserver::frameReceived, fingers, time);
+void ObserverList::frameReceived(const FrameNote& note) {
+    each(&ControllerObserver::frameReceived, note);
 }
 
 void ObserverList::gestureRecognised(const GestureNote& note) {

@@ -60,7 +60,7 @@ class ObserverList {
     // after them.
     void tellKept();
 
-    void frameReceived(std::span<const Finger> fingers, double time);
+    void frameReceived(const FrameNote& note);
     void gestureRecognised(const GestureNote& note);
     void touchDropped(const TouchDropNote& note);
     void actionPerformed(const ActionNote& note);

@@ -27,13 +27,25 @@ std::shared_ptr<ExtraActions> makeExtraActions(const ControllerServices& service
         marker);
 }
 
-// `services`, handing the further actions to `extras` when there are any.
-ControllerServices withExtraActions(ControllerServices services,
-                                    const std::shared_ptr<ExtraActions>& extras) {
+// `services`, handing the further actions to `extras` when there are any, and touches to
+// `guard`.
+ControllerServices withParts(ControllerServices services,
+                             const std::shared_ptr<ExtraActions>& extras,
+                             const std::shared_ptr<MisfireGuard>& guard) {
     if (extras) {
         services.extraActions = extras;
     }
+    services.judge = guard;
     return services;
+}
+
+// The guard with the user's options and limits, all off and the defaults unless changed.
+std::shared_ptr<MisfireGuard> makeGuard(const ControllerServices& services) {
+    if (!services.defaults) {
+        return std::make_shared<MisfireGuard>();
+    }
+    return std::make_shared<MisfireGuard>(MisfireOptions::load(*services.defaults),
+                                          TapThresholds::load(*services.defaults));
 }
 
 }  // namespace
@@ -45,7 +57,8 @@ Tactora::Tactora(const ControllerServices& services, ExtraActionPlatform platfor
 
 Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras)
     : extras_(std::move(extras)),
-      controller_(Controller::create(withExtraActions(services, extras_))),
+      guard_(makeGuard(services)),
+      controller_(Controller::create(withParts(services, extras_, guard_))),
       keeper_(GestureKeeper::create({.clock = services.clock,
                                      .queue = services.queue,
                                      .view = services.view,

@@ -8,6 +8,7 @@
 #include "core/frontmost/FrontmostProfiles.h"
 #include "core/keepgestures/GestureKeeper.h"
 #include "core/liveview/LiveView.h"
+#include "core/misfire/MisfireGuard.h"
 #include "core/moreactions/ExtraActions.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
@@ -26,6 +27,8 @@ namespace tactora {
 //   profilefiles/ deleting, exporting and importing profiles
 //   moreactions/ the further actions (opening, Shortcuts, media keys, the system's views,
 //                modifier clicks), which the controller hands on through ExtraActionPerformer
+//   misfire/     the options against accidental gestures and the tap's limits, which the
+//                controller consults through TouchJudge
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
@@ -51,11 +54,13 @@ class Tactora {
     ProfileFileControls& profileFiles() { return profileFiles_; }
     // Nothing when made without the further actions.
     ExtraActions* extraActions() { return extras_.get(); }
+    MisfireGuard& misfireGuard() { return *guard_; }
 
   private:
     Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras);
 
     std::shared_ptr<ExtraActions> extras_;
+    std::shared_ptr<MisfireGuard> guard_;
     std::shared_ptr<Controller> controller_;
     std::shared_ptr<GestureKeeper> keeper_;
     std::shared_ptr<FrontmostProfiles> frontmost_;

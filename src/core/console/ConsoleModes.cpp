@@ -37,7 +37,7 @@ void checkIcon(ProgramEnvironment& environment) {
 }
 
 void ignoreFrame(std::int32_t /*count*/, const std::int32_t* /*ids*/, const float* /*xs*/,
-                 const float* /*ys*/) {}
+                 const float* /*ys*/, const float* /*shapes*/) {}
 
 }  // namespace
 

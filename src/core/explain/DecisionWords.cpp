@@ -32,6 +32,16 @@ std::string_view reasonWord(DropReason reason) {
             return "switch-changed";
         case DropReason::gesturesOff:
             return "gestures-off";
+        case DropReason::largeContact:
+            return "palm-or-thumb";
+        case DropReason::edgeBand:
+            return "edge-band";
+        case DropReason::restingContact:
+            return "resting-contact";
+        case DropReason::afterActivity:
+            return "after-activity";
+        case DropReason::duringPress:
+            return "during-press";
     }
     return "unknown";
 }

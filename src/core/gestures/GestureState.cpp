@@ -5,22 +5,14 @@
 
 namespace tactora {
 
-namespace {
-
-bool isTapDuration(double duration) {
-    return duration >= GestureState::shortestTap && duration <= GestureState::longestTap;
-}
-
-}  // namespace
-
-bool GestureState::isBeyondToleranceNearItsEdge(double dx, double dy) {
+bool GestureState::isBeyondToleranceNearItsEdge(double dx, double dy) const {
     // A NaN distance compares false and so never counts as movement.
-    return std::hypot(dx, dy) > movementTolerance;
+    return std::hypot(dx, dy) > thresholds.tolerance;
 }
 
 std::optional<std::int64_t> GestureState::endSequence(double time) {
-    const bool isTap = began.has_value() && isTapDuration(time - *began) && !clicked && !moved &&
-                       !invalid && peak >= 1 && peak <= maxFingers;
+    const bool isTap = began.has_value() && thresholds.allowsDuration(time - *began) && !clicked &&
+                       !moved && !invalid && peak >= 1 && peak <= maxFingers;
     const std::optional<std::int64_t> result =
         isTap ? std::optional<std::int64_t>(peak) : std::nullopt;
     reset();
@@ -36,8 +28,10 @@ void GestureState::reset() {
     // no more fingers than before allocate nothing.
     FingerOrigins kept = std::move(origins);
     kept.clear();
+    const TapThresholds limits = thresholds;
     *this = GestureState();
     origins = std::move(kept);
+    thresholds = limits;
 }
 
 }  // namespace tactora

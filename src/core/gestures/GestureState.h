@@ -7,19 +7,21 @@
 
 #include "core/gestures/Finger.h"
 #include "core/gestures/FingerOrigins.h"
+#include "core/gestures/TapThresholds.h"
 
 namespace tactora {
 
 // The tap recogniser's state for one touch sequence: a plain copyable value with no clock of
 // its own. A touch sequence runs from the first non-empty frame to the next empty one; a
 // sequence that was short, still, clicked-free and had 1 to 4 fingers is reported as a tap of
-// its peak finger count when the last finger lifts.
+// its peak finger count when the last finger lifts. How short and how still are `thresholds`,
+// the defaults below unless the user changed them.
 //
 // Not thread-safe; the application feeds it on the main thread only.
 struct GestureState {
-    static constexpr double shortestTap = 0.035;        // seconds; shorter is noise
-    static constexpr double longestTap = 0.3;           // seconds; longer is a press or a rest
-    static constexpr double movementTolerance = 0.045;  // normalised surface units
+    static constexpr double shortestTap = TapThresholds{}.shortest;  // shorter is noise
+    static constexpr double longestTap = TapThresholds{}.longest;    // longer is a press or a rest
+    static constexpr double movementTolerance = TapThresholds{}.tolerance;
     static constexpr std::int64_t maxFingers = 4;
 
     std::int64_t count = 0;       // fingers in the most recent frame
@@ -29,6 +31,7 @@ struct GestureState {
     bool moved = false;           // some finger went farther than the tolerance from its origin
     bool clicked = false;         // a physical click happened during the sequence
     bool invalid = false;         // more than four fingers were down at some moment
+    TapThresholds thresholds;     // kept when the state resets
 
     // Feeds one frame, stamped `time` seconds on a monotonic clock; time stamps never decrease.
     // Returns the tap's finger count (1...4) when this (empty) frame ends a sequence that
@@ -49,8 +52,8 @@ struct GestureState {
     // within a few units in the last place of the square of that hypotenuse, so away from the
     // boundary it decides alone, without hypot's careful and slow scaling; near the boundary,
     // and for a distance that is not a number, hypot decides.
-    static bool isBeyondTolerance(double dx, double dy);
-    static bool isBeyondToleranceNearItsEdge(double dx, double dy);
+    bool isBeyondTolerance(double dx, double dy) const;
+    bool isBeyondToleranceNearItsEdge(double dx, double dy) const;
     // The empty frame: the tap's finger count or nothing, then back to the initial state.
     std::optional<std::int64_t> endSequence(double time);
 };
@@ -58,8 +61,8 @@ struct GestureState {
 // The per-frame path is defined here so that it is inlined into the frame handler that calls it
 // about a hundred times a second; the rarer steps stay in GestureState.cpp.
 
-inline bool GestureState::isBeyondTolerance(double dx, double dy) {
-    constexpr double limit = movementTolerance * movementTolerance;
+inline bool GestureState::isBeyondTolerance(double dx, double dy) const {
+    const double limit = thresholds.tolerance * thresholds.tolerance;
     constexpr double margin = 1e-9;
     const double squared = dx * dx + dy * dy;
     if (squared < limit * (1 - margin)) {

@@ -59,11 +59,11 @@ void LiveView::refreshed(double /*time*/) {
     }
 }
 
-void LiveView::frameReceived(std::span<const Finger> fingers, double time) {
+void LiveView::frameReceived(const FrameNote& note) {
     if (!visible_) {
         return;
     }
-    surface_.frame(fingers, time);
+    surface_.frame(note.fingers, note.time);
     show();
 }
 

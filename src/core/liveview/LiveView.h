@@ -35,7 +35,7 @@ class LiveView final : public ControllerObserver, public std::enable_shared_from
     void launched(double time) override;
     // Draws what is to be seen now, while visible, so that contacts vanish once frames stop.
     void refreshed(double time) override;
-    void frameReceived(std::span<const Finger> fingers, double time) override;
+    void frameReceived(const FrameNote& note) override;
     void gestureRecognised(const GestureNote& note) override;
     void actionPerformed(const ActionNote& note) override;
 

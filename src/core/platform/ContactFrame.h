@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/platform/ContactShape.h"
+
 namespace tactora {
 
 // One contact frame as the sensor delivered it, copied into fixed storage so that handing it
@@ -16,6 +18,9 @@ struct ContactFrame {
     std::array<std::int32_t, capacity> ids{};
     std::array<float, capacity> xs{};
     std::array<float, capacity> ys{};
+    // One per contact when the sensor reports shapes.
+    bool hasShapes = false;
+    std::array<ContactShape, capacity> shapes{};
 };
 
 }  // namespace tactora

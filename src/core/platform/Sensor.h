@@ -6,9 +6,10 @@
 namespace tactora {
 
 // Called on the sensor's own thread with the contacts that touch the surface; the arrays hold
-// `count` entries and are valid only during the call. Count 0 means every finger has lifted.
+// `count` entries (`shapes` four per contact: size, angle, major and minor axis; null when the
+// sensor reports none) and are valid only during the call. Count 0 means every finger has lifted.
 using FrameCallback = void (*)(std::int32_t count, const std::int32_t* ids, const float* xs,
-                               const float* ys);
+                               const float* ys, const float* shapes);
 
 // The mouse's touch sensor. All members are called on the main thread.
 class Sensor {

@@ -71,11 +71,12 @@ void TouchRecorder::showMenuEntry() {
                                  MenuCommand::recordTouches, ""});
 }
 
-void TouchRecorder::frameReceived(std::span<const Finger> fingers, double time) {
+void TouchRecorder::frameReceived(const FrameNote& frame) {
     if (!trace_.isRecording()) {
         return;
     }
-    note(time, TraceFrame{{fingers.begin(), fingers.end()}});
+    note(frame.time, TraceFrame{{frame.fingers.begin(), frame.fingers.end()},
+                                {frame.shapes.begin(), frame.shapes.end()}});
 }
 
 void TouchRecorder::mouseEventDecided(const MouseEventNote& note) {

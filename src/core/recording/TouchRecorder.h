@@ -32,7 +32,7 @@ class TouchRecorder final : public ControllerObserver {
     void recordTouches();
     bool isRecording() const { return trace_.isRecording(); }
 
-    void frameReceived(std::span<const Finger> fingers, double time) override;
+    void frameReceived(const FrameNote& frame) override;
     void mouseEventDecided(const MouseEventNote& note) override;
     void switchChanged(const SwitchNote& note) override;
     void profileSelected(const ProfileNote& note) override;

@@ -7,6 +7,7 @@
 #include "core/explain/DecisionExplainer.h"
 #include "core/explain/DecisionWords.h"
 #include "core/frontmost/FrontmostProfiles.h"
+#include "core/misfire/MisfireGuard.h"
 #include "core/profiles/MemoryPreferences.h"
 #include "core/profiles/ProfileJson.h"
 #include "core/profiles/ProfileStore.h"
@@ -36,14 +37,15 @@ std::shared_ptr<MemoryPreferences> defaultsWith(
 
 // The stand-in platform and the controller running on it.
 struct Stage {
-    explicit Stage(double start, std::shared_ptr<MemoryPreferences> defaults)
+    Stage(double start, std::shared_ptr<MemoryPreferences> defaults, const ReplayRules& rules)
         : queue(start),
+          guard(std::make_shared<MisfireGuard>(rules.options, rules.thresholds)),
           controller(
               Controller::create({queue, queue, workspace, permissions, poster, tap, sensor, shell,
                                   view, dialogs, traceSink, std::move(defaults), surface, files,
                                   devices, loginItem, activity, secureInput, resetTool,
                                   // The replay carries out no further action: it names it.
-                                  nullptr})),
+                                  nullptr, guard})),
           frontmost(FrontmostProfiles::create(*controller, workspace, view, queue, queue)) {
         controller->addObserver(*frontmost);
         controller->setProfileTitleSource(frontmost.get());
@@ -71,7 +73,7 @@ struct Stage {
         frontmost->frontmostApplicationChanged(front.processID, front.bundleID);
     }
 
-    void apply(const TraceFrame& frame) { controller->receive(frame.fingers); }
+    void apply(const TraceFrame& frame) { controller->receive(frame.fingers, frame.shapes); }
 
     void apply(const TraceMouseEvent& mouse) {
         replay::TapEvent event(mouse.button, mouse.fromMouse);
@@ -120,6 +122,8 @@ struct Stage {
     replay::ProcessActivity activity;
     replay::SecureInput secureInput;
     replay::PermissionResetTool resetTool;
+    // Judges touches as the program's does.
+    std::shared_ptr<MisfireGuard> guard;
     std::shared_ptr<Controller> controller;
     // Profiles that follow the application in front, beside the controller as in the program.
     std::shared_ptr<FrontmostProfiles> frontmost;
@@ -129,12 +133,13 @@ struct Stage {
 
 std::string TraceReplay::run(const std::vector<TraceLine>& lines,
                              const std::optional<std::vector<WorkProfile>>& profiles, Detail detail,
-                             std::span<ControllerObserver* const> watchers) {
+                             std::span<ControllerObserver* const> watchers,
+                             const ReplayRules& rules) {
     const double start = lines.empty() ? 0 : lines.front().time;
     TraceReplay replay;
     DecisionExplainer explainer(
         [&replay](double time, const std::string& what) { replay.print(time, what); });
-    Stage stage(start, defaultsWith(profiles));
+    Stage stage(start, defaultsWith(profiles), rules);
     stage.launch();
     stage.controller->addObserver(replay);
     const bool explained = detail == Detail::explained;

@@ -8,10 +8,19 @@
 #include <vector>
 
 #include "core/app/ControllerObserver.h"
+#include "core/gestures/TapThresholds.h"
+#include "core/misfire/MisfireOptions.h"
 #include "core/profiles/WorkProfile.h"
 #include "core/trace/TraceLine.h"
 
 namespace tactora {
+
+// The options against accidents and the tap's limits a replay decides with; by default, all off
+// and the recogniser's own.
+struct ReplayRules {
+    MisfireOptions options;
+    TapThresholds thresholds;
+};
 
 // Replays a trace through the real controller on virtual time and a stand-in platform, and
 // writes down what it decides. The output, one line per decision, then a summary:
@@ -44,7 +53,8 @@ class TraceReplay final : private ControllerObserver {
     static std::string run(const std::vector<TraceLine>& lines,
                            const std::optional<std::vector<WorkProfile>>& profiles,
                            Detail detail = Detail::decisions,
-                           std::span<ControllerObserver* const> watchers = {});
+                           std::span<ControllerObserver* const> watchers = {},
+                           const ReplayRules& rules = {});
 
   private:
     TraceReplay() = default;

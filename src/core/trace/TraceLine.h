@@ -8,9 +8,9 @@
 #include <variant>
 #include <vector>
 
-#include "core/gestures/ContactShape.h"
 #include "core/gestures/Finger.h"
 #include "core/platform/ContactFrame.h"
+#include "core/platform/ContactShape.h"
 #include "core/platform/EventTypes.h"
 
 namespace tactora {
