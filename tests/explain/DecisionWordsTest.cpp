@@ -14,14 +14,17 @@ TEST(DecisionWordsTest, EveryReasonHasAWordOfItsOwn) {
     for (const DropReason reason :
          {DropReason::tooLong, DropReason::tooShort, DropReason::moved, DropReason::tooManyFingers,
           DropReason::clickDuring, DropReason::clickAfter, DropReason::profileChanged,
-          DropReason::applicationChanged, DropReason::switchChanged, DropReason::gesturesOff}) {
+          DropReason::applicationChanged, DropReason::switchChanged, DropReason::gesturesOff,
+          DropReason::largeContact, DropReason::edgeBand, DropReason::restingContact,
+          DropReason::afterActivity, DropReason::duringPress, DropReason::drumming}) {
         const std::string_view word = explain::reasonWord(reason);
         EXPECT_NE(word, "unknown");
         EXPECT_EQ(word.find(' '), std::string_view::npos) << word;
         words.insert(word);
     }
-    EXPECT_EQ(words.size(), 10U);
+    EXPECT_EQ(words.size(), 16U);
     EXPECT_EQ(explain::reasonWord(DropReason::clickAfter), "click-after");
+    EXPECT_EQ(explain::reasonWord(DropReason::largeContact), "palm-or-thumb");
 }
 
 TEST(DecisionWordsTest, ActionsAreNamedByTheirKeysOrNumbers) {

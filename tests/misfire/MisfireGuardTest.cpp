@@ -84,9 +84,9 @@ TEST(MisfireGuard, WithEveryOptionOffFramesPassAsTheyAre) {
 
 TEST(MisfireGuard, WithEveryOptionOffAClickVetoesAsWithoutIt) {
     const MisfireGuard guard;
-    EXPECT_TRUE(guard.clickVetoes(0.99, 1.0, 1.05, 0.08));   // before the touch, within the wait
-    EXPECT_TRUE(guard.clickVetoes(1.1, 1.0, 1.05, 0.08));    // during the wait
-    EXPECT_FALSE(guard.clickVetoes(0.96, 1.0, 1.05, 0.08));  // long enough before the release
+    EXPECT_TRUE(guard.vetoAtDue(0.99, 1.0, 1.05, 0.08));   // before the touch, within the wait
+    EXPECT_TRUE(guard.vetoAtDue(1.1, 1.0, 1.05, 0.08));    // during the wait
+    EXPECT_FALSE(guard.vetoAtDue(0.96, 1.0, 1.05, 0.08));  // long enough before the release
 }
 
 TEST(QuietAfterActivity, DropsATapThatStartsSoonAfterAScroll) {
@@ -265,9 +265,9 @@ TEST(ForgetEarlierActivity, AClickBeforeTheTouchNoLongerVetoesIt) {
     MisfireOptions options;
     options.forgetEarlierActivity = true;
     const MisfireGuard guard(options);
-    EXPECT_FALSE(guard.clickVetoes(0.99, 1.0, 1.06, 0.08));
-    EXPECT_TRUE(guard.clickVetoes(1.01, 1.0, 1.06, 0.08));
-    EXPECT_TRUE(guard.clickVetoes(1.1, 1.0, 1.06, 0.08));
+    EXPECT_FALSE(guard.vetoAtDue(0.99, 1.0, 1.06, 0.08));
+    EXPECT_TRUE(guard.vetoAtDue(1.01, 1.0, 1.06, 0.08));
+    EXPECT_TRUE(guard.vetoAtDue(1.1, 1.0, 1.06, 0.08));
 }
 
 TEST(ForgetEarlierActivity, KeepsAClicksVetoOverAFragmentOfItsPress) {

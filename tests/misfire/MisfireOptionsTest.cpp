@@ -23,7 +23,9 @@ TEST(MisfireOptions, ReadBackAsWritten) {
     options.fingertipsOnly = true;
     options.forgetEarlierActivity = true;
     options.largestFingertip = 1.5;
+    options.ignoreDrumming = true;
     options.save(preferences);
+    EXPECT_EQ(preferences.integer("misfire.ignoreDrumming"), 1);
     EXPECT_EQ(preferences.integer("misfire.quietAfterActivity"), 250);
     EXPECT_EQ(preferences.string("misfire.edgeBands"), "50,70,10,150");
     EXPECT_EQ(MisfireOptions::load(preferences), options);
@@ -35,7 +37,7 @@ TEST(MisfireOptions, SwitchedOffRemoveTheirKeys) {
     MisfireOptions::none().save(preferences);
     for (const char* key :
          {"misfire.quietAfterActivity", "misfire.ignoreLargeContacts", "misfire.fingertipsOnly",
-          "misfire.forgetEarlierActivity", "misfire.largestFingertip"}) {
+          "misfire.forgetEarlierActivity", "misfire.largestFingertip", "misfire.ignoreDrumming"}) {
         EXPECT_FALSE(preferences.integer(key)) << key;
     }
     EXPECT_FALSE(preferences.string("misfire.edgeBands"));

@@ -71,6 +71,22 @@ TEST_F(ScoreModeTest, ScoresEveryLabelledTraceOfTheDirectory) {
         << output;
 }
 
+TEST_F(ScoreModeTest, ComparesTheDefaultWithEachOptionOnTheSameTraces) {
+    // A thumb brushing the very edge: a tap by default, nothing with the edge bands on.
+    write("a.trace", "tactora-trace 1\n1.0 frame 1:0.03,0.5\n1.1 frame\n");
+    write("a.labels", "tactora-labels 1\n1.0 1.1 accident thumb\n");
+    ASSERT_EQ(score({"tactora", "--score", directory(), "--compare"}), 0) << err.str();
+    const std::string output = out.str();
+    EXPECT_EQ(output.find("default recall=100.00% wrong=0 false-positives=1 "), 0U) << output;
+    EXPECT_NE(output.find("\nedge-bands recall=100.00% wrong=0 false-positives=0 "),
+              std::string::npos)
+        << output;
+    for (const char* name : {"quiet-after-activity", "ignore-palms-and-thumbs", "fingertips-only",
+                             "forget-earlier-activity", "recommended"}) {
+        EXPECT_NE(output.find(std::string("\n") + name + " recall="), std::string::npos) << name;
+    }
+}
+
 TEST_F(ScoreModeTest, AnAccidentThatFiresIsAFalsePositive) {
     write("a.trace", "tactora-trace 1\n1.0 frame 1:0.1,0.5\n1.1 frame\n");
     write("a.labels", "tactora-labels 1\n1.0 1.1 accident thumb\n");

@@ -38,6 +38,7 @@ enum class DropReason : std::uint8_t {
     restingContact,  // a contact rested since before the gesture began
     afterActivity,   // the touch began just after a scroll or a click
     duringPress,     // the touch began while the button was held: part of the click
+    drumming,        // fingers drumming: landing one after another, or in a quick run
 };
 
 // A contact frame as the sensor delivered it (empty when the last finger lifted). The spans

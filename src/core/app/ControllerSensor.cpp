@@ -11,6 +11,22 @@
 
 namespace tactora {
 
+namespace {
+
+// Why `tap` is not to act now that its action comes due, the last click having come at `click`.
+std::optional<DropReason> vetoAtDue(const TouchJudge* judge, double click, const PendingTap& tap) {
+    if (judge != nullptr) {
+        return judge->vetoAtDue(click, tap.began, tap.recognisedAt, Controller::tapDelay);
+    }
+    // A click just before the release, or during the wait, means the touch was a click.
+    if (click >= tap.recognisedAt - Controller::tapDelay) {
+        return DropReason::clickAfter;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
 void Controller::reconnect() {
     {
         const ScopedCount program(programActions_);
@@ -120,13 +136,8 @@ void Controller::performTap(const PendingTap& tap) {
     const double now = services_.clock.uptime();
     std::optional<DropReason> refused =
         mayDispatch(tap.context) ? std::nullopt : guardRefusal(tap.context);
-    // A click just before the release, or during the wait, means the touch was a click.
-    const double click = state_.lastClick;
-    const bool vetoed =
-        services_.judge ? services_.judge->clickVetoes(click, tap.began, tap.recognisedAt, tapDelay)
-                        : click >= tap.recognisedAt - tapDelay;
-    if (!refused && vetoed) {
-        refused = DropReason::clickAfter;
+    if (!refused) {
+        refused = vetoAtDue(services_.judge.get(), state_.lastClick, tap);
     }
     if (refused) {
         observers_.actionDropped({.action = tap.action, .reason = *refused, .time = now});

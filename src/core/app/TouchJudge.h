@@ -51,10 +51,11 @@ class TouchJudge {
     virtual std::optional<DropReason> judgeTap() const = 0;
     // Whether a click going down now is to stay an ordinary click, and why.
     virtual std::optional<DropReason> judgeClick() const = 0;
-    // Whether a click at `click` vetoes the tap of a touch that began at `began` and was
-    // recognised at `recognisedAt`, its action waiting `wait` seconds.
-    virtual bool clickVetoes(double click, double began, double recognisedAt,
-                             double wait) const = 0;
+    // Why the tap of a touch that began at `began` and was recognised at `recognisedAt` is not
+    // to act now that its action comes due, `wait` seconds later, the last click having come at
+    // `click`; nothing when it acts.
+    virtual std::optional<DropReason> vetoAtDue(double click, double began, double recognisedAt,
+                                                double wait) const = 0;
 
     // Forgets every contact and touch, as when the recogniser is reset.
     virtual void reset() = 0;

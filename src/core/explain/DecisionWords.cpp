@@ -42,6 +42,8 @@ std::string_view reasonWord(DropReason reason) {
             return "after-activity";
         case DropReason::duringPress:
             return "during-press";
+        case DropReason::drumming:
+            return "drumming";
     }
     return "unknown";
 }

@@ -6,6 +6,22 @@
 
 namespace tactora {
 
+namespace {
+
+// The centre of `fingers`, none of them lifted.
+Finger centreOf(std::span<const Finger> fingers) {
+    double x = 0;
+    double y = 0;
+    for (const Finger& finger : fingers) {
+        x += finger.x;
+        y += finger.y;
+    }
+    const auto count = static_cast<double>(std::max<std::size_t>(fingers.size(), 1));
+    return Finger(0, x / count, y / count);
+}
+
+}  // namespace
+
 MisfireGuard::MisfireGuard(MisfireOptions options, TapThresholds thresholds)
     : options_(options), thresholds_(thresholds.isValid() ? thresholds : TapThresholds{}) {}
 
@@ -51,12 +67,13 @@ void MisfireGuard::leaveOutRestingContacts(const Contact& newcomer, double now) 
     }
 }
 
-void MisfireGuard::begin(double now) {
+void MisfireGuard::begin(double now, const Finger& centre) {
     touching_ = true;
     began_ = now;
     activityBeforeBegin_ = lastActivity_;
     beganWhileHeld_ = buttonHeld_;
     largeInTouch_ = false;
+    drums_.began(now, centre.x, centre.y);
     for (Contact& contact : contacts_) {
         contact.delivered = false;
     }
@@ -68,7 +85,10 @@ JudgedFrame MisfireGuard::frame(std::span<const Finger> fingers,
     if (!options_.anyOn()) {
         // Followed all the same, so that options switched on mid-touch find it.
         if (!fingers.empty() && !touching_) {
-            begin(now);
+            begin(now, centreOf(fingers));
+        }
+        if (fingers.empty() && touching_) {
+            drums_.ended(now);
         }
         touching_ = !fingers.empty();
         result.fingers = fingers;
@@ -102,6 +122,7 @@ JudgedFrame MisfireGuard::frame(std::span<const Finger> fingers,
         }
     }
     if (result.restart) {
+        drums_.ended(now);
         touching_ = false;
     }
     kept_.clear();
@@ -116,15 +137,21 @@ JudgedFrame MisfireGuard::frame(std::span<const Finger> fingers,
     if (kept_.empty()) {
         // Nothing left to tell when every contact was left out and no touch is followed.
         result.deliver = fingers.empty() || touching_;
+        if (touching_) {
+            drums_.ended(now);
+        }
         touching_ = false;
         return result;
     }
     if (!touching_) {
-        begin(now);
+        begin(now, centreOf(kept_));
     }
     for (Contact& contact : contacts_) {
         if (contact.leftOut) {
             continue;
+        }
+        if (!contact.delivered) {
+            drums_.joined(contact.landed);
         }
         contact.delivered = true;
         if (options_.ignoreLargeContacts &&
@@ -152,6 +179,9 @@ std::optional<DropReason> MisfireGuard::judgeTap() const {
     if (options_.forgetEarlierActivity && beganWhileHeld_) {
         return DropReason::duringPress;
     }
+    if (options_.ignoreDrumming && drums_.drumming()) {
+        return DropReason::drumming;
+    }
     if (options_.quietAfterActivity &&
         began_ - activityBeforeBegin_ < *options_.quietAfterActivity) {
         return DropReason::afterActivity;
@@ -166,11 +196,15 @@ std::optional<DropReason> MisfireGuard::judgeClick() const {
     return std::nullopt;
 }
 
-bool MisfireGuard::clickVetoes(double click, double began, double recognisedAt, double wait) const {
-    if (click < recognisedAt - wait) {
-        return false;
+std::optional<DropReason> MisfireGuard::vetoAtDue(double click, double began, double recognisedAt,
+                                                  double wait) const {
+    if (click >= recognisedAt - wait && (!options_.forgetEarlierActivity || click >= began)) {
+        return DropReason::clickAfter;
     }
-    return !options_.forgetEarlierActivity || click >= began;
+    if (options_.ignoreDrumming && drums_.laterTouchShowsDrumming(recognisedAt)) {
+        return DropReason::drumming;
+    }
+    return std::nullopt;
 }
 
 void MisfireGuard::reset() {
@@ -179,6 +213,7 @@ void MisfireGuard::reset() {
     touching_ = false;
     largeInTouch_ = false;
     beganWhileHeld_ = false;
+    drums_.reset();
 }
 
 }  // namespace tactora

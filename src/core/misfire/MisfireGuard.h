@@ -10,6 +10,7 @@
 #include "core/app/TouchJudge.h"
 #include "core/gestures/Finger.h"
 #include "core/gestures/TapThresholds.h"
+#include "core/misfire/DrumWatch.h"
 #include "core/misfire/MisfireOptions.h"
 #include "core/platform/ContactShape.h"
 
@@ -49,11 +50,12 @@ class MisfireGuard final : public TouchJudge {
     std::optional<DropReason> judgeTap() const override;
     // Whether a click going down now is to stay an ordinary click, and why.
     std::optional<DropReason> judgeClick() const override;
-    // Whether a click at `click` vetoes the tap of a touch that began at `began` and was
-    // recognised at `recognisedAt`, its action waiting `wait` seconds: any click from `wait`
-    // before the recognition on, or, when earlier activity is forgotten, only those that also
-    // came after the touch began.
-    bool clickVetoes(double click, double began, double recognisedAt, double wait) const override;
+    // Vetoes the tap of a touch that began at `began` and was recognised at `recognisedAt` when
+    // its action comes due, `wait` seconds later: a click from `wait` before the recognition on
+    // (when earlier activity is forgotten, only one that also came after the touch began), or,
+    // when drumming is ignored, a touch begun since at another place.
+    std::optional<DropReason> vetoAtDue(double click, double began, double recognisedAt,
+                                        double wait) const override;
 
     // When the touch in progress, or the last one, began.
     double began() const { return began_; }
@@ -75,7 +77,8 @@ class MisfireGuard final : public TouchJudge {
     Contact& contactFor(const Finger& finger, double now, bool& landed);
     void judgeContact(Contact& contact, const std::optional<ContactShape>& shape);
     void leaveOutRestingContacts(const Contact& newcomer, double now);
-    void begin(double now);
+    // A touch sequence begins, centred at `centre`.
+    void begin(double now, const Finger& centre);
 
     static constexpr double never = -std::numeric_limits<double>::infinity();
 
@@ -90,6 +93,7 @@ class MisfireGuard final : public TouchJudge {
     bool buttonHeld_ = false;
     bool beganWhileHeld_ = false;
     bool largeInTouch_ = false;
+    DrumWatch drums_;
 };
 
 }  // namespace tactora

@@ -20,6 +20,7 @@ constexpr const char* bandsKey = "misfire.edgeBands";  // "left,right,front,back
 constexpr const char* fingertipsKey = "misfire.fingertipsOnly";       // 1
 constexpr const char* forgetKey = "misfire.forgetEarlierActivity";    // 1
 constexpr const char* fingertipSizeKey = "misfire.largestFingertip";  // hundredths
+constexpr const char* drummingKey = "misfire.ignoreDrumming";         // 1
 
 constexpr std::int64_t longestQuiet = 2000;
 constexpr std::int64_t widestBand = 500;
@@ -86,12 +87,13 @@ MisfireOptions MisfireOptions::recommended() {
     options.edgeBands = defaultEdgeBands;
     options.fingertipsOnly = true;
     options.forgetEarlierActivity = true;
+    options.ignoreDrumming = true;
     return options;
 }
 
 bool MisfireOptions::anyOn() const {
     return quietAfterActivity || ignoreLargeContacts || edgeBands || fingertipsOnly ||
-           forgetEarlierActivity;
+           forgetEarlierActivity || ignoreDrumming;
 }
 
 MisfireOptions MisfireOptions::load(const Preferences& preferences) {
@@ -105,6 +107,7 @@ MisfireOptions MisfireOptions::load(const Preferences& preferences) {
     }
     options.fingertipsOnly = isOn(preferences, fingertipsKey);
     options.forgetEarlierActivity = isOn(preferences, forgetKey);
+    options.ignoreDrumming = isOn(preferences, drummingKey);
     if (const auto size = integerWithin(preferences, fingertipSizeKey, smallestSize, largestSize)) {
         options.largestFingertip = static_cast<double>(*size) / 100;
     }
@@ -125,6 +128,7 @@ void MisfireOptions::save(Preferences& preferences) const {
     }
     setOn(preferences, fingertipsKey, fingertipsOnly);
     setOn(preferences, forgetKey, forgetEarlierActivity);
+    setOn(preferences, drummingKey, ignoreDrumming);
     if (largestFingertip != defaultLargestFingertip) {
         preferences.setInteger(fingertipSizeKey,
                                static_cast<std::int64_t>(largestFingertip * 100 + 0.5));

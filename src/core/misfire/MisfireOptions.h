@@ -38,6 +38,9 @@ struct MisfireOptions {
     // scroll no longer spoils the next tap), and let a click veto the fragments of its own
     // press (a touch that begins while the button is held is part of the click).
     bool forgetEarlierActivity = false;
+    // Ignore fingers drumming on the surface: a tap whose fingers landed one after another, or
+    // that follows or is followed at once by a touch at another place (see DrumWatch).
+    bool ignoreDrumming = false;
     // The sensor's size of the largest fingertip, for the two options that judge by size.
     double largestFingertip = defaultLargestFingertip;
 

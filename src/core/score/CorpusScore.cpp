@@ -42,17 +42,57 @@ constexpr std::array<AccidentKind, 8> accidentKinds = {
 }  // namespace
 
 ScoreCard scoreTraces(const std::vector<LabelledTrace>& sessions,
-                      const std::optional<std::vector<WorkProfile>>& profiles) {
+                      const std::optional<std::vector<WorkProfile>>& profiles,
+                      const ReplayRules& rules) {
     ScoreCard card;
     for (const LabelledTrace& session : sessions) {
         ScoreObserver observer;
         const std::array<ControllerObserver*, 1> watchers = {&observer};
-        TraceReplay::run(session.lines, profiles, TraceReplay::Detail::decisions, watchers);
+        TraceReplay::run(session.lines, profiles, TraceReplay::Detail::decisions, watchers, rules);
         const double seconds =
             session.lines.empty() ? 0 : session.lines.back().time - session.lines.front().time;
         card.add(session.labels, observer.firings(), seconds);
     }
     return card;
+}
+
+std::vector<NamedRules> comparedRules() {
+    const MisfireOptions recommended = MisfireOptions::recommended();
+    MisfireOptions quiet;
+    quiet.quietAfterActivity = MisfireOptions::defaultQuietAfterActivity;
+    MisfireOptions large;
+    large.ignoreLargeContacts = true;
+    MisfireOptions edges;
+    edges.edgeBands = MisfireOptions::defaultEdgeBands;
+    MisfireOptions fingertips;
+    fingertips.fingertipsOnly = true;
+    MisfireOptions forget;
+    forget.forgetEarlierActivity = true;
+    MisfireOptions drumming;
+    drumming.ignoreDrumming = true;
+    return {{"default", {}},
+            {"quiet-after-activity", {.options = quiet, .thresholds = {}}},
+            {"ignore-palms-and-thumbs", {.options = large, .thresholds = {}}},
+            {"edge-bands", {.options = edges, .thresholds = {}}},
+            {"fingertips-only", {.options = fingertips, .thresholds = {}}},
+            {"forget-earlier-activity", {.options = forget, .thresholds = {}}},
+            {"ignore-drumming", {.options = drumming, .thresholds = {}}},
+            {"recommended", {.options = recommended, .thresholds = {}}}};
+}
+
+std::string formatComparison(const std::vector<NamedRules>& rules,
+                             const std::vector<ScoreCard>& cards) {
+    std::string text;
+    for (std::size_t index = 0; index < rules.size() && index < cards.size(); ++index) {
+        const ScoreCard& card = cards.at(index);
+        const GestureFigures total = card.total();
+        text += rules.at(index).name + " recall=" + fixed(total.recall() * 100, 2) +
+                "% wrong=" + std::to_string(total.wrong) +
+                " false-positives=" + std::to_string(card.falsePositives()) +
+                " false-positives-per-hour=" + fixed(card.falsePositivesPerHour(), 2) +
+                latencies(total) + '\n';
+    }
+    return text;
 }
 
 std::string formatScore(const ScoreCard& card) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/profiles/WorkProfile.h"
+#include "core/replay/TraceReplay.h"
 #include "core/score/ScoreCard.h"
 #include "core/score/TouchLabel.h"
 #include "core/trace/TraceLine.h"
@@ -18,10 +19,30 @@ struct LabelledTrace {
 };
 
 // Replays every session through the controller (see TraceReplay.h) with `profiles`, or the
-// default profile, and scores what took effect against the labels. Main thread; the string
-// table must be installed, as for a replay.
+// default profile, and `rules`, and scores what took effect against the labels. Main thread;
+// the string table must be installed, as for a replay.
 ScoreCard scoreTraces(const std::vector<LabelledTrace>& sessions,
-                      const std::optional<std::vector<WorkProfile>>& profiles);
+                      const std::optional<std::vector<WorkProfile>>& profiles,
+                      const ReplayRules& rules = {});
+
+// A set of rules the comparison measures, by the name it prints.
+struct NamedRules {
+    std::string name;
+    ReplayRules rules;
+};
+
+// What the comparison measures, in order: the default ("default", every option off), each option
+// against accidents alone with its default value, and the Recommended combination.
+std::vector<NamedRules> comparedRules();
+
+// One line per set of rules, in order, scored on the same sessions:
+//
+//   <name> recall=<%> wrong=<n> false-positives=<n> false-positives-per-hour=<r>
+//          latency-median=<ms> latency-p95=<ms>
+//
+// (on one line), as in formatScore(). Pure.
+std::string formatComparison(const std::vector<NamedRules>& rules,
+                             const std::vector<ScoreCard>& cards);
 
 // The figures as the score prints them: one line per intended gesture, per kind of accident,
 // and the totals:

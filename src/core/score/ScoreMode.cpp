@@ -49,7 +49,10 @@ std::optional<std::vector<std::filesystem::path>> labelledTraces(const std::stri
 int runScore(std::span<const std::string> arguments, std::ostream& out, std::ostream& err) {
     const std::optional<std::string> directory = valueAfter(arguments, "--score");
     const std::optional<std::string> profilePath = valueAfter(arguments, "--profile");
-    if (!directory || directory->empty() || (profilePath && profilePath->empty())) {
+    const std::optional<std::string> rulesName = valueAfter(arguments, "--rules");
+    const std::vector<NamedRules> known = comparedRules();
+    if (!directory || directory->empty() || (profilePath && profilePath->empty()) ||
+        (rulesName && std::ranges::find(known, *rulesName, &NamedRules::name) == known.end())) {
         return fail(err, L("score.usage"));
     }
     const std::optional<std::vector<std::filesystem::path>> traces = labelledTraces(*directory);
@@ -90,7 +93,18 @@ int runScore(std::span<const std::string> arguments, std::ostream& out, std::ost
             return fail(err, L("replay.profiles", *profilePath));
         }
     }
-    out << formatScore(scoreTraces(sessions, profiles)) << std::flush;
+    const std::vector<NamedRules> compared = comparedRules();
+    if (std::ranges::find(arguments, "--compare") == arguments.end()) {
+        const auto named =
+            std::ranges::find(compared, rulesName.value_or("default"), &NamedRules::name);
+        out << formatScore(scoreTraces(sessions, profiles, named->rules)) << std::flush;
+        return 0;
+    }
+    std::vector<ScoreCard> cards;
+    for (const NamedRules& rules : compared) {
+        cards.push_back(scoreTraces(sessions, profiles, rules.rules));
+    }
+    out << formatComparison(compared, cards) << std::flush;
     return 0;
 }
 

@@ -6,9 +6,11 @@
 
 namespace tactora {
 
-// "--score DIRECTORY [--profile FILE]": replays every NAME.trace in the directory that has its
-// NAME.labels beside it, in the order of their names, and prints the figures of what took effect
-// against what the labels say the hands meant (see CorpusScore.h) to `out`. Returns 0; or, when
+// "--score DIRECTORY [--profile FILE] [--rules NAME | --compare]": replays every NAME.trace in the
+// directory that has its NAME.labels beside it, in the order of their names, and prints the
+// figures of what took effect against what the labels say the hands meant (see CorpusScore.h)
+// to `out`: with the default rules, or the rules of that name (see comparedRules()); with
+// --compare, one line of totals for each of those rules. Returns 0; or, when
 // an argument is missing, the directory holds no labelled trace, or a file can't be read or is
 // malformed, prints one sentence that says which and why to `err` and returns 1, having printed
 // nothing to `out`. Main thread.
