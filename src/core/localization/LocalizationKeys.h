@@ -115,6 +115,27 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("finger.many", {integerArgument}),
     LocalizationKey("record.button"),
     LocalizationKey("record.hint"),
+    // The "More Gestures" sheet: its button in the settings window, its sections and rows (a
+    // swipe's row shows the finger count with "finger.one" or "finger.many" beside it).
+    LocalizationKey("more.button"),
+    LocalizationKey("more.title"),
+    LocalizationKey("more.intro"),
+    LocalizationKey("more.section.region"),
+    LocalizationKey("more.section.tip"),
+    LocalizationKey("more.section.swipe"),
+    LocalizationKey("more.section.hold"),
+    LocalizationKey("more.tap.left"),
+    LocalizationKey("more.tap.right"),
+    LocalizationKey("more.tap.top"),
+    LocalizationKey("more.top.depth"),
+    LocalizationKey("more.tip.left"),
+    LocalizationKey("more.tip.right"),
+    LocalizationKey("more.swipe.up"),
+    LocalizationKey("more.swipe.down"),
+    LocalizationKey("more.swipe.left"),
+    LocalizationKey("more.swipe.right"),
+    LocalizationKey("more.hold"),
+    LocalizationKey("more.done"),
     // What VoiceOver reads for the live view of the touch surface: the fingers on it, then the
     // last gesture ("gesture.tap" or "gesture.click") and the name of the action it performed.
     LocalizationKey("surface.idle", {integerArgument}),

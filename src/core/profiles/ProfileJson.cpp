@@ -51,6 +51,26 @@ std::vector<ActionIndex> storedActions(const WorkProfile& profile) {
     return actions;
 }
 
+// Only the slots that hold something are written, by name.
+OrderedJson encodeMoreGestures(const MoreGestureMap& more) {
+    OrderedJson slots = OrderedJson::object();
+    for (std::size_t i = 0; i < moreslot::count; ++i) {
+        if (more.actions[i] == action::defaultAction && !more.shortcuts[i]) {
+            continue;
+        }
+        OrderedJson slot = OrderedJson::object();
+        slot["action"] = more.actions[i];
+        if (more.shortcuts[i]) {
+            slot["shortcut"] = encodeShortcut(more.shortcuts[i]);
+        }
+        slots[std::string(moreslot::names[i])] = std::move(slot);
+    }
+    OrderedJson object = OrderedJson::object();
+    object["slots"] = std::move(slots);
+    object["topBand"] = more.topBand;
+    return object;
+}
+
 OrderedJson encodeProfile(const WorkProfile& profile) {
     OrderedJson object = OrderedJson::object();
     object["id"] = profile.id.text();
@@ -73,6 +93,11 @@ OrderedJson encodeProfile(const WorkProfile& profile) {
             extras.push_back(encodeExtra(extra));
         }
         object["extraActions"] = std::move(extras);
+    }
+    // The same for the further gestures: a profile that maps none of them is stored as it was
+    // before they existed, and a reader that does not know the key ignores it.
+    if (!profile.moreGestures.isDefault()) {
+        object["moreGestures"] = encodeMoreGestures(profile.moreGestures);
     }
     return object;
 }
@@ -219,6 +244,42 @@ std::vector<std::optional<SlotExtra>> decodeExtras(const Json& object) {
     return extras;
 }
 
+// One slot of the optional "moreGestures" key; whatever is malformed in it leaves that part of
+// the slot at its default, so a damaged entry turns the gesture off instead of costing the list.
+void decodeMoreGestureSlot(const Json& entry, MoreGestureSlot slot, MoreGestureMap& more) {
+    if (!entry.is_object()) {
+        return;
+    }
+    const std::size_t i = moreslot::index(slot);
+    if (const Json* action = member(entry, "action"); action != nullptr) {
+        more.actions[i] = signedValue(*action).value_or(action::defaultAction);
+    }
+    if (const Json* shortcut = member(entry, "shortcut"); shortcut != nullptr) {
+        more.shortcuts[i] = decodeShortcut(*shortcut);
+    }
+}
+
+// The optional "moreGestures" key. Slot names this copy does not know (a newer copy's) are
+// ignored; nothing here can make the list fail.
+MoreGestureMap decodeMoreGestures(const Json& profile) {
+    MoreGestureMap more;
+    const Json* object = member(profile, "moreGestures");
+    if (object == nullptr || !object->is_object()) {
+        return more;
+    }
+    if (const Json* slots = member(*object, "slots"); slots != nullptr && slots->is_object()) {
+        for (const auto& [name, entry] : slots->items()) {
+            if (const std::optional<MoreGestureSlot> slot = moreslot::named(name)) {
+                decodeMoreGestureSlot(entry, *slot, more);
+            }
+        }
+    }
+    if (const Json* band = member(*object, "topBand"); band != nullptr && band->is_number()) {
+        more.topBand = band->get<double>();
+    }
+    return more;
+}
+
 std::optional<WorkProfile> decodeProfile(const Json& object) {
     if (!object.is_object()) {
         return std::nullopt;
@@ -240,6 +301,7 @@ std::optional<WorkProfile> decodeProfile(const Json& object) {
     WorkProfile profile(*id, *name, std::move(*actions), std::move(*shortcuts));
     profile.apps = decodeApps(object);
     profile.extras = decodeExtras(object);
+    profile.moreGestures = decodeMoreGestures(object);
     return profile;
 }
 

@@ -14,7 +14,9 @@ namespace tactora {
 
 // The optional "apps" key is written only for a profile with applications, and the optional
 // "extraActions" key (one element per slot: null, or the action's stored name and its "value")
-// only for a profile with extra actions; their slots hold 0 in "actions".
+// only for a profile with extra actions; their slots hold 0 in "actions". The optional
+// "moreGestures" key is written only for a profile that maps one of the further gestures or
+// changes the top band's depth.
 // Nothing when a profile cannot be written (a name or label that is not valid UTF-8).
 std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profiles);
 
@@ -22,9 +24,10 @@ std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profil
 // the wrong type or out of its field's range, or an id that is not a UUID. Unknown keys are
 // ignored and nothing is repaired; run sanitize() on each profile afterwards. The exceptions
 // are the optional "apps" key: a value that is not an array of non-empty strings leaves that
-// profile without applications instead of failing the list; and the optional "extraActions"
-// key, whose elements that are not an extra action this version knows leave their slot without
-// one.
+// profile without applications instead of failing the list; the optional "extraActions" key,
+// whose elements that are not an extra action this version knows leave their slot without one;
+// and "moreGestures": a malformed slot stays off, an unknown slot name is ignored, and a value
+// that is not an object leaves all of them off.
 //
 // Strict about the text: it must be one JSON array in valid UTF-8 (a leading byte order mark
 // is skipped), without comments or trailing data. Integer fields take integers only: a number

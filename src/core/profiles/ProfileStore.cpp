@@ -200,6 +200,36 @@ void ProfileStore::setShortcut(const SavedShortcut& shortcut, std::int64_t index
     save();
 }
 
+void ProfileStore::setMoreAction(ActionIndex action, MoreGestureSlot slot) {
+    WorkProfile* profile = active();
+    if (profile == nullptr || !action::isValid(action) ||
+        moreslot::index(slot) >= moreslot::count) {
+        return;
+    }
+    profile->moreGestures.actions[moreslot::index(slot)] = action;
+    save();
+}
+
+void ProfileStore::setMoreShortcut(const SavedShortcut& shortcut, MoreGestureSlot slot) {
+    WorkProfile* profile = active();
+    if (profile == nullptr || !shortcut.isValid() || moreslot::index(slot) >= moreslot::count) {
+        return;
+    }
+    profile->moreGestures.shortcuts[moreslot::index(slot)] = shortcut;
+    profile->moreGestures.actions[moreslot::index(slot)] = action::custom;
+    save();
+}
+
+void ProfileStore::setTopBand(double depth) {
+    WorkProfile* profile = active();
+    if (profile == nullptr) {
+        return;
+    }
+    profile->moreGestures.topBand = depth;
+    profile->moreGestures.sanitize();
+    save();
+}
+
 void ProfileStore::add(const std::string& name, bool duplicate) {
     WorkProfile profile(name);
     if (duplicate) {
@@ -207,6 +237,7 @@ void ProfileStore::add(const std::string& name, bool duplicate) {
         profile.actions = source.actions;
         profile.shortcuts = source.shortcuts;
         profile.extras = source.extras;
+        profile.moreGestures = source.moreGestures;
     }
     activeID_ = profile.id;
     chosenID_ = profile.id;

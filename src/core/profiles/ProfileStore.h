@@ -8,6 +8,7 @@
 
 #include "core/actions/ActionIndex.h"
 #include "core/actions/SavedShortcut.h"
+#include "core/profiles/MoreGestureSlot.h"
 #include "core/profiles/Preferences.h"
 #include "core/profiles/Uuid.h"
 #include "core/profiles/WorkProfile.h"
@@ -55,6 +56,11 @@ class ProfileStore {
     void setExtra(const SlotExtra& extra, std::int64_t index);
     // Stores a valid shortcut in a slot of the active profile and makes the slot custom.
     void setShortcut(const SavedShortcut& shortcut, std::int64_t index);
+    // The same for a slot of the further gestures of the active profile.
+    void setMoreAction(ActionIndex action, MoreGestureSlot slot);
+    void setMoreShortcut(const SavedShortcut& shortcut, MoreGestureSlot slot);
+    // The depth of the active profile's top band, brought into its range.
+    void setTopBand(double depth);
     // Appends a profile (a copy of the active one's slots when `duplicate`) and activates it.
     void add(const std::string& name, bool duplicate);
     void rename(const std::string& name);

@@ -35,6 +35,7 @@ void WorkProfile::sanitize() {
         }
     }
     sanitizeExtras();
+    moreGestures.sanitize();
 }
 
 void WorkProfile::sanitizeExtras() {

@@ -7,6 +7,7 @@
 #include "core/actions/ActionIndex.h"
 #include "core/actions/SavedShortcut.h"
 #include "core/profiles/GestureSlot.h"
+#include "core/profiles/MoreGestureMap.h"
 #include "core/profiles/SlotExtra.h"
 #include "core/profiles/Uuid.h"
 
@@ -29,7 +30,8 @@ struct WorkProfile {
     // Exactly eight actions and shortcuts afterwards; invalid shortcuts are dropped and actions
     // outside the catalogue, or custom actions without a shortcut, fall back to the default.
     // Then the extras: none at all, or exactly eight; a slot keeps its extra only while its
-    // action is the default, and an extra that needs a value only with one.
+    // action is the default, and an extra that needs a value only with one. The further
+    // gestures are repaired by the same rules as the eight.
     void sanitize();
 
     // The extra action of a slot, if it holds one.
@@ -46,6 +48,8 @@ struct WorkProfile {
     // the default action in `actions`, so a reader that knows only `actions` does the system's
     // own behaviour there.
     std::vector<std::optional<SlotExtra>> extras;
+    // The gestures beyond the eight, all off until mapped. sanitize() repairs them too.
+    MoreGestureMap moreGestures;
 
     bool operator==(const WorkProfile&) const = default;
 
