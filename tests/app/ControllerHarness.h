@@ -18,6 +18,7 @@
 #include "app/fakes/FakeMainQueue.h"
 #include "app/fakes/FakePermissionResetTool.h"
 #include "app/fakes/FakePermissions.h"
+#include "app/fakes/FakePointerDragger.h"
 #include "app/fakes/FakeProcessActivity.h"
 #include "app/fakes/FakeProfileFiles.h"
 #include "app/fakes/FakeSecureInput.h"
@@ -95,9 +96,10 @@ class ControllerHarness {
     // Everything the controller reaches the platform through, for a second controller on the
     // same fakes.
     ControllerServices services() {
-        return {clock,   queue,     workspace, permissions, poster,    eventTap, sensor,
-                shell,   view,      dialogs,   traceSink,   defaults,  surface,  files,
-                devices, loginItem, activity,  secureInput, resetTool, nullptr,  nullptr};
+        return {clock,     queue,   workspace, permissions, poster,    eventTap,
+                sensor,    shell,   view,      dialogs,     traceSink, defaults,
+                surface,   files,   devices,   loginItem,   activity,  secureInput,
+                resetTool, dragger, nullptr,   nullptr,     nullptr};
     }
 
     // Launches, then ticks the master switch as the user would.
@@ -165,6 +167,7 @@ class ControllerHarness {
     FakeProcessActivity activity;
     FakeSecureInput secureInput;
     FakePermissionResetTool resetTool;
+    FakePointerDragger dragger;
     std::unique_ptr<Tactora> app;
     std::shared_ptr<Controller> controller;
 };

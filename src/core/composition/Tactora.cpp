@@ -27,15 +27,17 @@ std::shared_ptr<ExtraActions> makeExtraActions(const ControllerServices& service
         marker);
 }
 
-// `services`, handing the further actions to `extras` when there are any, and touches to
-// `guard`.
+// `services`, handing the further actions to `extras` when there are any, touches to `guard`
+// and the gestures beyond the eight to `more`.
 ControllerServices withParts(ControllerServices services,
                              const std::shared_ptr<ExtraActions>& extras,
-                             const std::shared_ptr<MisfireGuard>& guard) {
+                             const std::shared_ptr<MisfireGuard>& guard,
+                             const std::shared_ptr<MoreGesturesExtension>& more) {
     if (extras) {
         services.extraActions = extras;
     }
     services.judge = guard;
+    services.extension = more;
     return services;
 }
 
@@ -58,7 +60,9 @@ Tactora::Tactora(const ControllerServices& services, ExtraActionPlatform platfor
 Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras)
     : extras_(std::move(extras)),
       guard_(makeGuard(services)),
-      controller_(Controller::create(withParts(services, extras_, guard_))),
+      more_(std::make_shared<MoreGesturesExtension>(
+          MoreGestureServices{.poster = services.poster, .dragger = services.dragger})),
+      controller_(Controller::create(withParts(services, extras_, guard_, more_))),
       keeper_(GestureKeeper::create({.clock = services.clock,
                                      .queue = services.queue,
                                      .view = services.view,
@@ -88,6 +92,8 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
     controller_->addObserver(*liveView_);
     controller_->setProfileTitleSource(frontmost_.get());
     controller_->addObserver(*feedback_);
+    more_->follow(*controller_);
+    controller_->addObserver(*more_);
     if (extras_) {
         // A list of Shortcuts that arrives later may change what the gesture rows show.
         extras_->setRowsChanged([weak = std::weak_ptr<Controller>(controller_)] {
@@ -99,6 +105,7 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
 }
 
 Tactora::~Tactora() {
+    controller_->removeObserver(*more_);
     controller_->removeObserver(*feedback_);
     controller_->removeObserver(*liveView_);
     controller_->removeObserver(*frontmost_);

@@ -10,6 +10,7 @@
 #include "core/liveview/LiveView.h"
 #include "core/misfire/MisfireGuard.h"
 #include "core/moreactions/ExtraActions.h"
+#include "core/moregestures/MoreGesturesExtension.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
 
@@ -29,6 +30,8 @@ namespace tactora {
 //                modifier clicks), which the controller hands on through ExtraActionPerformer
 //   misfire/     the options against accidental gestures and the tap's limits, which the
 //                controller consults through TouchJudge
+//   moregestures/ the gestures beyond the eight, which the controller feeds through
+//                GestureExtension
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
@@ -55,12 +58,14 @@ class Tactora {
     // Nothing when made without the further actions.
     ExtraActions* extraActions() { return extras_.get(); }
     MisfireGuard& misfireGuard() { return *guard_; }
+    MoreGesturesExtension& moreGestures() { return *more_; }
 
   private:
     Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras);
 
     std::shared_ptr<ExtraActions> extras_;
     std::shared_ptr<MisfireGuard> guard_;
+    std::shared_ptr<MoreGesturesExtension> more_;
     std::shared_ptr<Controller> controller_;
     std::shared_ptr<GestureKeeper> keeper_;
     std::shared_ptr<FrontmostProfiles> frontmost_;
