@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/fakes/CallLog.h"
+#include "app/fakes/FakeAdvancedSheetView.h"
 #include "app/fakes/FakeAppShell.h"
 #include "app/fakes/FakeClock.h"
 #include "app/fakes/FakeDeviceWatcher.h"
@@ -75,7 +76,7 @@ class ControllerHarness {
         sensor.mice.insert(mouseSender);
         setStringTable(testTable());
         initializeGlobals();
-        app = std::make_unique<Tactora>(services());
+        app = std::make_unique<Tactora>(services(), &advancedView);
         controller = app->sharedController();
         setApplicationController(controller);
     }
@@ -165,6 +166,7 @@ class ControllerHarness {
     FakeProcessActivity activity;
     FakeSecureInput secureInput;
     FakePermissionResetTool resetTool;
+    FakeAdvancedSheetView advancedView;
     std::unique_ptr<Tactora> app;
     std::shared_ptr<Controller> controller;
 };

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
+#include "core/advanced/AdvancedSettings.h"
 #include "core/app/Controller.h"
 #include "core/app/ControllerServices.h"
 #include "core/feedback/MenuBarFeedback.h"
@@ -10,6 +13,7 @@
 #include "core/liveview/LiveView.h"
 #include "core/misfire/MisfireGuard.h"
 #include "core/moreactions/ExtraActions.h"
+#include "core/platform/AdvancedSheetView.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
 
@@ -29,15 +33,18 @@ namespace tactora {
 //                modifier clicks), which the controller hands on through ExtraActionPerformer
 //   misfire/     the options against accidental gestures and the tap's limits, which the
 //                controller consults through TouchJudge
+//   advanced/    the Advanced sheet, which edits those options and limits, and its try area
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
 class Tactora {
   public:
-    // Without the further actions: a gesture mapped to one does nothing.
-    explicit Tactora(ControllerServices services);
+    // Without the further actions: a gesture mapped to one does nothing. Without
+    // `advancedView` (not owned; it must outlive this), the Advanced sheet is never shown.
+    explicit Tactora(ControllerServices services, AdvancedSheetView* advancedView = nullptr);
     // With the further actions, carried out through `platform`.
-    Tactora(const ControllerServices& services, ExtraActionPlatform platform);
+    Tactora(const ControllerServices& services, ExtraActionPlatform platform,
+            AdvancedSheetView* advancedView = nullptr);
     Tactora(const Tactora&) = delete;
     Tactora& operator=(const Tactora&) = delete;
     Tactora(Tactora&&) = delete;
@@ -55,9 +62,19 @@ class Tactora {
     // Nothing when made without the further actions.
     ExtraActions* extraActions() { return extras_.get(); }
     MisfireGuard& misfireGuard() { return *guard_; }
+    AdvancedSettings& advanced() { return advanced_; }
 
   private:
-    Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras);
+    // Stands in for the Advanced sheet when there is none: shows nothing.
+    class NoAdvancedSheet final : public AdvancedSheetView {
+      public:
+        void show(const AdvancedSheet& /*sheet*/) override {}
+        void showTries(const std::vector<TryLine>& /*tries*/,
+                       const std::string& /*announcement*/) override {}
+    };
+
+    Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras,
+            AdvancedSheetView* advancedView);
 
     std::shared_ptr<ExtraActions> extras_;
     std::shared_ptr<MisfireGuard> guard_;
@@ -68,6 +85,8 @@ class Tactora {
     std::shared_ptr<MenuBarFeedback> feedback_;
     TouchRecorder recorder_;
     ProfileFileControls profileFiles_;
+    NoAdvancedSheet noAdvancedSheet_;
+    AdvancedSettings advanced_;
 };
 
 }  // namespace tactora
