@@ -50,7 +50,8 @@ double rounded(double value, int digits) {
 }
 
 // The band of `bands` that `field` edits.
-double& band(EdgeBands& bands, AdvancedField field) {
+template <typename Bands>
+auto& band(Bands& bands, AdvancedField field) {
     switch (field) {
         case AdvancedField::edgeLeft:
             return bands.left;
@@ -160,11 +161,9 @@ double AdvancedChoices::value(AdvancedField field) const {
         case AdvancedField::edgeLeft:
         case AdvancedField::edgeRight:
         case AdvancedField::edgeFront:
-        case AdvancedField::edgeBack: {
-            EdgeBands bands = edgeBands;
-            shown = band(bands, field) * percent;
+        case AdvancedField::edgeBack:
+            shown = band(edgeBands, field) * percent;
             break;
-        }
         case AdvancedField::fingertipSize:
             shown = options.largestFingertip;
             break;
