@@ -39,6 +39,27 @@ TEST_F(AdvancedSettingsTest, OpeningShowsEveryOptionOffAndTheDefaultLimits) {
     EXPECT_TRUE(shown().tries.empty());
 }
 
+TEST_F(AdvancedSettingsTest, EveryFieldSaysWhatItIsInWhatUnitAndWhatItTakes) {
+    advanced().open();
+
+    const AdvancedValue& quiet = value(AdvancedField::quietTime);
+    EXPECT_EQ(quiet.label, "advanced.quiet.time");
+    EXPECT_EQ(quiet.unit, "advanced.unit.ms");
+    EXPECT_EQ(quiet.low, 1);
+    EXPECT_EQ(quiet.high, 2000);
+    EXPECT_EQ(quiet.fractionDigits, 0);
+    const AdvancedValue& tolerance = value(AdvancedField::tolerance);
+    EXPECT_EQ(tolerance.unit, "advanced.unit.percent");
+    EXPECT_EQ(tolerance.fractionDigits, 1);
+    EXPECT_EQ(value(AdvancedField::fingertipSize).unit, "");
+    EXPECT_EQ(shown().groups.back().title, "advanced.limits");
+    EXPECT_FALSE(shown().groups.back().option);
+    EXPECT_EQ(shown().recommendedButton, "advanced.recommended");
+    EXPECT_EQ(shown().restoreButton, "advanced.restore");
+    EXPECT_EQ(shown().doneButton, "advanced.done");
+    EXPECT_EQ(AdvancedSettings::openTitle(), "advanced.open");
+}
+
 TEST_F(AdvancedSettingsTest, OpeningShowsWhatTheUserKeptEarlier) {
     auto earlier = std::make_shared<MemoryPreferences>();
     MisfireOptions options;

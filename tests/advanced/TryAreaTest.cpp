@@ -112,6 +112,30 @@ TEST_F(TryAreaTest, AFingertipBesideAPalmStillTaps) {
     EXPECT_EQ(tries(), Lines{"ok tap 1"});
 }
 
+TEST_F(TryAreaTest, ATouchWithAPalmIsRejectedOnceLargeContactsAreIgnored) {
+    advanced().setOption(AdvancedOption::ignoreLargeContacts, true);
+    const std::vector<Finger> touch{Finger(1, 0.5, 0.2), Finger(2, 0.5, 0.8)};
+    const std::vector<std::optional<ContactShape>> shapes{ContactShape{.size = 4.0F},
+                                                          ContactShape{.size = 0.8F}};
+
+    h.c().receive(touch, shapes);
+    h.queue.advance(0.1);
+    h.c().receive({}, {});
+
+    EXPECT_EQ(tries(), Lines{"no (2 fingers): reason.large_contact"});
+}
+
+TEST_F(TryAreaTest, ATouchThatBeginsWhileTheButtonIsHeldBelongsToTheClick) {
+    advanced().setOption(AdvancedOption::forgetEarlierActivity, true);
+    FakeTapEvent down = h.mouseEvent(event::leftMouseDown);
+    (void)h.send(down);
+    h.queue.runReady();
+
+    h.tap(1);
+
+    EXPECT_EQ(tries(), Lines{"no (1 finger): reason.during_press"});
+}
+
 TEST_F(TryAreaTest, ATapRightAfterAScrollIsRejectedOnceTheQuietTimeIsOn) {
     advanced().setOption(AdvancedOption::quietAfterActivity, true);
     advanced().setOption(AdvancedOption::forgetEarlierActivity, true);
