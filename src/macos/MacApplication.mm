@@ -23,6 +23,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
       view_(controls_),
       shell_(controls_, delegate_),
       surface_(controls_),
+      advanced_(controls_, delegate_),
       program_(std::make_unique<Tactora>(
           ControllerServices{
               .clock = clock_,
@@ -50,7 +51,8 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
               .opener = opener_,
               .processes = processes_,
               .picker = picker_,
-          })) {
+          },
+          &advanced_)) {
     [delegate_ attachProgram:program_.get()];
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/advanced/AdvancedSettings.h"
 #include "macos/Labels.h"
 #include "macos/StringConversion.h"
 
@@ -269,14 +270,21 @@ void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsW
 }
 
 // Under the gesture table, the hint, the live line and the test button, in that order, and the
-// live view beside them at the column's trailing edge, where the column has room to spare.
+// live view beside them at the column's trailing edge, where the column has room to spare. The
+// button that opens the Advanced sheet shares the test button's line: the limits and options it
+// sets are what the live view beside it explains.
 void SettingsWindowBuilder::addLiveArea(const SettingsWindowTexts& texts) {
     constexpr CGFloat linesWidth = columnWidth - surfaceWidth - surfaceGap;
     controls_.live.font = [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightRegular];
     wrapWithin(controls_.live, linesWidth);
+    NSStackView* buttons = makeRow(
+        @[
+            makeButton(texts.testDesktop, @selector(testDesktop)),
+            makeButton(AdvancedSettings::openTitle(), @selector(openAdvanced))
+        ],
+        8);
     NSStackView* lines = [NSStackView stackViewWithViews:@[
-        makeNote(texts.recordHint, 11, linesWidth), controls_.live,
-        makeButton(texts.testDesktop, @selector(testDesktop))
+        makeNote(texts.recordHint, 11, linesWidth), controls_.live, buttons
     ]];
     lines.orientation = NSUserInterfaceLayoutOrientationVertical;
     lines.alignment = NSLayoutAttributeLeading;

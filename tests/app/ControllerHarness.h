@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/fakes/CallLog.h"
+#include "app/fakes/FakeAdvancedSheetView.h"
 #include "app/fakes/FakeAppShell.h"
 #include "app/fakes/FakeClock.h"
 #include "app/fakes/FakeDeviceWatcher.h"
@@ -76,7 +77,7 @@ class ControllerHarness {
         sensor.mice.insert(mouseSender);
         setStringTable(testTable());
         initializeGlobals();
-        app = std::make_unique<Tactora>(services());
+        app = std::make_unique<Tactora>(services(), &advancedView);
         controller = app->sharedController();
         setApplicationController(controller);
     }
@@ -168,6 +169,7 @@ class ControllerHarness {
     FakeSecureInput secureInput;
     FakePermissionResetTool resetTool;
     FakePointerDragger dragger;
+    FakeAdvancedSheetView advancedView;
     std::unique_ptr<Tactora> app;
     std::shared_ptr<Controller> controller;
 };

@@ -52,12 +52,15 @@ std::shared_ptr<MisfireGuard> makeGuard(const ControllerServices& services) {
 
 }  // namespace
 
-Tactora::Tactora(ControllerServices services) : Tactora(std::move(services), nullptr) {}
+Tactora::Tactora(ControllerServices services, AdvancedSheetView* advancedView)
+    : Tactora(std::move(services), nullptr, advancedView) {}
 
-Tactora::Tactora(const ControllerServices& services, ExtraActionPlatform platform)
-    : Tactora(services, makeExtraActions(services, platform)) {}
+Tactora::Tactora(const ControllerServices& services, ExtraActionPlatform platform,
+                 AdvancedSheetView* advancedView)
+    : Tactora(services, makeExtraActions(services, platform), advancedView) {}
 
-Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras)
+Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras,
+                 AdvancedSheetView* advancedView)
     : extras_(std::move(extras)),
       guard_(makeGuard(services)),
       more_(std::make_shared<MoreGesturesExtension>(
@@ -81,7 +84,9 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
           MenuBarFeedback::create(services.defaults, *controller_, services.clock, services.queue)),
       recorder_(services.traceSink, services.clock, services.workspace, services.view, *controller_,
                 *controller_),
-      profileFiles_(*controller_, *frontmost_, services.files, services.dialogs, services.view) {
+      profileFiles_(*controller_, *frontmost_, services.files, services.dialogs, services.view),
+      advanced_(*guard_, services.defaults,
+                advancedView != nullptr ? *advancedView : noAdvancedSheet_) {
     // The recorder comes first, so that it writes what comes in before the others act on it.
     controller_->addObserver(recorder_);
     // Next, so that gestures it switches on or off are what the others see.
@@ -94,6 +99,7 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
     controller_->addObserver(*feedback_);
     more_->follow(*controller_);
     controller_->addObserver(*more_);
+    controller_->addObserver(advanced_);
     if (extras_) {
         // A list of Shortcuts that arrives later may change what the gesture rows show.
         extras_->setRowsChanged([weak = std::weak_ptr<Controller>(controller_)] {
@@ -105,6 +111,7 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
 }
 
 Tactora::~Tactora() {
+    controller_->removeObserver(advanced_);
     controller_->removeObserver(*more_);
     controller_->removeObserver(*feedback_);
     controller_->removeObserver(*liveView_);

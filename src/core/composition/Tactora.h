@@ -1,7 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
+#include "core/advanced/AdvancedSettings.h"
 #include "core/app/Controller.h"
 #include "core/app/ControllerServices.h"
 #include "core/feedback/MenuBarFeedback.h"
@@ -11,6 +14,7 @@
 #include "core/misfire/MisfireGuard.h"
 #include "core/moreactions/ExtraActions.h"
 #include "core/moregestures/MoreGesturesExtension.h"
+#include "core/platform/AdvancedSheetView.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
 
@@ -32,15 +36,18 @@ namespace tactora {
 //                controller consults through TouchJudge
 //   moregestures/ the gestures beyond the eight, which the controller feeds through
 //                GestureExtension
+//   advanced/    the Advanced sheet, which edits those options and limits, and its try area
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
 class Tactora {
   public:
-    // Without the further actions: a gesture mapped to one does nothing.
-    explicit Tactora(ControllerServices services);
+    // Without the further actions: a gesture mapped to one does nothing. Without
+    // `advancedView` (not owned; it must outlive this), the Advanced sheet is never shown.
+    explicit Tactora(ControllerServices services, AdvancedSheetView* advancedView = nullptr);
     // With the further actions, carried out through `platform`.
-    Tactora(const ControllerServices& services, ExtraActionPlatform platform);
+    Tactora(const ControllerServices& services, ExtraActionPlatform platform,
+            AdvancedSheetView* advancedView = nullptr);
     Tactora(const Tactora&) = delete;
     Tactora& operator=(const Tactora&) = delete;
     Tactora(Tactora&&) = delete;
@@ -59,9 +66,19 @@ class Tactora {
     ExtraActions* extraActions() { return extras_.get(); }
     MisfireGuard& misfireGuard() { return *guard_; }
     MoreGesturesExtension& moreGestures() { return *more_; }
+    AdvancedSettings& advanced() { return advanced_; }
 
   private:
-    Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras);
+    // Stands in for the Advanced sheet when there is none: shows nothing.
+    class NoAdvancedSheet final : public AdvancedSheetView {
+      public:
+        void show(const AdvancedSheet& /*sheet*/) override {}
+        void showTries(const std::vector<TryLine>& /*tries*/,
+                       const std::string& /*announcement*/) override {}
+    };
+
+    Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras,
+            AdvancedSheetView* advancedView);
 
     std::shared_ptr<ExtraActions> extras_;
     std::shared_ptr<MisfireGuard> guard_;
@@ -73,6 +90,8 @@ class Tactora {
     std::shared_ptr<MenuBarFeedback> feedback_;
     TouchRecorder recorder_;
     ProfileFileControls profileFiles_;
+    NoAdvancedSheet noAdvancedSheet_;
+    AdvancedSettings advanced_;
 };
 
 }  // namespace tactora
