@@ -18,6 +18,7 @@
 #include "macos/FileTraceSink.h"
 #include "macos/IOKitDeviceWatcher.h"
 #include "macos/MachPortEventTap.h"
+#include "macos/MachPortPointerDragger.h"
 #include "macos/PanelActionValuePicker.h"
 #include "macos/ServiceManagementLoginItem.h"
 #include "macos/SystemPermissions.h"
@@ -64,6 +65,7 @@ class MacApplication {
     SystemProcessActivity activity_;
     SystemSecureInput secureInput_;
     TccutilResetTool resetTool_;
+    MachPortPointerDragger dragger_;
     FileTraceSink traceSink_;
     TASettingsControls* __strong controls_;
     TAApplicationDelegate* __strong delegate_;

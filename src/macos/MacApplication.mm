@@ -45,6 +45,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
               .activity = activity_,
               .secureInput = secureInput_,
               .resetTool = resetTool_,
+              .dragger = dragger_,
           },
           ExtraActionPlatform{
               .systemEvents = systemEvents_,

@@ -10,10 +10,11 @@
 namespace tactora::macos {
 
 // A CoreGraphics event tap and its run-loop source on the main run loop. Every event it sees
-// goes to `callback`, which gets no user-info pointer.
+// goes to `callback`, with `userInfo` (not owned) as its user-info pointer.
 class MachPortEventTap final : public EventTap {
   public:
-    explicit MachPortEventTap(CGEventTapCallBack callback) : callback_(callback) {}
+    explicit MachPortEventTap(CGEventTapCallBack callback, void* userInfo = nullptr)
+        : callback_(callback), userInfo_(userInfo) {}
     ~MachPortEventTap() override;
 
     MachPortEventTap(const MachPortEventTap&) = delete;
@@ -25,6 +26,7 @@ class MachPortEventTap final : public EventTap {
 
   private:
     CGEventTapCallBack callback_;
+    void* userInfo_;
     CFHandle<CFMachPortRef> port_;
     CFHandle<CFRunLoopSourceRef> source_;
 };

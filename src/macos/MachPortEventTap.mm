@@ -15,7 +15,7 @@ MachPortEventTap::~MachPortEventTap() {
 bool MachPortEventTap::create(std::uint64_t mask) {
     CFHandle<CFMachPortRef> port(
         CGEventTapCreate(kCGHIDEventTap, kCGHeadInsertEventTap, kCGEventTapOptionDefault,
-                         static_cast<CGEventMask>(mask), callback_, nullptr));
+                         static_cast<CGEventMask>(mask), callback_, userInfo_));
     if (!port) {
         return false;
     }

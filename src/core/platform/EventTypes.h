@@ -15,6 +15,7 @@ inline constexpr EventType leftMouseDown = 1;
 inline constexpr EventType leftMouseUp = 2;
 inline constexpr EventType rightMouseDown = 3;
 inline constexpr EventType rightMouseUp = 4;
+inline constexpr EventType mouseMoved = 5;
 inline constexpr EventType leftMouseDragged = 6;
 inline constexpr EventType rightMouseDragged = 7;
 inline constexpr EventType keyDown = 10;
