@@ -10,8 +10,10 @@
 #include <string>
 #include <vector>
 
+#include "core/app/ControllerObserver.h"
 #include "core/app/Globals.h"
 #include "core/localization/Localizer.h"
+#include "core/profiles/MoreGestureSlot.h"
 #include "core/profiles/ProfileJson.h"
 #include "core/replay/TraceReplay.h"
 #include "core/trace/TraceReader.h"
@@ -40,6 +42,62 @@ std::vector<std::string> traceNames() {
     }
     std::ranges::sort(names);
     return names;
+}
+
+// What the eight gestures decided: every tap and click recognised and every action they carried
+// out, with its time; the actions of the gestures beyond them are only counted.
+struct Decided {
+    std::vector<std::string> seen;
+    std::vector<ActionIndex> oneFingerTapActions;
+    std::size_t further = 0;
+};
+
+class EightGestures final : public ControllerObserver {
+  public:
+    void gestureRecognised(const GestureNote& note) override {
+        decided.seen.push_back(std::to_string(note.time) +
+                               (note.kind == GestureKind::tap ? " tap " : " click ") +
+                               std::to_string(note.fingers));
+    }
+    void actionPerformed(const ActionNote& note) override {
+        if (note.origin == ActionOrigin::moreGesture) {
+            ++decided.further;
+            return;
+        }
+        const bool plainTap = note.origin == ActionOrigin::tap && note.fingers == 1;
+        decided.seen.push_back(std::to_string(note.time) + " action " +
+                               (plainTap ? "(one-finger tap)" : std::to_string(note.action)));
+        if (plainTap) {
+            decided.oneFingerTapActions.push_back(note.action);
+        }
+    }
+
+    Decided decided;
+};
+
+// `profiles` with every gesture beyond the eight mapped to Show Desktop; the region taps too
+// when `regions`.
+std::vector<WorkProfile> withEveryFurtherGesture(std::vector<WorkProfile> profiles, bool regions) {
+    for (WorkProfile& profile : profiles) {
+        for (std::size_t index = 0; index < moreslot::count; ++index) {
+            const auto slot = static_cast<MoreGestureSlot>(index);
+            const bool region = slot == MoreGestureSlot::tapLeft ||
+                                slot == MoreGestureSlot::tapRight ||
+                                slot == MoreGestureSlot::tapTop;
+            if (regions || !region) {
+                profile.moreGestures.actions[index] = action::showDesktop;
+            }
+        }
+    }
+    return profiles;
+}
+
+// What the eight decide when `trace` is replayed with `profiles`.
+Decided eightOf(const std::vector<TraceLine>& trace, const std::vector<WorkProfile>& profiles) {
+    EightGestures eight;
+    ControllerObserver* const watchers[] = {&eight};
+    (void)TraceReplay::run(trace, profiles, TraceReplay::Detail::decisions, watchers);
+    return eight.decided;
 }
 
 class GoldenTrace : public ::testing::TestWithParam<std::string> {
@@ -71,6 +129,26 @@ TEST_P(GoldenTrace, ExplainsItselfAsItsExplainedFileSays) {
     ASSERT_TRUE(std::filesystem::exists(explained)) << explained;
     EXPECT_EQ(TraceReplay::run(reading.lines, profiles, TraceReplay::Detail::explained),
               contents(explained));
+}
+
+// Mapping the gestures beyond the eight never changes what the eight do on touches that are not
+// those gestures; a mapped region takes the one-finger taps in it and nothing else.
+TEST_P(GoldenTrace, TheEightDecideAlikeWithEveryFurtherGestureMapped) {
+    const TraceReading reading = readTrace(contents(tracesDirectory() / (GetParam() + ".trace")));
+    ASSERT_FALSE(reading.error) << describeTraceError(*reading.error);
+    const auto profiles = decodeProfiles(contents(tracesDirectory() / "profiles.json"));
+    ASSERT_TRUE(profiles);
+
+    const Decided alone = eightOf(reading.lines, *profiles);
+    const Decided beside = eightOf(reading.lines, withEveryFurtherGesture(*profiles, false));
+    const Decided withRegions = eightOf(reading.lines, withEveryFurtherGesture(*profiles, true));
+
+    EXPECT_EQ(beside.seen, alone.seen);
+    EXPECT_EQ(beside.oneFingerTapActions, alone.oneFingerTapActions);
+    EXPECT_EQ(withRegions.seen, alone.seen);
+    EXPECT_EQ(withRegions.oneFingerTapActions,
+              std::vector<ActionIndex>(alone.oneFingerTapActions.size(), action::showDesktop));
+    EXPECT_EQ(alone.further, 0U);
 }
 
 TEST_P(GoldenTrace, SaysWhatItShows) {
