@@ -336,6 +336,179 @@ Episode pickUp(Dice& dice, double start) {
     return episode;
 }
 
+// --- The gestures beyond the taps and clicks, and what could be mistaken for them ---------------
+
+TouchLabel meant(MoreGestureSlot slot, double start, double end) {
+    TouchLabel label{start, end, TouchIntent::gesture};
+    label.slot = slot;
+    return label;
+}
+
+// A one-finger tap in one region of the surface: the left or right half below the top band, or
+// the top band, nearest the fingertips.
+Episode regionTap(Dice& dice, double start, MoreGestureSlot slot) {
+    Episode episode;
+    const double duration = tapDuration(dice);
+    double x = dice.uniform(0.25, 0.75);
+    double y = dice.uniform(0.8, 0.95);
+    if (slot != MoreGestureSlot::tapTop) {
+        x = slot == MoreGestureSlot::tapLeft ? dice.uniform(0.12, 0.44) : dice.uniform(0.56, 0.88);
+        y = dice.uniform(0.3, 0.68);
+    }
+    episode.contacts.push_back(contactAt(dice, start, start + duration, x, y, fingertip(dice)));
+    episode.labels.push_back(meant(slot, start, start + duration));
+    return episode;
+}
+
+// One finger comes to rest; then a second taps beside it, once or twice, to its left or right;
+// then the resting finger lifts. The resting finger is no gesture, and its lift is none.
+Episode tipTap(Dice& dice, double start, bool right) {
+    Episode episode;
+    const double x = dice.uniform(0.35, 0.65);
+    const double y = dice.uniform(0.45, 0.75);
+    double land = start + dice.uniform(0.45, 1.2);
+    const std::int64_t taps = dice.chance(0.3) ? 2 : 1;
+    for (std::int64_t tap = 0; tap < taps; ++tap) {
+        const double duration = dice.normalWithin(0.12, 0.03, 0.06, 0.22);
+        const double side = (right ? 1 : -1) * dice.uniform(0.1, 0.2);
+        episode.contacts.push_back(contactAt(dice, land, land + duration, x + side,
+                                             y + dice.normal(0, 0.03), fingertip(dice), 0.02));
+        episode.labels.push_back(
+            meant(right ? MoreGestureSlot::tipTapRight : MoreGestureSlot::tipTapLeft, land,
+                  land + duration));
+        land += duration + dice.uniform(0.2, 0.5);
+    }
+    const double lift = lastLift(episode.contacts) + dice.uniform(0.2, 0.8);
+    episode.contacts.push_back(contactAt(dice, start, lift, x, y, fingertip(dice), 0.006));
+    episode.labels.push_back(accident(AccidentKind::restingFinger, start, lift));
+    return episode;
+}
+
+// `fingers` fingers side by side that land together and move together across the surface,
+// far and fast enough to be a swipe. One and two fingers moving scroll as they go.
+Episode swipe(Dice& dice, double start, std::int64_t fingers, SwipeDirection direction) {
+    Episode episode;
+    const double duration = dice.uniform(0.15, 0.35);
+    const double distance = dice.uniform(0.2, 0.32);
+    const double speed = distance / duration;
+    const bool vertical = direction == SwipeDirection::up || direction == SwipeDirection::down;
+    const double forward =
+        direction == SwipeDirection::up || direction == SwipeDirection::right ? 1 : -1;
+    const double spacing = dice.uniform(0.11, 0.15);
+    const double span = spacing * static_cast<double>(fingers - 1);
+    // Where the hand starts: far enough from the edge it moves towards. The fingers lie side by
+    // side across the surface; `first` is where the leftmost lands.
+    const double row = vertical
+                           ? (forward > 0 ? dice.uniform(0.12, 0.25) : dice.uniform(0.75, 0.88))
+                           : dice.uniform(0.35, 0.65);
+    double first = 0.5 - (span / 2) + dice.normal(0, 0.04);
+    if (!vertical) {
+        first = forward > 0 ? dice.uniform(0.1, 0.2) : dice.uniform(0.8, 0.9) - span;
+    }
+    for (std::int64_t finger = 0; finger < fingers; ++finger) {
+        const double land = finger == 0 ? start : start + dice.uniform(0, 0.02);
+        const double lift = start + duration - dice.uniform(0, 0.025);
+        PlannedContact contact = contactAt(dice, land, std::max(lift, land + 0.08),
+                                           first + (spacing * static_cast<double>(finger)),
+                                           row + dice.normal(0, 0.02), fingertip(dice), 0.01);
+        const double drift = forward * speed * (1 + dice.normal(0, 0.05));
+        (vertical ? contact.driftY : contact.driftX) = drift;
+        (vertical ? contact.driftX : contact.driftY) = dice.normal(0, 0.05);
+        episode.contacts.push_back(contact);
+    }
+    const double lift = lastLift(episode.contacts);
+    if (fingers <= 2) {
+        addScrollEvents(episode, start + 0.04, lift - 0.02);
+    }
+    episode.labels.push_back(meant(moreslot::forSwipe(fingers, direction), start, lift));
+    return episode;
+}
+
+// A one-finger tap, then soon after a finger that lands in about the same place and stays while
+// the hand drags the mouse.
+Episode tapHold(Dice& dice, double start) {
+    Episode episode;
+    const double x = dice.uniform(0.25, 0.75);
+    const double y = dice.uniform(0.4, 0.7);
+    const double tapEnd = start + dice.normalWithin(0.11, 0.03, 0.06, 0.2);
+    episode.contacts.push_back(contactAt(dice, start, tapEnd, x, y, fingertip(dice)));
+    const double land = tapEnd + dice.uniform(0.06, 0.2);
+    const double lift = land + dice.uniform(0.6, 2.5);
+    episode.contacts.push_back(contactAt(dice, land, lift, x + dice.normal(0, 0.015),
+                                         y + dice.normal(0, 0.015), fingertip(dice), 0.006));
+    episode.labels.push_back(meant(MoreGestureSlot::tapHold, start, lift));
+    return episode;
+}
+
+// One or two fingers scrolling slowly, or only a little: the start of what could be a swipe.
+Episode shortScroll(Dice& dice, double start) {
+    Episode episode;
+    const std::int64_t fingers = dice.integer(1, 2);
+    const double duration = dice.uniform(0.3, 1.2);
+    const std::size_t first = episode.contacts.size();
+    addFingers(episode, dice, fingers, start, duration);
+    const double speed = (dice.chance(0.5) ? 1 : -1) * dice.uniform(0.05, 0.22);
+    for (std::size_t index = first; index < episode.contacts.size(); ++index) {
+        episode.contacts[index].driftY = speed;
+        episode.contacts[index].y = 0.5;
+    }
+    const double lift = lastLift(episode.contacts, first);
+    addScrollEvents(episode, start + 0.05, lift - 0.02);
+    episode.labels.push_back(accident(AccidentKind::shortScroll, start, lift));
+    return episode;
+}
+
+// One to three fingers shifting their grip to move the mouse, sliding a little.
+Episode repositionFew(Dice& dice, double start) {
+    Episode episode;
+    const std::int64_t fingers = dice.integer(1, 3);
+    addFingers(episode, dice, fingers, start, dice.uniform(0.15, 0.6));
+    const double driftX = dice.normal(0, 0.2);
+    const double driftY = dice.normal(0, 0.2);
+    for (PlannedContact& contact : episode.contacts) {
+        contact.driftX = driftX + dice.normal(0, 0.02);
+        contact.driftY = driftY + dice.normal(0, 0.02);
+    }
+    episode.labels.push_back(accident(AccidentKind::reposition, start, lastLift(episode.contacts)));
+    return episode;
+}
+
+// A finger resting, and a second one that comes to rest beside it rather than tapping.
+Episode restingPair(Dice& dice, double start) {
+    Episode episode;
+    const double x = dice.uniform(0.35, 0.65);
+    const double y = dice.uniform(0.45, 0.75);
+    const double land = start + dice.uniform(0.4, 1.0);
+    const double second = land + dice.uniform(0.35, 1.5);
+    const double lift = second + dice.uniform(0.1, 0.6);
+    episode.contacts.push_back(contactAt(dice, land, second,
+                                         x + (dice.chance(0.5) ? 1 : -1) * dice.uniform(0.1, 0.2),
+                                         y, fingertip(dice), 0.006));
+    episode.contacts.push_back(contactAt(dice, start, lift, x, y, fingertip(dice), 0.006));
+    episode.labels.push_back(accident(AccidentKind::restingFinger, start, lift));
+    return episode;
+}
+
+// A one-finger tap, then a hand that comes back to rest on the surface: sometimes as soon as a
+// hold would, with one finger or two.
+Episode restAfterTap(Dice& dice, double start) {
+    Episode episode;
+    const double duration = tapDuration(dice);
+    addFingers(episode, dice, 1, start, duration);
+    const double tapEnd = lastLift(episode.contacts);
+    episode.labels.push_back(intended(TouchIntent::tap, start, tapEnd, 1));
+    const double land = tapEnd + dice.uniform(0.1, 0.9);
+    const std::size_t first = episode.contacts.size();
+    addFingers(episode, dice, dice.integer(1, 2), land, dice.uniform(0.6, 2.0));
+    for (std::size_t index = first; index < episode.contacts.size(); ++index) {
+        episode.contacts[index].driftX = dice.normal(0, 0.01);
+        episode.contacts[index].driftY = dice.normal(0, 0.01);
+    }
+    episode.labels.push_back(
+        accident(AccidentKind::restAfterTap, land, lastLift(episode.contacts, first)));
+    return episode;
+}
+
 // --- The mix of a session -------------------------------------------------------------------
 
 struct Kind {
@@ -370,35 +543,66 @@ const std::vector<Kind>& kinds() {
     return all;
 }
 
-Episode nextEpisode(Dice& dice, double start) {
+// The sessions beside the gestures beyond the taps and clicks: each of those gestures as meant,
+// and the touches that could be mistaken for them, with some taps, clicks and scrolls between.
+const std::vector<Kind>& moreKinds() {
+    static const std::vector<Kind> all = [] {
+        std::vector<Kind> kinds = {
+            {4, [](Dice& d, double t) { return regionTap(d, t, MoreGestureSlot::tapLeft); }},
+            {4, [](Dice& d, double t) { return regionTap(d, t, MoreGestureSlot::tapRight); }},
+            {4, [](Dice& d, double t) { return regionTap(d, t, MoreGestureSlot::tapTop); }},
+            {4, [](Dice& d, double t) { return tipTap(d, t, false); }},
+            {4, [](Dice& d, double t) { return tipTap(d, t, true); }},
+            {5, tapHold},
+            {4, shortScroll},
+            {4, repositionFew},
+            {3, restingPair},
+            {4, restAfterTap},
+            {3, scroll},
+            {2, [](Dice& d, double t) { return tap(d, t, 2); }},
+            {2, [](Dice& d, double t) { return click(d, t, 1); }},
+        };
+        for (std::int64_t fingers = 1; fingers <= moreslot::maxSwipeFingers; ++fingers) {
+            for (const SwipeDirection direction : {SwipeDirection::up, SwipeDirection::down,
+                                                   SwipeDirection::left, SwipeDirection::right}) {
+                kinds.push_back({1.5, [fingers, direction](Dice& d, double t) {
+                                     return swipe(d, t, fingers, direction);
+                                 }});
+            }
+        }
+        return kinds;
+    }();
+    return all;
+}
+
+Episode nextEpisode(Dice& dice, double start, const std::vector<Kind>& mix) {
     double total = 0;
-    for (const Kind& kind : kinds()) {
+    for (const Kind& kind : mix) {
         total += kind.weight;
     }
     double pick = dice.uniform(0, total);
-    for (const Kind& kind : kinds()) {
+    for (const Kind& kind : mix) {
         if (pick < kind.weight) {
             return kind.make(dice, start);
         }
         pick -= kind.weight;
     }
-    return kinds().back().make(dice, start);
+    return mix.back().make(dice, start);
 }
 
-std::string sessionName(int index) {
+std::string sessionName(const std::string& prefix, int index) {
     const std::string number = std::to_string(index);
-    return "session-" + std::string(number.size() < 2 ? 2 - number.size() : 0, '0') + number;
+    return prefix + std::string(number.size() < 2 ? 2 - number.size() : 0, '0') + number;
 }
 
-}  // namespace
-
-Session generateSession(std::uint64_t seed, double start, double minutes) {
+Session generateFrom(const std::vector<Kind>& mix, std::uint64_t seed, double start,
+                     double minutes) {
     Dice dice(seed);
     Session session;
     const double end = start + (minutes * 60);
     double time = start;
     while (time < end) {
-        Episode episode = nextEpisode(dice, time);
+        Episode episode = nextEpisode(dice, time, mix);
         std::vector<TraceLine> lines = sense(episode.contacts, episode.events, dice);
         session.lines.insert(session.lines.end(), std::make_move_iterator(lines.begin()),
                              std::make_move_iterator(lines.end()));
@@ -413,13 +617,36 @@ Session generateSession(std::uint64_t seed, double start, double minutes) {
     return session;
 }
 
+}  // namespace
+
+Session generateSession(std::uint64_t seed, double start, double minutes) {
+    return generateFrom(kinds(), seed, start, minutes);
+}
+
+Session generateMoreSession(std::uint64_t seed, double start, double minutes) {
+    return generateFrom(moreKinds(), seed, start, minutes);
+}
+
+std::vector<Session> generateMore(const CorpusShape& shape) {
+    std::vector<Session> sessions;
+    for (int index = 1; index <= shape.moreSessions; ++index) {
+        // A seed stream of their own, so that the sessions above stay exactly as they are.
+        Session session =
+            generateMoreSession(shape.seed * 1000 + 500 + static_cast<std::uint64_t>(index),
+                                1000.0 * index, shape.minutesPerMoreSession);
+        session.name = sessionName("more-", index);
+        sessions.push_back(std::move(session));
+    }
+    return sessions;
+}
+
 std::vector<Session> generate(const CorpusShape& shape) {
     std::vector<Session> sessions;
     for (int index = 1; index <= shape.sessions; ++index) {
         // Each session on a clock of its own, as if recorded on a different day.
         Session session = generateSession(shape.seed * 1000 + static_cast<std::uint64_t>(index),
                                           1000.0 * index, shape.minutesPerSession);
-        session.name = sessionName(index);
+        session.name = sessionName("session-", index);
         sessions.push_back(std::move(session));
     }
     return sessions;

@@ -22,6 +22,9 @@ struct CorpusShape {
     std::uint64_t seed = 17;
     int sessions = 12;
     double minutesPerSession = 15;
+    // The sessions of the gestures beyond the taps and clicks, made apart from the others.
+    int moreSessions = 4;
+    double minutesPerMoreSession = 15;
 };
 
 // Every session of the corpus, in order.
@@ -29,5 +32,13 @@ std::vector<Session> generate(const CorpusShape& shape);
 
 // One session, on its own clock starting at `start` seconds of uptime.
 Session generateSession(std::uint64_t seed, double start, double minutes);
+
+// The sessions of the gestures beyond the taps and clicks ("more-01", ...), in order: each of
+// those gestures as meant, the touches that could be mistaken for them, and some taps, clicks
+// and scrolls between. Their own seed stream: making them changes nothing in generate()'s.
+std::vector<Session> generateMore(const CorpusShape& shape);
+
+// One such session, on its own clock starting at `start` seconds of uptime.
+Session generateMoreSession(std::uint64_t seed, double start, double minutes);
 
 }  // namespace tactora::corpus

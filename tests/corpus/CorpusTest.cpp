@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -154,6 +156,63 @@ TEST(Corpus, ContainsEveryKindOfTouch) {
           "accident palm", "accident thumb", "accident scroll", "accident scroll-graze",
           "accident reposition", "accident click-lift", "accident drumming", "accident pick-up"}) {
         EXPECT_TRUE(kinds.contains(kind)) << kind;
+    }
+}
+
+const std::vector<Session>& moreSessions() {
+    static const std::vector<Session> sessions = generateMore(CorpusShape{});
+    return sessions;
+}
+
+TEST(Corpus, TheSessionsOfTheFurtherGesturesHoldEachAsMeantAndWhatCouldBeMistakenForIt) {
+    std::map<std::string, std::size_t> kinds;
+    for (const Session& session : moreSessions()) {
+        EXPECT_EQ(session.name.rfind("more-", 0), 0U) << session.name;
+        for (const TouchLabel& label : session.labels) {
+            const std::string line = labels::formatLine(label);
+            ++kinds[line.substr(line.find(' ', line.find(' ') + 1) + 1)];
+        }
+    }
+    for (const std::string_view name : moreslot::names) {
+        EXPECT_GE(kinds["gesture " + std::string(name)], 10U) << name;
+    }
+    for (const char* kind :
+         {"accident short-scroll", "accident resting-finger", "accident rest-after-tap",
+          "accident reposition", "accident scroll", "tap 1"}) {
+        EXPECT_GE(kinds[kind], 10U) << kind;
+    }
+}
+
+TEST(Corpus, TheSessionsOfTheFurtherGesturesReadBackAndLabelEveryContact) {
+    double seconds = 0;
+    for (const Session& session : moreSessions()) {
+        seconds += session.lines.back().time - session.lines.front().time;
+        const TraceReading reading = readTrace(written(session));
+        ASSERT_FALSE(reading.error) << session.name;
+        EXPECT_EQ(reading.lines, session.lines) << session.name;
+        const labels::Reading labelled = labels::read(labels::write(session.labels));
+        ASSERT_FALSE(labelled.errorLine) << session.name;
+        EXPECT_EQ(labelled.labels, session.labels) << session.name;
+        for (const TraceLine& line : session.lines) {
+            const auto* frame = std::get_if<TraceFrame>(&line.event);
+            if (frame == nullptr || frame->fingers.empty()) {
+                continue;
+            }
+            EXPECT_TRUE(std::any_of(session.labels.begin(), session.labels.end(),
+                                    [&](const auto& label) {
+                                        return label.start <= line.time && line.time <= label.end;
+                                    }))
+                << session.name << " at " << line.time;
+        }
+    }
+    EXPECT_NEAR(seconds / 3600, 1.0, 0.05);
+}
+
+TEST(Corpus, TheFirstSessionsHoldNoFurtherGesture) {
+    for (const Session& session : wholeCorpus()) {
+        for (const TouchLabel& label : session.labels) {
+            EXPECT_NE(label.intent, TouchIntent::gesture) << session.name;
+        }
     }
 }
 

@@ -1,5 +1,7 @@
 // Writes the labelled corpus as files: NAME.trace and NAME.labels for every session, in the
-// directory given, so that `tactora --score DIRECTORY` can read it and a person can look at it.
+// directory given, so that `tactora --score DIRECTORY` can read it and a person can look at it;
+// and the sessions of the gestures beyond the taps and clicks likewise in its subdirectory
+// more-gestures, for `tactora --score DIRECTORY/more-gestures --gestures all`.
 //
 //   tactora_corpus DIRECTORY [SEED [SESSIONS [MINUTES]]]
 #include <cstdint>
@@ -8,6 +10,7 @@
 #include <fstream>
 #include <iostream>
 #include <string>
+#include <vector>
 
 #include "core/score/LabelFile.h"
 #include "core/trace/TraceFormat.h"
@@ -31,6 +34,21 @@ std::string traceText(const tactora::corpus::Session& session) {
     return text;
 }
 
+bool writeSessions(const std::filesystem::path& directory,
+                   const std::vector<tactora::corpus::Session>& sessions) {
+    std::error_code error;
+    std::filesystem::create_directories(directory, error);
+    for (const tactora::corpus::Session& session : sessions) {
+        if (!writeFile(directory / (session.name + ".trace"), traceText(session)) ||
+            !writeFile(directory / (session.name + ".labels"),
+                       tactora::labels::write(session.labels))) {
+            std::cerr << "Can't write the corpus in " << directory << '\n';
+            return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -49,15 +67,8 @@ int main(int argc, char** argv) {
         shape.minutesPerSession = std::atof(argv[4]);
     }
     const std::filesystem::path directory = argv[1];
-    std::error_code error;
-    std::filesystem::create_directories(directory, error);
-    for (const tactora::corpus::Session& session : tactora::corpus::generate(shape)) {
-        if (!writeFile(directory / (session.name + ".trace"), traceText(session)) ||
-            !writeFile(directory / (session.name + ".labels"),
-                       tactora::labels::write(session.labels))) {
-            std::cerr << "Can't write the corpus in " << directory << '\n';
-            return 1;
-        }
-    }
-    return 0;
+    const bool written =
+        writeSessions(directory, tactora::corpus::generate(shape)) &&
+        writeSessions(directory / "more-gestures", tactora::corpus::generateMore(shape));
+    return written ? 0 : 1;
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,39 @@ TEST(LabelFile, ReadsWhatItWrites) {
     const labels::Reading reading = labels::read(labels::write(written));
     EXPECT_FALSE(reading.errorLine);
     EXPECT_EQ(reading.labels, written);
+}
+
+TEST(LabelFile, ReadsAndWritesTheFurtherGesturesByTheirSlotsNames) {
+    TouchLabel swipe{1.5, 1.75, TouchIntent::gesture};
+    swipe.slot = MoreGestureSlot::swipe2Up;
+    EXPECT_EQ(labels::formatLine(swipe), "1.5 1.75 gesture swipe.2.up");
+    std::vector<TouchLabel> written;
+    for (std::size_t index = 0; index < moreslot::count; ++index) {
+        TouchLabel label{2.0, 2.5, TouchIntent::gesture};
+        label.slot = static_cast<MoreGestureSlot>(index);
+        written.push_back(label);
+    }
+    for (const AccidentKind kind :
+         {AccidentKind::shortScroll, AccidentKind::restingFinger, AccidentKind::restAfterTap}) {
+        written.push_back({5.0, 6.0, TouchIntent::accident, 0, kind});
+    }
+    const labels::Reading reading = labels::read(labels::write(written));
+    EXPECT_FALSE(reading.errorLine);
+    EXPECT_EQ(reading.labels, written);
+    EXPECT_EQ(labels::read("tactora-labels 1\n1.0 2.0 accident resting-finger\n").labels,
+              (std::vector<TouchLabel>{
+                  {1.0, 2.0, TouchIntent::accident, 0, AccidentKind::restingFinger}}));
+}
+
+TEST(LabelFile, RefusesAFurtherGestureItDoesNotKnow) {
+    for (const char* line : {"1.0 2.0 gesture swipe.4.up", "1.0 2.0 gesture", "1.0 2.0 gesture 1",
+                             "1.0 2.0 gesture tapHold 1", "1.0 2.0 gesture Tap.Left",
+                             "1.0 2.0 accident short-scrolls", "1.0 2.0 gestures tap.left"}) {
+        const labels::Reading reading =
+            labels::read(std::string("tactora-labels 1\n1.0 1.5 tap 1\n") + line + "\n");
+        EXPECT_EQ(reading.errorLine, 3U) << line;
+        EXPECT_TRUE(reading.labels.empty()) << line;
+    }
 }
 
 TEST(LabelFile, SkipsCommentsAndBlankLines) {

@@ -95,10 +95,46 @@ TEST_F(ScoreModeTest, AnAccidentThatFiresIsAFalsePositive) {
     EXPECT_NE(out.str().find(" false-positives=1 "), std::string::npos) << out.str();
 }
 
+TEST_F(ScoreModeTest, ScoresEveryFurtherGestureWithEverySlotMapped) {
+    // A two-finger swipe up, then a one-finger tap on the left half.
+    std::string trace = "tactora-trace 1\n";
+    for (int step = 0; step <= 10; ++step) {
+        const std::string y = std::to_string(0.2 + (0.03 * step));
+        trace += std::to_string(1.0 + (0.01 * step)) + " frame 1:0.4," + y + " 2:0.55," + y + "\n";
+    }
+    trace += "1.11 frame\n3.0 frame 1:0.2,0.5\n3.1 frame\n";
+    write("a.trace", trace);
+    write("a.labels", "tactora-labels 1\n1.0 1.11 gesture swipe.2.up\n3.0 3.1 gesture tap.left\n");
+    ASSERT_EQ(score({"tactora", "--score", directory(), "--gestures", "all"}), 0) << err.str();
+    const std::string output = out.str();
+    EXPECT_NE(output.find("\ngesture swipe.2.up intended=1 recognised=1 wrong=0 recall=100.00% "
+                          "fired=1 false-positives=0 "),
+              std::string::npos)
+        << output;
+    EXPECT_NE(output.find("\ngesture tap.left intended=1 recognised=1 wrong=0 recall=100.00% "
+                          "fired=1 false-positives=0 "),
+              std::string::npos)
+        << output;
+    EXPECT_NE(output.find("\ngesture tapHold intended=0 "), std::string::npos) << output;
+    // Unmapped, the same touches are a swipe that does nothing and a plain one-finger tap.
+    ASSERT_EQ(score({"tactora", "--score", directory()}), 0) << err.str();
+    EXPECT_NE(out.str().find("\ngesture swipe.2.up intended=1 recognised=0 wrong=0 recall=0.00% "
+                             "fired=0 "),
+              std::string::npos)
+        << out.str();
+    EXPECT_NE(out.str().find("\ngesture tap.left intended=1 recognised=0 wrong=1 "),
+              std::string::npos)
+        << out.str();
+}
+
 TEST_F(ScoreModeTest, SaysWhatIsMissingOrWrong) {
     EXPECT_EQ(score({"tactora", "--score"}), 1);
     EXPECT_EQ(err.str(), "score.usage\n");
     EXPECT_EQ(score({"tactora", "--score", directory(), "--profile"}), 1);
+    EXPECT_EQ(err.str(), "score.usage\n");
+    EXPECT_EQ(score({"tactora", "--score", directory(), "--gestures", "some"}), 1);
+    EXPECT_EQ(err.str(), "score.usage\n");
+    EXPECT_EQ(score({"tactora", "--score", directory(), "--gestures"}), 1);
     EXPECT_EQ(err.str(), "score.usage\n");
     EXPECT_EQ(score({"tactora", "--score", directory()}), 1);
     EXPECT_EQ(err.str(), "score.empty\n");

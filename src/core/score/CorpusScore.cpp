@@ -3,6 +3,10 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
+#include <utility>
+
+#include "core/actions/ModifierFlags.h"
 
 #include "core/app/ControllerObserver.h"
 #include "core/replay/TraceReplay.h"
@@ -34,10 +38,35 @@ std::string counts(const GestureFigures& figures) {
            " recall=" + fixed(figures.recall() * 100, 2) + '%';
 }
 
-constexpr std::array<AccidentKind, 8> accidentKinds = {
-    AccidentKind::palm,        AccidentKind::thumb,      AccidentKind::scroll,
-    AccidentKind::scrollGraze, AccidentKind::reposition, AccidentKind::clickLift,
-    AccidentKind::drumming,    AccidentKind::pickUp};
+constexpr std::array<AccidentKind, accidentKindCount> accidentKinds = {
+    AccidentKind::palm,          AccidentKind::thumb,       AccidentKind::scroll,
+    AccidentKind::scrollGraze,   AccidentKind::reposition,  AccidentKind::clickLift,
+    AccidentKind::drumming,      AccidentKind::pickUp,      AccidentKind::shortScroll,
+    AccidentKind::restingFinger, AccidentKind::restAfterTap};
+
+// The kinds that only touches beside the gestures beyond the taps and clicks have.
+bool isMoreAccident(AccidentKind kind) {
+    return kind == AccidentKind::shortScroll || kind == AccidentKind::restingFinger ||
+           kind == AccidentKind::restAfterTap;
+}
+
+std::string moreLines(const ScoreCard& card) {
+    std::string text;
+    for (std::size_t index = 0; index < moreslot::count; ++index) {
+        const MoreFigures& figures = card.more().at(index);
+        const double perHour =
+            card.hours() > 0 ? static_cast<double>(figures.falsePositives) / card.hours() : 0;
+        text += "gesture " + std::string(moreslot::names.at(index)) +
+                " intended=" + std::to_string(figures.intended) +
+                " recognised=" + std::to_string(figures.recognised) +
+                " wrong=" + std::to_string(figures.wrong) +
+                " recall=" + fixed(figures.recall() * 100, 2) +
+                "% fired=" + std::to_string(figures.fired) +
+                " false-positives=" + std::to_string(figures.falsePositives) +
+                " false-positives-per-hour=" + fixed(perHour, 2) + '\n';
+    }
+    return text;
+}
 
 }  // namespace
 
@@ -46,7 +75,7 @@ ScoreCard scoreTraces(const std::vector<LabelledTrace>& sessions,
                       const ReplayRules& rules) {
     ScoreCard card;
     for (const LabelledTrace& session : sessions) {
-        ScoreObserver observer;
+        ScoreObserver observer(profiles && !profiles->empty() ? &profiles->front() : nullptr);
         const std::array<ControllerObserver*, 1> watchers = {&observer};
         TraceReplay::run(session.lines, profiles, TraceReplay::Detail::decisions, watchers, rules);
         const double seconds =
@@ -54,6 +83,26 @@ ScoreCard scoreTraces(const std::vector<LabelledTrace>& sessions,
         card.add(session.labels, observer.firings(), seconds);
     }
     return card;
+}
+
+WorkProfile withEveryMoreGesture(WorkProfile profile) {
+    constexpr std::uint64_t modifiers =
+        ModifierFlags::control | ModifierFlags::option | ModifierFlags::command;
+    for (std::size_t index = 0; index < moreslot::count; ++index) {
+        profile.moreGestures.actions.at(index) = action::custom;
+        profile.moreGestures.shortcuts.at(index) = SavedShortcut(
+            static_cast<std::uint16_t>(index), modifiers, std::string(moreslot::names.at(index)));
+    }
+    return profile;
+}
+
+std::vector<WorkProfile> everyMoreGestureMapped(
+    const std::optional<std::vector<WorkProfile>>& profiles) {
+    std::vector<WorkProfile> mapped = profiles && !profiles->empty()
+                                          ? *profiles
+                                          : std::vector<WorkProfile>{WorkProfile("Default")};
+    mapped.front() = withEveryMoreGesture(std::move(mapped.front()));
+    return mapped;
 }
 
 std::vector<NamedRules> comparedRules() {
@@ -105,6 +154,9 @@ std::string formatScore(const ScoreCard& card) {
     }
     for (const AccidentKind kind : accidentKinds) {
         const AccidentFigures& figures = card.accidents().at(static_cast<std::size_t>(kind));
+        if (isMoreAccident(kind) && figures.touches == 0) {
+            continue;
+        }
         text += "accident " + std::string(accidentWord(kind)) +
                 " touches=" + std::to_string(figures.touches) +
                 " fired=" + std::to_string(figures.fired) + '\n';
@@ -114,6 +166,9 @@ std::string formatScore(const ScoreCard& card) {
             " false-positives-per-hour=" + fixed(card.falsePositivesPerHour(), 2) +
             " unlabelled=" + std::to_string(card.unlabelledFirings()) +
             " hours=" + fixed(card.hours(), 2) + latencies(total) + '\n';
+    if (card.hasMore()) {
+        text += moreLines(card);
+    }
     return text;
 }
 

@@ -25,6 +25,15 @@ ScoreCard scoreTraces(const std::vector<LabelledTrace>& sessions,
                       const std::optional<std::vector<WorkProfile>>& profiles,
                       const ReplayRules& rules = {});
 
+// `profile` with every gesture beyond the taps and clicks mapped, each slot to a custom action
+// with a shortcut of its own (so that a score tells them all apart), and nothing else changed.
+WorkProfile withEveryMoreGesture(WorkProfile profile);
+
+// The profile list to score with when every gesture beyond the taps and clicks is to be mapped:
+// `profiles` (or the default profile) with its first, the active one, mapped so.
+std::vector<WorkProfile> everyMoreGestureMapped(
+    const std::optional<std::vector<WorkProfile>>& profiles);
+
 // A set of rules the comparison measures, by the name it prints.
 struct NamedRules {
     std::string name;
@@ -56,7 +65,13 @@ std::string formatComparison(const std::vector<NamedRules>& rules,
 //         false-positives-per-hour=<r> unlabelled=<n> hours=<h> latency-median=<ms>
 //         latency-p95=<ms>
 //
-// (the total on one line). Percentages with two decimals; latencies in whole milliseconds from
+// (the total on one line); then, when a touch was meant as a gesture beyond the taps and clicks
+// or one took effect, one line for each of those gestures by its slot's name:
+//
+//   gesture swipe.2.up intended=<n> recognised=<n> wrong=<n> recall=<%> fired=<n>
+//           false-positives=<n> false-positives-per-hour=<r>
+//
+// (on one line). Percentages with two decimals; latencies in whole milliseconds from
 // the last finger's lift to the action, "-" when no tap took effect. Pure.
 std::string formatScore(const ScoreCard& card);
 

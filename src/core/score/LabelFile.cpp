@@ -56,6 +56,15 @@ std::optional<TouchLabel> parseLabel(std::string_view line) {
         label.accident = *kind;
         return label;
     }
+    if (parts[2] == "gesture") {
+        const std::optional<MoreGestureSlot> slot = moreslot::named(parts[3]);
+        if (!slot) {
+            return std::nullopt;
+        }
+        label.intent = TouchIntent::gesture;
+        label.slot = *slot;
+        return label;
+    }
     const std::optional<std::int64_t> fingers = fingerCount(parts[3]);
     if (!fingers || (parts[2] != "tap" && parts[2] != "click")) {
         return std::nullopt;
@@ -83,6 +92,8 @@ std::string formatLine(const TouchLabel& label) {
             return text + " tap " + std::to_string(label.fingers);
         case TouchIntent::click:
             return text + " click " + std::to_string(label.fingers);
+        case TouchIntent::gesture:
+            return text + " gesture " + std::string(moreslot::name(label.slot));
         case TouchIntent::accident:
             break;
     }

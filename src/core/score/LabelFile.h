@@ -16,6 +16,8 @@
 //   <start> <end> tap <fingers>       an intended tap with 1 to 4 fingers
 //   <start> <end> click <fingers>     an intended physical click with 1 to 4 fingers resting
 //   <start> <end> accident <kind>     a touch not meant as a gesture (see TouchLabel.h)
+//   <start> <end> gesture <slot>      an intended gesture beyond the taps and clicks, by its
+//                                     slot's stored name ("tap.left", "swipe.2.up", "tapHold")
 //
 // <start> and <end> are seconds on the trace's clock, written as the trace writes times, with
 // <end> not before <start>. Lines may come in any order. Pure; any thread.

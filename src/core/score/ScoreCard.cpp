@@ -37,16 +37,28 @@ void ScoreCard::add(const std::vector<TouchLabel>& labels, const std::vector<Fir
                     double seconds) {
     seconds_ += seconds;
     std::vector<bool> matched(labels.size(), false);
+    std::vector<bool> matchedMore(labels.size(), false);
     std::vector<bool> fired(labels.size(), false);
     for (const TouchLabel& label : labels) {
         if (label.intent == TouchIntent::accident) {
             ++accidents_.at(static_cast<std::size_t>(label.accident)).touches;
+        } else if (label.intent == TouchIntent::gesture) {
+            ++more_.at(moreslot::index(label.slot)).intended;
         } else {
             ++gestures_.at(gestureIndex(label.intent, label.fingers)).intended;
         }
     }
     for (const Firing& firing : firings) {
         const std::optional<std::size_t> found = innermost(labels, firing.recognisedAt);
+        if (firing.more || (found && labels[*found].intent == TouchIntent::gesture)) {
+            addMore(labels, firing, found, matchedMore);
+        }
+        // What the taps and clicks did: the gestures beyond them, and the touches meant as
+        // those gestures, are counted above.
+        if (firing.kind == TouchIntent::gesture ||
+            (found && labels[*found].intent == TouchIntent::gesture)) {
+            continue;
+        }
         if (!found) {
             ++unlabelled_;
             continue;
@@ -70,6 +82,43 @@ void ScoreCard::add(const std::vector<TouchLabel>& labels, const std::vector<Fir
             figures.latencies.push_back(firing.actedAt - label.end);
         }
     }
+}
+
+void ScoreCard::addMore(const std::vector<TouchLabel>& labels, const Firing& firing,
+                        std::optional<std::size_t> found, std::vector<bool>& matched) {
+    if (firing.more) {
+        ++more_.at(moreslot::index(*firing.more)).fired;
+    }
+    const TouchLabel* label = found ? &labels[*found] : nullptr;
+    if (label != nullptr && label->intent == TouchIntent::gesture) {
+        MoreFigures& meant = more_.at(moreslot::index(label->slot));
+        if (firing.more == label->slot && !matched[*found]) {
+            matched[*found] = true;
+            ++meant.recognised;
+            return;
+        }
+        ++meant.wrong;
+    }
+    if (!firing.more) {
+        return;
+    }
+    // A region's tap is a one-finger tap carrying another action: on a touch meant as a gesture
+    // it is that touch's tap (the lead of a tap and hold, say), on one meant as a tap it is that
+    // tap; only on an accident, or outside every touch, is it a false positive.
+    const bool regionTap = firing.kind == TouchIntent::tap;
+    if (!regionTap || label == nullptr || label->intent == TouchIntent::accident) {
+        ++more_.at(moreslot::index(*firing.more)).falsePositives;
+    }
+}
+
+bool ScoreCard::hasMore() const {
+    return std::any_of(more_.begin(), more_.end(), [](const MoreFigures& figures) {
+        return figures.intended > 0 || figures.fired > 0;
+    });
+}
+
+double MoreFigures::recall() const {
+    return intended == 0 ? 1.0 : static_cast<double>(recognised) / static_cast<double>(intended);
 }
 
 GestureFigures ScoreCard::total() const {

@@ -50,9 +50,11 @@ int runScore(std::span<const std::string> arguments, std::ostream& out, std::ost
     const std::optional<std::string> directory = valueAfter(arguments, "--score");
     const std::optional<std::string> profilePath = valueAfter(arguments, "--profile");
     const std::optional<std::string> rulesName = valueAfter(arguments, "--rules");
+    const std::optional<std::string> gestures = valueAfter(arguments, "--gestures");
     const std::vector<NamedRules> known = comparedRules();
     if (!directory || directory->empty() || (profilePath && profilePath->empty()) ||
-        (rulesName && std::ranges::find(known, *rulesName, &NamedRules::name) == known.end())) {
+        (rulesName && std::ranges::find(known, *rulesName, &NamedRules::name) == known.end()) ||
+        (gestures && *gestures != "all")) {
         return fail(err, L("score.usage"));
     }
     const std::optional<std::vector<std::filesystem::path>> traces = labelledTraces(*directory);
@@ -92,6 +94,9 @@ int runScore(std::span<const std::string> arguments, std::ostream& out, std::ost
         if (!profiles) {
             return fail(err, L("replay.profiles", *profilePath));
         }
+    }
+    if (gestures) {
+        profiles = everyMoreGestureMapped(profiles);
     }
     const std::vector<NamedRules> compared = comparedRules();
     if (std::ranges::find(arguments, "--compare") == arguments.end()) {

@@ -7,16 +7,20 @@ namespace tactora {
 
 namespace {
 
-constexpr std::array<std::pair<AccidentKind, std::string_view>, 8> accidentWords = {{
-    {AccidentKind::palm, "palm"},
-    {AccidentKind::thumb, "thumb"},
-    {AccidentKind::scroll, "scroll"},
-    {AccidentKind::scrollGraze, "scroll-graze"},
-    {AccidentKind::reposition, "reposition"},
-    {AccidentKind::clickLift, "click-lift"},
-    {AccidentKind::drumming, "drumming"},
-    {AccidentKind::pickUp, "pick-up"},
-}};
+constexpr std::array<std::pair<AccidentKind, std::string_view>, accidentKindCount> accidentWords = {
+    {
+        {AccidentKind::palm, "palm"},
+        {AccidentKind::thumb, "thumb"},
+        {AccidentKind::scroll, "scroll"},
+        {AccidentKind::scrollGraze, "scroll-graze"},
+        {AccidentKind::reposition, "reposition"},
+        {AccidentKind::clickLift, "click-lift"},
+        {AccidentKind::drumming, "drumming"},
+        {AccidentKind::pickUp, "pick-up"},
+        {AccidentKind::shortScroll, "short-scroll"},
+        {AccidentKind::restingFinger, "resting-finger"},
+        {AccidentKind::restAfterTap, "rest-after-tap"},
+    }};
 
 }  // namespace
 
