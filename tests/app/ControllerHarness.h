@@ -16,6 +16,7 @@
 #include "app/fakes/FakeEventTap.h"
 #include "app/fakes/FakeLoginItem.h"
 #include "app/fakes/FakeMainQueue.h"
+#include "app/fakes/FakeMoreSheetView.h"
 #include "app/fakes/FakePermissionResetTool.h"
 #include "app/fakes/FakePermissions.h"
 #include "app/fakes/FakeProcessActivity.h"
@@ -75,7 +76,7 @@ class ControllerHarness {
         sensor.mice.insert(mouseSender);
         setStringTable(testTable());
         initializeGlobals();
-        app = std::make_unique<Tactora>(services());
+        app = std::make_unique<Tactora>(services(), views());
         controller = app->sharedController();
         setApplicationController(controller);
     }
@@ -99,6 +100,9 @@ class ControllerHarness {
                 shell,   view,      dialogs,   traceSink,   defaults,  surface,  files,
                 devices, loginItem, activity,  secureInput, resetTool, nullptr,  nullptr};
     }
+
+    // The views of the parts beside the controller.
+    PartViews views() { return {.moreSheet = moreSheet}; }
 
     // Launches, then ticks the master switch as the user would.
     void launchAndSwitchOn() {
@@ -165,6 +169,7 @@ class ControllerHarness {
     FakeProcessActivity activity;
     FakeSecureInput secureInput;
     FakePermissionResetTool resetTool;
+    FakeMoreSheetView moreSheet;
     std::unique_ptr<Tactora> app;
     std::shared_ptr<Controller> controller;
 };

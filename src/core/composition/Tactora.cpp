@@ -50,12 +50,13 @@ std::shared_ptr<MisfireGuard> makeGuard(const ControllerServices& services) {
 
 }  // namespace
 
-Tactora::Tactora(ControllerServices services) : Tactora(std::move(services), nullptr) {}
+Tactora::Tactora(ControllerServices services, PartViews views)
+    : Tactora(std::move(services), views, nullptr) {}
 
-Tactora::Tactora(const ControllerServices& services, ExtraActionPlatform platform)
-    : Tactora(services, makeExtraActions(services, platform)) {}
+Tactora::Tactora(const ControllerServices& services, PartViews views, ExtraActionPlatform platform)
+    : Tactora(services, views, makeExtraActions(services, platform)) {}
 
-Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras)
+Tactora::Tactora(ControllerServices services, PartViews views, std::shared_ptr<ExtraActions> extras)
     : extras_(std::move(extras)),
       guard_(makeGuard(services)),
       controller_(Controller::create(withParts(services, extras_, guard_))),
@@ -77,7 +78,8 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
           MenuBarFeedback::create(services.defaults, *controller_, services.clock, services.queue)),
       recorder_(services.traceSink, services.clock, services.workspace, services.view, *controller_,
                 *controller_),
-      profileFiles_(*controller_, *frontmost_, services.files, services.dialogs, services.view) {
+      profileFiles_(*controller_, *frontmost_, services.files, services.dialogs, services.view),
+      moreSheet_(*controller_, services.dialogs, views.moreSheet) {
     // The recorder comes first, so that it writes what comes in before the others act on it.
     controller_->addObserver(recorder_);
     // Next, so that gestures it switches on or off are what the others see.
@@ -88,6 +90,7 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
     controller_->addObserver(*liveView_);
     controller_->setProfileTitleSource(frontmost_.get());
     controller_->addObserver(*feedback_);
+    controller_->addObserver(moreSheet_);
     if (extras_) {
         // A list of Shortcuts that arrives later may change what the gesture rows show.
         extras_->setRowsChanged([weak = std::weak_ptr<Controller>(controller_)] {
@@ -99,6 +102,7 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
 }
 
 Tactora::~Tactora() {
+    controller_->removeObserver(moreSheet_);
     controller_->removeObserver(*feedback_);
     controller_->removeObserver(*liveView_);
     controller_->removeObserver(*frontmost_);

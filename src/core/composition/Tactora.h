@@ -10,10 +10,18 @@
 #include "core/liveview/LiveView.h"
 #include "core/misfire/MisfireGuard.h"
 #include "core/moreactions/ExtraActions.h"
+#include "core/moresheet/MoreSheet.h"
+#include "core/platform/MoreSheetView.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
 
 namespace tactora {
+
+// The views of the parts beside the controller that the controller itself never touches. The
+// referenced objects must outlive the program.
+struct PartViews {
+    MoreSheetView& moreSheet;
+};
 
 // The running program: the controller and the parts beside it, wired together. The controller
 // owns what the base system gives it; each part here learns what happens as one of its
@@ -29,15 +37,16 @@ namespace tactora {
 //                modifier clicks), which the controller hands on through ExtraActionPerformer
 //   misfire/     the options against accidental gestures and the tap's limits, which the
 //                controller consults through TouchJudge
+//   moresheet/   the More Gestures sheet, editing the gestures beyond the eight
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
 class Tactora {
   public:
     // Without the further actions: a gesture mapped to one does nothing.
-    explicit Tactora(ControllerServices services);
+    Tactora(ControllerServices services, PartViews views);
     // With the further actions, carried out through `platform`.
-    Tactora(const ControllerServices& services, ExtraActionPlatform platform);
+    Tactora(const ControllerServices& services, PartViews views, ExtraActionPlatform platform);
     Tactora(const Tactora&) = delete;
     Tactora& operator=(const Tactora&) = delete;
     Tactora(Tactora&&) = delete;
@@ -55,9 +64,10 @@ class Tactora {
     // Nothing when made without the further actions.
     ExtraActions* extraActions() { return extras_.get(); }
     MisfireGuard& misfireGuard() { return *guard_; }
+    MoreSheet& moreSheet() { return moreSheet_; }
 
   private:
-    Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras);
+    Tactora(ControllerServices services, PartViews views, std::shared_ptr<ExtraActions> extras);
 
     std::shared_ptr<ExtraActions> extras_;
     std::shared_ptr<MisfireGuard> guard_;
@@ -68,6 +78,7 @@ class Tactora {
     std::shared_ptr<MenuBarFeedback> feedback_;
     TouchRecorder recorder_;
     ProfileFileControls profileFiles_;
+    MoreSheet moreSheet_;
 };
 
 }  // namespace tactora
