@@ -6,6 +6,7 @@
 #include "core/platform/Sensor.h"
 #include "core/profiles/Preferences.h"
 #include "macos/AppKitDialogs.h"
+#include "macos/AppKitMoreSheetView.h"
 #include "macos/AppKitProfileFiles.h"
 #include "macos/AppKitSettingsView.h"
 #include "macos/AppKitShell.h"
@@ -70,6 +71,7 @@ class MacApplication {
     AppKitSettingsView view_;
     AppKitShell shell_;
     AppKitSurfaceView surface_;
+    AppKitMoreSheetView moreSheet_;
     CGSystemEventPoster systemEvents_;
     WorkspaceOpener opener_;
     TaskProcessLauncher processes_;

@@ -23,6 +23,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
       view_(controls_),
       shell_(controls_, delegate_),
       surface_(controls_),
+      moreSheet_(controls_, delegate_),
       program_(std::make_unique<Tactora>(
           ControllerServices{
               .clock = clock_,
@@ -45,6 +46,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
               .secureInput = secureInput_,
               .resetTool = resetTool_,
           },
+          PartViews{.moreSheet = moreSheet_},
           ExtraActionPlatform{
               .systemEvents = systemEvents_,
               .opener = opener_,

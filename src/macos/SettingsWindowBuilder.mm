@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "macos/ActionMenus.h"
 #include "macos/Labels.h"
 #include "macos/StringConversion.h"
 
@@ -268,15 +269,14 @@ void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsW
     add(rowView);
 }
 
-// Under the gesture table, the hint, the live line and the test button, in that order, and the
-// live view beside them at the column's trailing edge, where the column has room to spare.
+// Under the gesture table, the hint, the live line and the row of buttons, in that order, and
+// the live view beside them at the column's trailing edge, where the column has room to spare.
 void SettingsWindowBuilder::addLiveArea(const SettingsWindowTexts& texts) {
     constexpr CGFloat linesWidth = columnWidth - surfaceWidth - surfaceGap;
     controls_.live.font = [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightRegular];
     wrapWithin(controls_.live, linesWidth);
     NSStackView* lines = [NSStackView stackViewWithViews:@[
-        makeNote(texts.recordHint, 11, linesWidth), controls_.live,
-        makeButton(texts.testDesktop, @selector(testDesktop))
+        makeNote(texts.recordHint, 11, linesWidth), controls_.live, makeButtonRow(texts)
     ]];
     lines.orientation = NSUserInterfaceLayoutOrientationVertical;
     lines.alignment = NSLayoutAttributeLeading;
@@ -288,6 +288,19 @@ void SettingsWindowBuilder::addLiveArea(const SettingsWindowTexts& texts) {
     NSStackView* row = makeRow(@[ lines, surface ], surfaceGap);
     row.alignment = NSLayoutAttributeTop;
     add(row);
+}
+
+// The test button, and the buttons that open the window's sheets beside it on one line, so
+// that they take no height of their own.
+NSStackView* SettingsWindowBuilder::makeButtonRow(const SettingsWindowTexts& texts) {
+    NSStackView* row = makeRow(
+        @[
+            makeButton(texts.testDesktop, @selector(testDesktop)),
+            makeButton(texts.moreGestures, @selector(openMoreGestures))
+        ],
+        8);
+    row.alignment = NSLayoutAttributeCenterY;
+    return row;
 }
 
 NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,
@@ -311,14 +324,6 @@ NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,
     fixWidth(menu, 320);
     [controls_.actionMenus addObject:menu];
     return menu;
-}
-
-NSMenuItem* SettingsWindowBuilder::makeActionItem(const std::string& title, NSInteger action) {
-    NSMenuItem* item = [[NSMenuItem alloc] initWithTitle:toNSString(title)
-                                                  action:nil
-                                           keyEquivalent:@""];
-    item.tag = action;
-    return item;
 }
 
 NSButton* SettingsWindowBuilder::makeRecordButton(NSInteger slot, const std::string& title) {

@@ -5,6 +5,7 @@
 #include <memory>
 
 #import "macos/TAApplicationsSheet.h"
+#import "macos/TAMoreSheet.h"
 
 namespace tactora {
 class Tactora;
@@ -15,7 +16,8 @@ NS_ASSUME_NONNULL_BEGIN
 // The application's delegate and the target of every menu item and control: it hands each call
 // unchanged to the part of the program that owns it, the controller or one beside it. The
 // action selectors are those parts' operation names.
-@interface TAApplicationDelegate : NSObject <NSApplicationDelegate, TAApplicationsSheetTarget>
+@interface TAApplicationDelegate
+    : NSObject <NSApplicationDelegate, TAApplicationsSheetTarget, TAMoreSheetTarget>
 
 // `program` is not owned; it must outlive every call the delegate receives.
 - (void)attachProgram:(tactora::Tactora*)program;
@@ -48,6 +50,7 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)toggleLoginItem;
 - (void)resetPermissions;
 - (void)openLoginItems;
+- (void)openMoreGestures;
 
 @end
 
