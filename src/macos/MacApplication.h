@@ -5,6 +5,7 @@
 #include "core/composition/Tactora.h"
 #include "core/platform/Sensor.h"
 #include "core/profiles/Preferences.h"
+#include "macos/AppKitAdvancedSheetView.h"
 #include "macos/AppKitDialogs.h"
 #include "macos/AppKitMoreSheetView.h"
 #include "macos/AppKitProfileFiles.h"
@@ -76,6 +77,7 @@ class MacApplication {
     WorkspaceOpener opener_;
     TaskProcessLauncher processes_;
     PanelActionValuePicker picker_;
+    AppKitAdvancedSheetView advanced_;
     std::unique_ptr<Tactora> program_;
 };
 

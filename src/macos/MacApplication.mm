@@ -24,6 +24,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
       shell_(controls_, delegate_),
       surface_(controls_),
       moreSheet_(controls_, delegate_),
+      advanced_(controls_, delegate_),
       program_(std::make_unique<Tactora>(
           ControllerServices{
               .clock = clock_,
@@ -46,13 +47,13 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
               .secureInput = secureInput_,
               .resetTool = resetTool_,
           },
-          PartViews{.moreSheet = moreSheet_},
           ExtraActionPlatform{
               .systemEvents = systemEvents_,
               .opener = opener_,
               .processes = processes_,
               .picker = picker_,
-          })) {
+          },
+          PartViews{.advanced = &advanced_, .moreSheet = &moreSheet_})) {
     [delegate_ attachProgram:program_.get()];
 }
 

@@ -46,7 +46,7 @@ class SettingsWindowBuilder {
     void wire(NSButton* button, const std::string& title, SEL action);
     void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);
     void addLiveArea(const SettingsWindowTexts& texts);
-    NSStackView* makeButtonRow(const SettingsWindowTexts& texts);
+    NSStackView* makeSheetButtons(const SettingsWindowTexts& texts);
     NSPopUpButton* makeActionMenu(NSInteger slot, const SettingsWindowTexts& texts);
     NSButton* makeRecordButton(NSInteger slot, const std::string& title);
     NSButton* makeButton(std::string_view title, SEL action);

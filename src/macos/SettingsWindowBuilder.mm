@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/advanced/AdvancedSettings.h"
 #include "macos/ActionMenus.h"
 #include "macos/Labels.h"
 #include "macos/StringConversion.h"
@@ -269,14 +270,17 @@ void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsW
     add(rowView);
 }
 
-// Under the gesture table, the hint, the live line and the row of buttons, in that order, and
-// the live view beside them at the column's trailing edge, where the column has room to spare.
+// Under the gesture table, the hint, the live line, the test button and the buttons that open
+// the window's sheets, in that order, and the live view beside them at the column's trailing
+// edge, where the column has room to spare. The Advanced sheet's button stays beside the live
+// view: the limits and options it sets are what the live view explains.
 void SettingsWindowBuilder::addLiveArea(const SettingsWindowTexts& texts) {
     constexpr CGFloat linesWidth = columnWidth - surfaceWidth - surfaceGap;
     controls_.live.font = [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightRegular];
     wrapWithin(controls_.live, linesWidth);
     NSStackView* lines = [NSStackView stackViewWithViews:@[
-        makeNote(texts.recordHint, 11, linesWidth), controls_.live, makeButtonRow(texts)
+        makeNote(texts.recordHint, 11, linesWidth), controls_.live,
+        makeButton(texts.testDesktop, @selector(testDesktop)), makeSheetButtons(texts)
     ]];
     lines.orientation = NSUserInterfaceLayoutOrientationVertical;
     lines.alignment = NSLayoutAttributeLeading;
@@ -290,12 +294,12 @@ void SettingsWindowBuilder::addLiveArea(const SettingsWindowTexts& texts) {
     add(row);
 }
 
-// The test button, and the buttons that open the window's sheets beside it on one line, so
-// that they take no height of their own.
-NSStackView* SettingsWindowBuilder::makeButtonRow(const SettingsWindowTexts& texts) {
+// The buttons that open the window's sheets, side by side on a line of their own: with the test
+// button as well, the longest titles of some languages would not fit the line.
+NSStackView* SettingsWindowBuilder::makeSheetButtons(const SettingsWindowTexts& texts) {
     NSStackView* row = makeRow(
         @[
-            makeButton(texts.testDesktop, @selector(testDesktop)),
+            makeButton(AdvancedSettings::openTitle(), @selector(openAdvanced)),
             makeButton(texts.moreGestures, @selector(openMoreGestures))
         ],
         8);

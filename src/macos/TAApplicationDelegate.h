@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#import "macos/TAAdvancedSheet.h"
 #import "macos/TAApplicationsSheet.h"
 #import "macos/TAMoreSheet.h"
 
@@ -16,8 +17,10 @@ NS_ASSUME_NONNULL_BEGIN
 // The application's delegate and the target of every menu item and control: it hands each call
 // unchanged to the part of the program that owns it, the controller or one beside it. The
 // action selectors are those parts' operation names.
-@interface TAApplicationDelegate
-    : NSObject <NSApplicationDelegate, TAApplicationsSheetTarget, TAMoreSheetTarget>
+@interface TAApplicationDelegate : NSObject <NSApplicationDelegate,
+                                             TAApplicationsSheetTarget,
+                                             TAAdvancedSheetTarget,
+                                             TAMoreSheetTarget>
 
 // `program` is not owned; it must outlive every call the delegate receives.
 - (void)attachProgram:(tactora::Tactora*)program;
@@ -50,6 +53,7 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)toggleLoginItem;
 - (void)resetPermissions;
 - (void)openLoginItems;
+- (void)openAdvanced;
 - (void)openMoreGestures;
 
 @end

@@ -173,4 +173,28 @@
     _program->moreSheet().closed();
 }
 
+- (void)openAdvanced {
+    _program->advanced().open();
+}
+
+- (void)setAdvancedOption:(NSInteger)option on:(BOOL)on {
+    _program->advanced().setOption(static_cast<tactora::AdvancedOption>(option), on == YES);
+}
+
+- (void)setAdvancedField:(NSInteger)field value:(double)value {
+    _program->advanced().setValue(static_cast<tactora::AdvancedField>(field), value);
+}
+
+- (void)recommendAdvanced {
+    _program->advanced().recommend();
+}
+
+- (void)restoreAdvancedDefaults {
+    _program->advanced().restoreDefaults();
+}
+
+- (void)closeAdvanced {
+    _program->advanced().close();
+}
+
 @end

@@ -101,6 +101,7 @@ constexpr NSStringDrawingOptions drawingOptions =
     TASurfaceLine* _fingers;
     TASurfaceLine* _gesture;
     TASurfaceLine* _action;
+    TASurfaceLine* _reason;
 }
 
 + (NSDictionary<NSAttributedStringKey, id>*)gestureAttributes {
@@ -115,6 +116,12 @@ constexpr NSStringDrawingOptions drawingOptions =
     return attributes;
 }
 
++ (NSDictionary<NSAttributedStringKey, id>*)reasonAttributes {
+    static NSDictionary<NSAttributedStringKey, id>* const attributes =
+        makeAttributes([NSFont systemFontOfSize:textSize], NSColor.secondaryLabelColor);
+    return attributes;
+}
+
 - (instancetype)initWithFrame:(NSRect)frame {
     self = [super initWithFrame:frame];
     if (self != nil) {
@@ -123,6 +130,7 @@ constexpr NSStringDrawingOptions drawingOptions =
         _fingers = [[TASurfaceLine alloc] initWithAttributes:fingersAttributes()];
         _gesture = [[TASurfaceLine alloc] initWithAttributes:TASurfaceView.gestureAttributes];
         _action = [[TASurfaceLine alloc] initWithAttributes:TASurfaceView.actionAttributes];
+        _reason = [[TASurfaceLine alloc] initWithAttributes:TASurfaceView.reasonAttributes];
     }
     return self;
 }
@@ -166,6 +174,7 @@ constexpr NSStringDrawingOptions drawingOptions =
     [_fingers setText:_snapshot.fingersText width:width];
     [_gesture setText:(highlighted ? _snapshot.gestureText : none) width:width];
     [_action setText:(highlighted ? _snapshot.actionText : none) width:width];
+    [_reason setText:_snapshot.reasonText width:width];
 }
 
 - (NSString*)accessibilityLabel {
@@ -206,7 +215,11 @@ constexpr NSStringDrawingOptions drawingOptions =
     CGFloat y = [_fingers drawAtX:left y:NSMinY(surface) width:width];
     if (_snapshot.highlighted) {
         y = [_gesture drawAtX:left y:y + textGap width:width];
-        [_action drawAtX:left y:y width:width];
+        y = [_action drawAtX:left y:y width:width];
+    }
+    // Why the last touch came to nothing, for a moment after it did.
+    if (!_snapshot.reasonText.empty()) {
+        [_reason drawAtX:left y:y + textGap width:width];
     }
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/fakes/CallLog.h"
+#include "app/fakes/FakeAdvancedSheetView.h"
 #include "app/fakes/FakeAppShell.h"
 #include "app/fakes/FakeClock.h"
 #include "app/fakes/FakeDeviceWatcher.h"
@@ -19,6 +20,7 @@
 #include "app/fakes/FakeMoreSheetView.h"
 #include "app/fakes/FakePermissionResetTool.h"
 #include "app/fakes/FakePermissions.h"
+#include "app/fakes/FakePointerDragger.h"
 #include "app/fakes/FakeProcessActivity.h"
 #include "app/fakes/FakeProfileFiles.h"
 #include "app/fakes/FakeSecureInput.h"
@@ -96,13 +98,14 @@ class ControllerHarness {
     // Everything the controller reaches the platform through, for a second controller on the
     // same fakes.
     ControllerServices services() {
-        return {clock,   queue,     workspace, permissions, poster,    eventTap, sensor,
-                shell,   view,      dialogs,   traceSink,   defaults,  surface,  files,
-                devices, loginItem, activity,  secureInput, resetTool, nullptr,  nullptr};
+        return {clock,     queue,   workspace, permissions, poster,    eventTap,
+                sensor,    shell,   view,      dialogs,     traceSink, defaults,
+                surface,   files,   devices,   loginItem,   activity,  secureInput,
+                resetTool, dragger, nullptr,   nullptr,     nullptr};
     }
 
     // The views of the parts beside the controller.
-    PartViews views() { return {.moreSheet = moreSheet}; }
+    PartViews views() { return {.advanced = &advancedView, .moreSheet = &moreSheet}; }
 
     // Launches, then ticks the master switch as the user would.
     void launchAndSwitchOn() {
@@ -169,6 +172,8 @@ class ControllerHarness {
     FakeProcessActivity activity;
     FakeSecureInput secureInput;
     FakePermissionResetTool resetTool;
+    FakePointerDragger dragger;
+    FakeAdvancedSheetView advancedView;
     FakeMoreSheetView moreSheet;
     std::unique_ptr<Tactora> app;
     std::shared_ptr<Controller> controller;

@@ -25,6 +25,8 @@ class TouchSurfaceTest : public ::testing::Test {
             {"surface.idle", "%d | none"},
             {"surface.gesture", "%d | %@"},
             {"surface.action", "%d | %@ | %@"},
+            {"reason.moved", "moved"},
+            {"reason.too_long", "too long"},
         }));
     }
     void TearDown() override { setStringTable(nullptr); }
@@ -225,6 +227,42 @@ TEST_F(TouchSurfaceTest, EqualMomentsGiveEqualSnapshots) {
     surface.frame(one, start + 0.02);
 
     EXPECT_EQ(surface.snapshot(start + 0.02), first);
+}
+
+TEST_F(TouchSurfaceTest, AReasonIsShownForItsMomentAndAnnouncedOnce) {
+    surface.rejected(DropReason::moved, start);
+
+    EXPECT_EQ(surface.snapshot(start).reasonText, "moved");
+    EXPECT_EQ(surface.snapshot(start).announcement, "");
+    EXPECT_EQ(surface.reasonEnd(), start + TouchSurface::reasonDuration);
+    EXPECT_EQ(surface.snapshot(start + TouchSurface::reasonDuration - 0.01).reasonText, "moved");
+    EXPECT_EQ(surface.snapshot(start + TouchSurface::reasonDuration).reasonText, "");
+}
+
+TEST_F(TouchSurfaceTest, ANewReasonTakesThePlaceOfTheLast) {
+    surface.rejected(DropReason::moved, start);
+    (void)surface.snapshot(start);
+
+    surface.rejected(DropReason::tooLong, start + 1);
+
+    const SurfaceSnapshot& shown = surface.snapshot(start + 2);
+    EXPECT_EQ(shown.reasonText, "too long");
+    EXPECT_EQ(shown.announcement, "too long");
+}
+
+TEST_F(TouchSurfaceTest, AReasonSeenOnlyAfterItsMomentIsNeverAnnounced) {
+    surface.rejected(DropReason::moved, start);
+
+    const SurfaceSnapshot& shown = surface.snapshot(start + TouchSurface::reasonDuration);
+
+    EXPECT_EQ(shown.reasonText, "");
+    EXPECT_EQ(shown.announcement, "");
+    EXPECT_FALSE(surface.reasonEnd() < start);
+}
+
+TEST_F(TouchSurfaceTest, NoReasonBeforeAnyTouchCameToNothing) {
+    EXPECT_FALSE(surface.reasonEnd());
+    EXPECT_EQ(surface.snapshot(start).reasonText, "");
 }
 
 }  // namespace

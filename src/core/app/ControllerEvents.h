@@ -68,7 +68,8 @@ struct TouchDropNote {
 enum class ActionOrigin : std::uint8_t {
     tap,
     click,
-    direct,  // asked for by name (the settings window's test button, for one)
+    direct,       // asked for by name (the settings window's test button, for one)
+    moreGesture,  // a gesture beyond the taps and clicks: a tip tap, a swipe, a tap and hold
 };
 
 // An action was carried out (action 0, the system's own behaviour, included).

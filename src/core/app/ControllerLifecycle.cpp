@@ -193,7 +193,7 @@ void Controller::watch() {
 void Controller::dropPendingWork() {
     cancelPendingActions();
     releasePresses();
-    resetTouch(state_.gesture, services_.judge.get());
+    resetTouch(state_.gesture, services_.judge.get(), services_.extension.get());
 }
 
 }  // namespace tactora

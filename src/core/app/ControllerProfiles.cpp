@@ -149,7 +149,7 @@ void Controller::nameProfile(NamingMode mode) {
     // A touch half seen before the dialog must not complete after it, even when it is cancelled.
     cancelPendingActions();
     releasePresses();
-    resetTouch(state_.gesture, services_.judge.get());
+    resetTouch(state_.gesture, services_.judge.get(), services_.extension.get());
     const NamingDialogTexts texts{
         .message = L(namingTitle(mode)),
         .informative = L("profile.name"),
@@ -163,7 +163,7 @@ void Controller::nameProfile(NamingMode mode) {
         return;
     }
     releasePresses();
-    resetTouch(state_.gesture, services_.judge.get());
+    resetTouch(state_.gesture, services_.judge.get(), services_.extension.get());
     if (mode == NamingMode::rename) {
         profiles().rename(*name);
     } else {

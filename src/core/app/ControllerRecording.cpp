@@ -13,7 +13,7 @@ void Controller::beginRecording(std::int64_t slot) {
     // A touch begun before the dialog must not complete as a tap while it is open.
     cancelPendingActions();
     releasePresses();
-    resetTouch(state_.gesture, services_.judge.get());
+    resetTouch(state_.gesture, services_.judge.get(), services_.extension.get());
     state_.recording = true;
     const RecordingDialogTexts texts{
         .message = L("record.title"),
@@ -36,7 +36,7 @@ void Controller::beginRecording(std::int64_t slot) {
     }
     // Touches made while the dialog was open must not complete as a tap.
     state_.recording = false;
-    resetTouch(state_.gesture, services_.judge.get());
+    resetTouch(state_.gesture, services_.judge.get(), services_.extension.get());
     refreshProfileUI();
 }
 

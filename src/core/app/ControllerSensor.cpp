@@ -25,13 +25,27 @@ std::optional<DropReason> vetoAtDue(const TouchJudge* judge, double click, const
     return std::nullopt;
 }
 
+// What the extension, if listening, makes of the frame the recogniser was just fed.
+std::optional<GestureAct> extensionAct(GestureExtension* extension, const Controller& controller,
+                                       const TouchStep& step, double now) {
+    if (extension == nullptr || !step.fed || !extension->listening()) {
+        return std::nullopt;
+    }
+    if (step.restarted) {
+        // What was seen of the touch so far is no gesture, for the extension either.
+        extension->reset();
+    }
+    return extension->frame(step.fingers, now, controller.state().gesture, step.tap,
+                            controller.canRunGestures());
+}
+
 }  // namespace
 
 void Controller::reconnect() {
     {
         const ScopedCount program(programActions_);
         pause();
-        resetTouch(state_.gesture, services_.judge.get());
+        resetTouch(state_.gesture, services_.judge.get(), services_.extension.get());
         state_.lastFrame = 0;
         state_.ready = services_.sensor.start(&Controller::frameCallback);
         const std::int64_t error = services_.sensor.statusError();
@@ -97,10 +111,14 @@ void Controller::receive(std::span<const Finger> fingers,
     const double now = services_.clock.uptime();
     state_.lastFrame = now;
     const TouchStep step = stepTouch(state_.gesture, services_.judge.get(), fingers, shapes, now);
+    const std::optional<GestureAct> act = extensionAct(services_.extension.get(), *this, step, now);
     observers_.frameReceived({.fingers = fingers, .shapes = shapes, .time = now});
     if (step.dropped) {
         observers_.touchDropped(
             {.reason = *step.dropped, .fingers = step.droppedFingers, .time = now});
+    }
+    if (act && act->kind == GestureAct::Kind::perform) {
+        perform(act->action, act->shortcut, ActionOrigin::moreGesture, act->fingers);
     }
     if (!step.tap) {
         return;
@@ -108,7 +126,8 @@ void Controller::receive(std::span<const Finger> fingers,
     const std::int64_t count = *step.tap;
     state_.lastGesture = L("gesture.tap", count);
     const std::int64_t slot = slot::forTap(count);
-    const ActionIndex action = actionAt(slot);
+    const bool instead = act && act->kind == GestureAct::Kind::tapInstead;
+    const ActionIndex action = instead ? act->action : actionAt(slot);
     observers_.gestureRecognised(
         {.kind = GestureKind::tap, .fingers = count, .action = action, .time = now});
     if (!canRunGestures()) {
@@ -117,8 +136,8 @@ void Controller::receive(std::span<const Finger> fingers,
     }
     scheduleTap({.fingers = count,
                  .action = action,
-                 .shortcut = shortcutAt(slot),
-                 .value = valueAt(slot),
+                 .shortcut = instead ? act->shortcut : shortcutAt(slot),
+                 .value = instead ? std::string() : valueAt(slot),
                  .context = dispatchContext(),
                  .began = step.began,
                  .recognisedAt = now});

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "core/app/ExtraActionPerformer.h"
+#include "core/app/GestureExtension.h"
 #include "core/app/TouchJudge.h"
 #include "core/platform/AppShell.h"
 #include "core/platform/Clock.h"
@@ -14,6 +15,7 @@
 #include "core/platform/MainQueue.h"
 #include "core/platform/PermissionResetTool.h"
 #include "core/platform/Permissions.h"
+#include "core/platform/PointerDragger.h"
 #include "core/platform/ProcessActivity.h"
 #include "core/platform/ProfileFiles.h"
 #include "core/platform/SecureInput.h"
@@ -54,11 +56,15 @@ struct ControllerServices {
     ProcessActivity& activity;
     SecureInput& secureInput;
     PermissionResetTool& resetTool;
+    // Turns the pointer's moves into drags while a tap and hold holds a button.
+    PointerDragger& dragger;
     // Carries out the further actions and chooses their values; they do nothing without it.
     std::shared_ptr<ExtraActionPerformer> extraActions;
     // Has a say in what touches become (the options against accidents, the tap's limits); the
     // recogniser decides alone without it.
     std::shared_ptr<TouchJudge> judge;
+    // Recognises the gestures beyond the recogniser's; none without it.
+    std::shared_ptr<GestureExtension> extension;
 };
 
 }  // namespace tactora

@@ -124,7 +124,9 @@ EventDisposition Controller::decide(EventType type, TapEvent& event) {
         if (judge == nullptr || judge->scroll(now)) {
             state_.gesture.moved = true;
         }
-        return EventDisposition::pass;
+        const GestureExtension* extension = services_.extension.get();
+        return extension != nullptr && extension->swallowsScroll() ? EventDisposition::swallow
+                                                                   : EventDisposition::pass;
     }
     const std::int64_t button = event.integerField(event::buttonNumber);
     if (isDown(type)) {
@@ -174,6 +176,9 @@ bool Controller::isFromMouse(const TapEvent& event) {
 EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, double now) {
     state_.lastClick = now;
     state_.gesture.physicalClick();
+    if (GestureExtension* extension = services_.extension.get()) {
+        extension->physicalClick();
+    }
     TouchJudge* judge = services_.judge.get();
     if (judge != nullptr) {
         judge->button(true, now);
@@ -183,7 +188,8 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
         fingers > GestureState::maxFingers) {
         return EventDisposition::pass;
     }
-    if (const std::optional<DropReason> ordinary = judge ? judge->judgeClick() : std::nullopt) {
+    if (const std::optional<DropReason> ordinary =
+            judge != nullptr ? judge->judgeClick() : std::nullopt) {
         observers_.touchDropped({.reason = *ordinary, .fingers = fingers, .time = now});
         return EventDisposition::pass;
     }

@@ -38,7 +38,10 @@ TouchStep recognise(GestureState& gesture, TouchJudge* judge, std::span<const Fi
     TouchStep step{.dropped = fingers.empty() ? whyNoTap(gesture, now) : std::nullopt,
                    .droppedFingers = gesture.peak,
                    .tap = std::nullopt,
-                   .began = gesture.began.value_or(now)};
+                   .began = gesture.began.value_or(now),
+                   .restarted = false,
+                   .fed = true,
+                   .fingers = fingers};
     step.tap = gesture.update(fingers, now);
     if (!step.tap || judge == nullptr) {
         return step;
@@ -64,19 +67,28 @@ TouchStep stepTouch(GestureState& gesture, TouchJudge* judge, std::span<const Fi
     }
     // What was seen of the touch so far is no gesture; the frame after the restart starts a
     // new one, so it ends nothing.
-    const TouchStep restarted{
-        .dropped = judged.restartReason, .droppedFingers = gesture.peak, .tap = {}, .began = now};
+    TouchStep restarted{.dropped = judged.restartReason,
+                        .droppedFingers = gesture.peak,
+                        .tap = {},
+                        .began = now,
+                        .restarted = true,
+                        .fed = true,
+                        .fingers = {}};
     (void)gesture.update({}, now);
     if (judged.deliver) {
         (void)recognise(gesture, judge, judged.fingers, now);
+        restarted.fingers = judged.fingers;
     }
     return restarted;
 }
 
-void resetTouch(GestureState& gesture, TouchJudge* judge) {
+void resetTouch(GestureState& gesture, TouchJudge* judge, GestureExtension* extension) {
     gesture.reset();
     if (judge != nullptr) {
         judge->reset();
+    }
+    if (extension != nullptr) {
+        extension->reset();
     }
 }
 

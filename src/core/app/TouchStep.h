@@ -5,6 +5,7 @@
 #include <span>
 
 #include "core/app/ControllerEvents.h"
+#include "core/app/GestureExtension.h"
 #include "core/app/TouchJudge.h"
 #include "core/gestures/Finger.h"
 #include "core/gestures/GestureState.h"
@@ -21,6 +22,11 @@ struct TouchStep {
     // A touch that began at `began` ended as a tap of this many fingers.
     std::optional<std::int64_t> tap;
     double began = 0;
+    // The frame the recogniser was fed last, if it was fed; after a restart it was first fed an
+    // empty frame.
+    bool restarted = false;
+    bool fed = false;
+    std::span<const Finger> fingers;
 };
 
 // Feeds one frame of the sensor to `gesture`, through `judge` when there is one (null: the
@@ -29,7 +35,7 @@ struct TouchStep {
 TouchStep stepTouch(GestureState& gesture, TouchJudge* judge, std::span<const Finger> fingers,
                     std::span<const std::optional<ContactShape>> shapes, double now);
 
-// Forgets the touch in progress, in the recogniser and in the judge.
-void resetTouch(GestureState& gesture, TouchJudge* judge);
+// Forgets the touch in progress, in the recogniser, the judge and the extension.
+void resetTouch(GestureState& gesture, TouchJudge* judge, GestureExtension* extension);
 
 }  // namespace tactora

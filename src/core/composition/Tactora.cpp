@@ -27,15 +27,17 @@ std::shared_ptr<ExtraActions> makeExtraActions(const ControllerServices& service
         marker);
 }
 
-// `services`, handing the further actions to `extras` when there are any, and touches to
-// `guard`.
+// `services`, handing the further actions to `extras` when there are any, touches to `guard`
+// and the gestures beyond the eight to `more`.
 ControllerServices withParts(ControllerServices services,
                              const std::shared_ptr<ExtraActions>& extras,
-                             const std::shared_ptr<MisfireGuard>& guard) {
+                             const std::shared_ptr<MisfireGuard>& guard,
+                             const std::shared_ptr<MoreGesturesExtension>& more) {
     if (extras) {
         services.extraActions = extras;
     }
     services.judge = guard;
+    services.extension = more;
     return services;
 }
 
@@ -51,15 +53,17 @@ std::shared_ptr<MisfireGuard> makeGuard(const ControllerServices& services) {
 }  // namespace
 
 Tactora::Tactora(ControllerServices services, PartViews views)
-    : Tactora(std::move(services), views, nullptr) {}
+    : Tactora(std::move(services), nullptr, views) {}
 
-Tactora::Tactora(const ControllerServices& services, PartViews views, ExtraActionPlatform platform)
-    : Tactora(services, views, makeExtraActions(services, platform)) {}
+Tactora::Tactora(const ControllerServices& services, ExtraActionPlatform platform, PartViews views)
+    : Tactora(services, makeExtraActions(services, platform), views) {}
 
-Tactora::Tactora(ControllerServices services, PartViews views, std::shared_ptr<ExtraActions> extras)
+Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras, PartViews views)
     : extras_(std::move(extras)),
       guard_(makeGuard(services)),
-      controller_(Controller::create(withParts(services, extras_, guard_))),
+      more_(std::make_shared<MoreGesturesExtension>(
+          MoreGestureServices{.poster = services.poster, .dragger = services.dragger})),
+      controller_(Controller::create(withParts(services, extras_, guard_, more_))),
       keeper_(GestureKeeper::create({.clock = services.clock,
                                      .queue = services.queue,
                                      .view = services.view,
@@ -79,7 +83,10 @@ Tactora::Tactora(ControllerServices services, PartViews views, std::shared_ptr<E
       recorder_(services.traceSink, services.clock, services.workspace, services.view, *controller_,
                 *controller_),
       profileFiles_(*controller_, *frontmost_, services.files, services.dialogs, services.view),
-      moreSheet_(*controller_, services.dialogs, views.moreSheet) {
+      advanced_(*guard_, services.defaults,
+                views.advanced != nullptr ? *views.advanced : noAdvancedSheet_),
+      moreSheet_(*controller_, services.dialogs,
+                 views.moreSheet != nullptr ? *views.moreSheet : noMoreSheet_) {
     // The recorder comes first, so that it writes what comes in before the others act on it.
     controller_->addObserver(recorder_);
     // Next, so that gestures it switches on or off are what the others see.
@@ -90,7 +97,13 @@ Tactora::Tactora(ControllerServices services, PartViews views, std::shared_ptr<E
     controller_->addObserver(*liveView_);
     controller_->setProfileTitleSource(frontmost_.get());
     controller_->addObserver(*feedback_);
+    more_->follow(*controller_);
+    controller_->addObserver(*more_);
+    controller_->addObserver(advanced_);
     controller_->addObserver(moreSheet_);
+    // What the sheet stores is recognised from the next touch on, not only after a refresh.
+    moreSheet_.setMappingChanged(
+        [this, &clock = services.clock] { more_->refreshed(clock.uptime()); });
     if (extras_) {
         // A list of Shortcuts that arrives later may change what the gesture rows show.
         extras_->setRowsChanged([weak = std::weak_ptr<Controller>(controller_)] {
@@ -103,6 +116,8 @@ Tactora::Tactora(ControllerServices services, PartViews views, std::shared_ptr<E
 
 Tactora::~Tactora() {
     controller_->removeObserver(moreSheet_);
+    controller_->removeObserver(advanced_);
+    controller_->removeObserver(*more_);
     controller_->removeObserver(*feedback_);
     controller_->removeObserver(*liveView_);
     controller_->removeObserver(*frontmost_);

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
+#include "core/advanced/AdvancedSettings.h"
 #include "core/app/Controller.h"
 #include "core/app/ControllerServices.h"
 #include "core/feedback/MenuBarFeedback.h"
@@ -10,17 +13,20 @@
 #include "core/liveview/LiveView.h"
 #include "core/misfire/MisfireGuard.h"
 #include "core/moreactions/ExtraActions.h"
+#include "core/moregestures/MoreGesturesExtension.h"
 #include "core/moresheet/MoreSheet.h"
+#include "core/platform/AdvancedSheetView.h"
 #include "core/platform/MoreSheetView.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
 
 namespace tactora {
 
-// The views of the parts beside the controller that the controller itself never touches. The
-// referenced objects must outlive the program.
+// The views of the parts beside the controller that the controller itself never touches: not
+// owned, each must outlive the program. A part without its view never shows it.
 struct PartViews {
-    MoreSheetView& moreSheet;
+    AdvancedSheetView* advanced = nullptr;
+    MoreSheetView* moreSheet = nullptr;
 };
 
 // The running program: the controller and the parts beside it, wired together. The controller
@@ -37,16 +43,19 @@ struct PartViews {
 //                modifier clicks), which the controller hands on through ExtraActionPerformer
 //   misfire/     the options against accidental gestures and the tap's limits, which the
 //                controller consults through TouchJudge
-//   moresheet/   the More Gestures sheet, editing the gestures beyond the eight
+//   moregestures/ the gestures beyond the eight, which the controller feeds through
+//                GestureExtension
+//   moresheet/   the More Gestures sheet, which edits their actions, shortcuts and top band
+//   advanced/    the Advanced sheet, which edits those options and limits, and its try area
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
 class Tactora {
   public:
     // Without the further actions: a gesture mapped to one does nothing.
-    Tactora(ControllerServices services, PartViews views);
+    explicit Tactora(ControllerServices services, PartViews views = {});
     // With the further actions, carried out through `platform`.
-    Tactora(const ControllerServices& services, PartViews views, ExtraActionPlatform platform);
+    Tactora(const ControllerServices& services, ExtraActionPlatform platform, PartViews views = {});
     Tactora(const Tactora&) = delete;
     Tactora& operator=(const Tactora&) = delete;
     Tactora(Tactora&&) = delete;
@@ -64,13 +73,29 @@ class Tactora {
     // Nothing when made without the further actions.
     ExtraActions* extraActions() { return extras_.get(); }
     MisfireGuard& misfireGuard() { return *guard_; }
+    MoreGesturesExtension& moreGestures() { return *more_; }
+    AdvancedSettings& advanced() { return advanced_; }
     MoreSheet& moreSheet() { return moreSheet_; }
 
   private:
-    Tactora(ControllerServices services, PartViews views, std::shared_ptr<ExtraActions> extras);
+    // Stands in for the Advanced sheet when there is none: shows nothing.
+    class NoAdvancedSheet final : public AdvancedSheetView {
+      public:
+        void show(const AdvancedSheet& /*sheet*/) override {}
+        void showTries(const std::vector<TryLine>& /*tries*/,
+                       const std::string& /*announcement*/) override {}
+    };
+    // Stands in for the More Gestures sheet when there is none: shows nothing.
+    class NoMoreSheet final : public MoreSheetView {
+      public:
+        void showMoreSheet(const MoreSheetContent& /*content*/) override {}
+    };
+
+    Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras, PartViews views);
 
     std::shared_ptr<ExtraActions> extras_;
     std::shared_ptr<MisfireGuard> guard_;
+    std::shared_ptr<MoreGesturesExtension> more_;
     std::shared_ptr<Controller> controller_;
     std::shared_ptr<GestureKeeper> keeper_;
     std::shared_ptr<FrontmostProfiles> frontmost_;
@@ -78,6 +103,9 @@ class Tactora {
     std::shared_ptr<MenuBarFeedback> feedback_;
     TouchRecorder recorder_;
     ProfileFileControls profileFiles_;
+    NoAdvancedSheet noAdvancedSheet_;
+    NoMoreSheet noMoreSheet_;
+    AdvancedSettings advanced_;
     MoreSheet moreSheet_;
 };
 

@@ -1,5 +1,6 @@
 #include "core/gestures/TapThresholds.h"
 
+#include <cmath>
 #include <cstdint>
 #include <optional>
 
@@ -14,7 +15,7 @@ constexpr const char* longestKey = "tap.longest";      // milliseconds
 constexpr const char* toleranceKey = "tap.tolerance";  // thousandths of the surface
 
 std::int64_t thousandths(double value) {
-    return static_cast<std::int64_t>(value * 1000 + 0.5);
+    return std::llround(value * 1000);
 }
 
 double readThousandths(const Preferences& preferences, const char* key, double fallback) {

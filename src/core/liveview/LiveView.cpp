@@ -60,6 +60,7 @@ void LiveView::refreshed(double /*time*/) {
 }
 
 void LiveView::frameReceived(const FrameNote& note) {
+    outcomes_.frame(!note.fingers.empty());
     if (!visible_) {
         return;
     }
@@ -68,11 +69,29 @@ void LiveView::frameReceived(const FrameNote& note) {
 }
 
 void LiveView::gestureRecognised(const GestureNote& note) {
+    (void)outcomes_.gesture(note);
     surface_.gesture(note.kind, note.fingers, note.time);
     highlightChanged();
 }
 
+void LiveView::touchDropped(const TouchDropNote& note) {
+    rejected(outcomes_.dropped(note));
+}
+
+void LiveView::actionDropped(const ActionDropNote& note) {
+    rejected(outcomes_.actionDropped(note));
+}
+
+void LiveView::rejected(const std::optional<TouchOutcome>& outcome) {
+    if (!outcome || !outcome->reason) {
+        return;
+    }
+    surface_.rejected(*outcome->reason, outcome->time);
+    highlightChanged();
+}
+
 void LiveView::actionPerformed(const ActionNote& note) {
+    outcomes_.actionPerformed(note);
     // The system's own behaviour is no action of ours, and a direct request no gesture's.
     if (note.origin == ActionOrigin::direct || note.action == action::defaultAction) {
         return;
@@ -95,7 +114,11 @@ void LiveView::highlightChanged() {
 }
 
 void LiveView::scheduleHighlightEnd() {
-    const std::optional<double> end = surface_.highlightEnd();
+    scheduleShowAt(surface_.highlightEnd());
+    scheduleShowAt(surface_.reasonEnd());
+}
+
+void LiveView::scheduleShowAt(std::optional<double> end) {
     const double now = clock_.uptime();
     if (!end || *end <= now) {
         return;

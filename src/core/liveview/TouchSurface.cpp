@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "core/localization/Localizer.h"
+#include "core/reasons/ReasonText.h"
 
 namespace tactora {
 
@@ -59,6 +60,19 @@ void TouchSurface::action(const std::string& name, double at) {
     actionUnannounced_ = true;
 }
 
+void TouchSurface::rejected(DropReason reason, double at) {
+    reason_ = reason;
+    reasonUntil_ = at + reasonDuration;
+    reasonUnannounced_ = true;
+}
+
+std::optional<double> TouchSurface::reasonEnd() const {
+    if (!reason_) {
+        return std::nullopt;
+    }
+    return reasonUntil_;
+}
+
 std::optional<double> TouchSurface::highlightEnd() const {
     if (!last_) {
         return std::nullopt;
@@ -77,8 +91,17 @@ const SurfaceSnapshot& TouchSurface::snapshot(double now) {
     snapshot_.fingers = fresh ? fingers_ : 0;
     snapshot_.highlighted = last_ && now < last_->until;
     updateTexts();
+    updateReason(now);
     updateAnnouncement();
     return snapshot_;
+}
+
+void TouchSurface::updateReason(double now) {
+    const std::optional<DropReason> shown = reason_ && now < reasonUntil_ ? reason_ : std::nullopt;
+    if (shown != shownReason_) {
+        snapshot_.reasonText = shown ? reasons::reasonText(*shown) : std::string();
+        shownReason_ = shown;
+    }
 }
 
 void TouchSurface::updateAnnouncement() {
@@ -93,8 +116,16 @@ void TouchSurface::updateAnnouncement() {
             snapshot_.announcement = snapshot_.actionText;
         }
     }
+    // A reason seen only after its moment has passed is never announced.
+    if (reasonUnannounced_ && !snapshot_.reasonText.empty()) {
+        if (!snapshot_.announcement.empty()) {
+            snapshot_.announcement += ' ';
+        }
+        snapshot_.announcement += snapshot_.reasonText;
+    }
     gestureUnannounced_ = false;
     actionUnannounced_ = false;
+    reasonUnannounced_ = false;
 }
 
 void TouchSurface::updateTexts() {

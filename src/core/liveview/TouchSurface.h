@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 
+#include "core/app/ControllerEvents.h"
 #include "core/app/GestureKind.h"
 #include "core/gestures/Finger.h"
 #include "core/platform/SurfaceContact.h"
@@ -29,6 +30,8 @@ class TouchSurface {
     static constexpr double highlightDuration = 1.0;
     // Contacts are shown only while the last frame is younger than this, as on the live line.
     static constexpr double contactLifetime = 0.5;
+    // Why a touch came to nothing is shown this long after it did.
+    static constexpr double reasonDuration = 1.5;
 
     // The contacts of the latest frame, received at `at`.
     void frame(std::span<const Finger> fingers, double at);
@@ -38,8 +41,14 @@ class TouchSurface {
     // gesture.
     void action(const std::string& name, double at);
 
+    // A touch, or the action it stood for, came to nothing at `at` for `reason`; it replaces
+    // any reason shown before.
+    void rejected(DropReason reason, double at);
+
     // When the last gesture's highlight ends; nothing before any gesture.
     std::optional<double> highlightEnd() const;
+    // When the last reason stops being shown; nothing before any.
+    std::optional<double> reasonEnd() const;
 
     // What to show at `now`. The reference stays valid until the next call. A gesture, and its
     // action, is announced in the first snapshot asked for while it is highlighted and in no
@@ -59,6 +68,7 @@ class TouchSurface {
     };
 
     void updateTexts();
+    void updateReason(double now);
     void updateAnnouncement();
 
     std::array<SurfaceContact, SurfaceSnapshot::capacity> contacts_{};
@@ -71,6 +81,11 @@ class TouchSurface {
     // Whether the last gesture, and its action, have yet to be announced.
     bool gestureUnannounced_ = false;
     bool actionUnannounced_ = false;
+    // The last reason a touch came to nothing, and until when it is shown.
+    std::optional<DropReason> reason_;
+    double reasonUntil_ = 0;
+    bool reasonUnannounced_ = false;
+    std::optional<DropReason> shownReason_;
 
     SurfaceSnapshot snapshot_;
     std::optional<std::int64_t> shownFingers_;

@@ -17,7 +17,7 @@ Finger centreOf(std::span<const Finger> fingers) {
         y += finger.y;
     }
     const auto count = static_cast<double>(std::max<std::size_t>(fingers.size(), 1));
-    return Finger(0, x / count, y / count);
+    return {0, x / count, y / count};
 }
 
 }  // namespace
@@ -44,7 +44,7 @@ MisfireGuard::Contact& MisfireGuard::contactFor(const Finger& finger, double now
     return contacts_.back();
 }
 
-void MisfireGuard::judgeContact(Contact& contact, const std::optional<ContactShape>& shape) {
+void MisfireGuard::judgeContact(Contact& contact, const std::optional<ContactShape>& shape) const {
     if (shape) {
         contact.largest = std::max(contact.largest, shape->size);
     }

@@ -75,7 +75,7 @@ class MisfireGuard final : public TouchJudge {
     };
 
     Contact& contactFor(const Finger& finger, double now, bool& landed);
-    void judgeContact(Contact& contact, const std::optional<ContactShape>& shape);
+    void judgeContact(Contact& contact, const std::optional<ContactShape>& shape) const;
     void leaveOutRestingContacts(const Contact& newcomer, double now);
     // A touch sequence begins, centred at `centre`.
     void begin(double now, const Finger& centre);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -49,7 +50,7 @@ std::optional<std::int64_t> integerWithin(const Preferences& preferences, const 
 }
 
 std::int64_t thousandths(double fraction) {
-    return static_cast<std::int64_t>(fraction * 1000 + 0.5);
+    return std::llround(fraction * 1000);
 }
 
 std::optional<EdgeBands> parseBands(const std::string& text) {
@@ -130,8 +131,7 @@ void MisfireOptions::save(Preferences& preferences) const {
     setOn(preferences, forgetKey, forgetEarlierActivity);
     setOn(preferences, drummingKey, ignoreDrumming);
     if (largestFingertip != defaultLargestFingertip) {
-        preferences.setInteger(fingertipSizeKey,
-                               static_cast<std::int64_t>(largestFingertip * 100 + 0.5));
+        preferences.setInteger(fingertipSizeKey, std::llround(largestFingertip * 100));
     } else {
         preferences.remove(fingertipSizeKey);
     }

@@ -58,6 +58,8 @@ class MoreGestures {
     bool swallowsScroll() const { return swallowing_; }
     // Whether the tap-and-hold slot's button is held now.
     bool holding() const { return hold_.phase() == TapHold::Phase::holding; }
+    // Whether a touch, or a tap that may lead a hold, is under way.
+    bool busy() const { return touching_ || hold_.phase() != TapHold::Phase::idle; }
 
   private:
     std::optional<MoreGestureEvent> touched(std::span<const Finger> frame, double time, bool moved);

@@ -26,11 +26,14 @@ struct SurfaceSnapshot {
     bool highlighted = false;
     std::string gestureText;
     std::string actionText;
+    // For a moment after a touch, or the action it stood for, came to nothing: why, in words
+    // ("A finger moved too far."); empty otherwise.
+    std::string reasonText;
     // What VoiceOver reads: the finger count and the last gesture, highlighted or not.
     std::string accessibilityText;
     // What VoiceOver announces as this snapshot is shown: the gesture just recognised, or the
-    // action it just performed, or the accessibility text when both are new; empty when nothing
-    // new happened since the last one.
+    // action it just performed, or the accessibility text when both are new, or why a touch
+    // just came to nothing; empty when nothing new happened since the last one.
     std::string announcement;
 
     std::span<const SurfaceContact> contacts() const {

@@ -219,6 +219,12 @@ class PermissionResetTool final : public tactora::PermissionResetTool {
              Done /*done*/) override {}
 };
 
+// A replay has no pointer to drag.
+class PointerDragger final : public tactora::PointerDragger {
+  public:
+    void setDragging(std::optional<MouseButton> /*button*/) override {}
+};
+
 // A replay records nothing.
 class TraceSink final : public tactora::TraceSink {
   public:

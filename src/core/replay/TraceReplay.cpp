@@ -8,6 +8,7 @@
 #include "core/explain/DecisionWords.h"
 #include "core/frontmost/FrontmostProfiles.h"
 #include "core/misfire/MisfireGuard.h"
+#include "core/moregestures/MoreGesturesExtension.h"
 #include "core/profiles/MemoryPreferences.h"
 #include "core/profiles/ProfileJson.h"
 #include "core/profiles/ProfileStore.h"
@@ -40,14 +41,18 @@ struct Stage {
     Stage(double start, std::shared_ptr<MemoryPreferences> defaults, const ReplayRules& rules)
         : queue(start),
           guard(std::make_shared<MisfireGuard>(rules.options, rules.thresholds)),
+          more(std::make_shared<MoreGesturesExtension>(
+              MoreGestureServices{.poster = poster, .dragger = dragger})),
           controller(
               Controller::create({queue, queue, workspace, permissions, poster, tap, sensor, shell,
                                   view, dialogs, traceSink, std::move(defaults), surface, files,
-                                  devices, loginItem, activity, secureInput, resetTool,
+                                  devices, loginItem, activity, secureInput, resetTool, dragger,
                                   // The replay carries out no further action: it names it.
-                                  nullptr, guard})),
+                                  nullptr, guard, more})),
           frontmost(FrontmostProfiles::create(*controller, workspace, view, queue, queue)) {
         controller->addObserver(*frontmost);
+        more->follow(*controller);
+        controller->addObserver(*more);
         controller->setProfileTitleSource(frontmost.get());
     }
     Stage(const Stage&) = delete;
@@ -55,6 +60,7 @@ struct Stage {
     Stage(Stage&&) = delete;
     Stage& operator=(Stage&&) = delete;
     ~Stage() {
+        controller->removeObserver(*more);
         controller->setProfileTitleSource(nullptr);
         controller->removeObserver(*frontmost);
     }
@@ -122,8 +128,11 @@ struct Stage {
     replay::ProcessActivity activity;
     replay::SecureInput secureInput;
     replay::PermissionResetTool resetTool;
+    replay::PointerDragger dragger;
     // Judges touches as the program's does.
     std::shared_ptr<MisfireGuard> guard;
+    // The gestures beyond the eight, as the program's.
+    std::shared_ptr<MoreGesturesExtension> more;
     std::shared_ptr<Controller> controller;
     // Profiles that follow the application in front, beside the controller as in the program.
     std::shared_ptr<FrontmostProfiles> frontmost;

@@ -101,6 +101,7 @@ int runScore(std::span<const std::string> arguments, std::ostream& out, std::ost
         return 0;
     }
     std::vector<ScoreCard> cards;
+    cards.reserve(compared.size());
     for (const NamedRules& rules : compared) {
         cards.push_back(scoreTraces(sessions, profiles, rules.rules));
     }
