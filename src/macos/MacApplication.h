@@ -7,6 +7,7 @@
 #include "core/profiles/Preferences.h"
 #include "macos/AppKitAdvancedSheetView.h"
 #include "macos/AppKitDialogs.h"
+#include "macos/AppKitMoreSheetView.h"
 #include "macos/AppKitProfileFiles.h"
 #include "macos/AppKitSettingsView.h"
 #include "macos/AppKitShell.h"
@@ -73,6 +74,7 @@ class MacApplication {
     AppKitSettingsView view_;
     AppKitShell shell_;
     AppKitSurfaceView surface_;
+    AppKitMoreSheetView moreSheet_;
     CGSystemEventPoster systemEvents_;
     WorkspaceOpener opener_;
     TaskProcessLauncher processes_;

@@ -23,6 +23,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
       view_(controls_),
       shell_(controls_, delegate_),
       surface_(controls_),
+      moreSheet_(controls_, delegate_),
       advanced_(controls_, delegate_),
       program_(std::make_unique<Tactora>(
           ControllerServices{
@@ -53,7 +54,7 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
               .processes = processes_,
               .picker = picker_,
           },
-          &advanced_)) {
+          PartViews{.advanced = &advanced_, .moreSheet = &moreSheet_})) {
     [delegate_ attachProgram:program_.get()];
 }
 

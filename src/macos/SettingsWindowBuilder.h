@@ -46,8 +46,8 @@ class SettingsWindowBuilder {
     void wire(NSButton* button, const std::string& title, SEL action);
     void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);
     void addLiveArea(const SettingsWindowTexts& texts);
+    NSStackView* makeSheetButtons(const SettingsWindowTexts& texts);
     NSPopUpButton* makeActionMenu(NSInteger slot, const SettingsWindowTexts& texts);
-    static NSMenuItem* makeActionItem(const std::string& title, NSInteger action);
     NSButton* makeRecordButton(NSInteger slot, const std::string& title);
     NSButton* makeButton(std::string_view title, SEL action);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/advanced/AdvancedSettings.h"
+#include "macos/ActionMenus.h"
 #include "macos/Labels.h"
 #include "macos/StringConversion.h"
 
@@ -269,22 +270,17 @@ void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsW
     add(rowView);
 }
 
-// Under the gesture table, the hint, the live line and the test button, in that order, and the
-// live view beside them at the column's trailing edge, where the column has room to spare. The
-// button that opens the Advanced sheet shares the test button's line: the limits and options it
-// sets are what the live view beside it explains.
+// Under the gesture table, the hint, the live line, the test button and the buttons that open
+// the window's sheets, in that order, and the live view beside them at the column's trailing
+// edge, where the column has room to spare. The Advanced sheet's button stays beside the live
+// view: the limits and options it sets are what the live view explains.
 void SettingsWindowBuilder::addLiveArea(const SettingsWindowTexts& texts) {
     constexpr CGFloat linesWidth = columnWidth - surfaceWidth - surfaceGap;
     controls_.live.font = [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightRegular];
     wrapWithin(controls_.live, linesWidth);
-    NSStackView* buttons = makeRow(
-        @[
-            makeButton(texts.testDesktop, @selector(testDesktop)),
-            makeButton(AdvancedSettings::openTitle(), @selector(openAdvanced))
-        ],
-        8);
     NSStackView* lines = [NSStackView stackViewWithViews:@[
-        makeNote(texts.recordHint, 11, linesWidth), controls_.live, buttons
+        makeNote(texts.recordHint, 11, linesWidth), controls_.live,
+        makeButton(texts.testDesktop, @selector(testDesktop)), makeSheetButtons(texts)
     ]];
     lines.orientation = NSUserInterfaceLayoutOrientationVertical;
     lines.alignment = NSLayoutAttributeLeading;
@@ -296,6 +292,19 @@ void SettingsWindowBuilder::addLiveArea(const SettingsWindowTexts& texts) {
     NSStackView* row = makeRow(@[ lines, surface ], surfaceGap);
     row.alignment = NSLayoutAttributeTop;
     add(row);
+}
+
+// The buttons that open the window's sheets, side by side on a line of their own: with the test
+// button as well, the longest titles of some languages would not fit the line.
+NSStackView* SettingsWindowBuilder::makeSheetButtons(const SettingsWindowTexts& texts) {
+    NSStackView* row = makeRow(
+        @[
+            makeButton(AdvancedSettings::openTitle(), @selector(openAdvanced)),
+            makeButton(texts.moreGestures, @selector(openMoreGestures))
+        ],
+        8);
+    row.alignment = NSLayoutAttributeCenterY;
+    return row;
 }
 
 NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,
@@ -319,14 +328,6 @@ NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,
     fixWidth(menu, 320);
     [controls_.actionMenus addObject:menu];
     return menu;
-}
-
-NSMenuItem* SettingsWindowBuilder::makeActionItem(const std::string& title, NSInteger action) {
-    NSMenuItem* item = [[NSMenuItem alloc] initWithTitle:toNSString(title)
-                                                  action:nil
-                                           keyEquivalent:@""];
-    item.tag = action;
-    return item;
 }
 
 NSButton* SettingsWindowBuilder::makeRecordButton(NSInteger slot, const std::string& title) {

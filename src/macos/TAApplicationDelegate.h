@@ -6,6 +6,7 @@
 
 #import "macos/TAAdvancedSheet.h"
 #import "macos/TAApplicationsSheet.h"
+#import "macos/TAMoreSheet.h"
 
 namespace tactora {
 class Tactora;
@@ -16,8 +17,10 @@ NS_ASSUME_NONNULL_BEGIN
 // The application's delegate and the target of every menu item and control: it hands each call
 // unchanged to the part of the program that owns it, the controller or one beside it. The
 // action selectors are those parts' operation names.
-@interface TAApplicationDelegate
-    : NSObject <NSApplicationDelegate, TAApplicationsSheetTarget, TAAdvancedSheetTarget>
+@interface TAApplicationDelegate : NSObject <NSApplicationDelegate,
+                                             TAApplicationsSheetTarget,
+                                             TAAdvancedSheetTarget,
+                                             TAMoreSheetTarget>
 
 // `program` is not owned; it must outlive every call the delegate receives.
 - (void)attachProgram:(tactora::Tactora*)program;
@@ -51,6 +54,7 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)resetPermissions;
 - (void)openLoginItems;
 - (void)openAdvanced;
+- (void)openMoreGestures;
 
 @end
 

@@ -153,6 +153,26 @@
     _program->keeper().openLoginItems();
 }
 
+- (void)openMoreGestures {
+    _program->moreSheet().open();
+}
+
+- (void)changeMoreGesture:(NSInteger)slot action:(NSInteger)action {
+    _program->moreSheet().changed(slot, action);
+}
+
+- (void)recordMoreGesture:(NSInteger)slot {
+    _program->moreSheet().recordShortcut(slot);
+}
+
+- (void)setTopBandDepth:(double)depth {
+    _program->moreSheet().setTopBand(depth);
+}
+
+- (void)closeMoreGestures {
+    _program->moreSheet().closed();
+}
+
 - (void)openAdvanced {
     _program->advanced().open();
 }

@@ -17,6 +17,7 @@
 #include "app/fakes/FakeEventTap.h"
 #include "app/fakes/FakeLoginItem.h"
 #include "app/fakes/FakeMainQueue.h"
+#include "app/fakes/FakeMoreSheetView.h"
 #include "app/fakes/FakePermissionResetTool.h"
 #include "app/fakes/FakePermissions.h"
 #include "app/fakes/FakePointerDragger.h"
@@ -77,7 +78,7 @@ class ControllerHarness {
         sensor.mice.insert(mouseSender);
         setStringTable(testTable());
         initializeGlobals();
-        app = std::make_unique<Tactora>(services(), &advancedView);
+        app = std::make_unique<Tactora>(services(), views());
         controller = app->sharedController();
         setApplicationController(controller);
     }
@@ -102,6 +103,9 @@ class ControllerHarness {
                 surface,   files,   devices,   loginItem,   activity,  secureInput,
                 resetTool, dragger, nullptr,   nullptr,     nullptr};
     }
+
+    // The views of the parts beside the controller.
+    PartViews views() { return {.advanced = &advancedView, .moreSheet = &moreSheet}; }
 
     // Launches, then ticks the master switch as the user would.
     void launchAndSwitchOn() {
@@ -170,6 +174,7 @@ class ControllerHarness {
     FakePermissionResetTool resetTool;
     FakePointerDragger dragger;
     FakeAdvancedSheetView advancedView;
+    FakeMoreSheetView moreSheet;
     std::unique_ptr<Tactora> app;
     std::shared_ptr<Controller> controller;
 };

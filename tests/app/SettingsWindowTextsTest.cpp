@@ -53,6 +53,7 @@ TEST_F(SettingsWindowTextsTest, English) {
               "To use a keyboard shortcut, choose Custom shortcut for a gesture, click Record "
               "Shortcut…, and press the keys.");
     EXPECT_EQ(texts.testDesktop, "Test Show Desktop");
+    EXPECT_EQ(texts.moreGestures, "More Gestures…");
     EXPECT_EQ(texts.footer,
               "Gestures don’t act while Tactora is the frontmost app. Profiles are saved "
               "automatically.");
@@ -90,6 +91,7 @@ TEST_F(SettingsWindowTextsTest, BrazilianPortuguese) {
               "Para usar um atalho de teclado, escolha Atalho personalizado em um gesto, clique "
               "em Gravar Atalho… e pressione as teclas.");
     EXPECT_EQ(texts.testDesktop, "Testar Mostrar Mesa");
+    EXPECT_EQ(texts.moreGestures, "Mais Gestos…");
     EXPECT_EQ(texts.footer,
               "Os gestos não atuam enquanto o Tactora está em primeiro plano. Os perfis são "
               "salvos automaticamente.");
@@ -139,6 +141,7 @@ TEST_F(SettingsWindowTextsTest, WithoutATableEveryTextIsItsKey) {
     EXPECT_EQ(texts.enableSwitch, "enable");
     EXPECT_EQ(texts.recordButton, "record.button");
     EXPECT_EQ(texts.testDesktop, "test.desktop");
+    EXPECT_EQ(texts.moreGestures, "more.button");
     EXPECT_EQ(texts.footer, "footer");
     EXPECT_EQ(texts.actionNames.front(), "action.default");
 }

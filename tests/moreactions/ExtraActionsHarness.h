@@ -46,7 +46,7 @@ class ExtraActionsHarness : public ControllerHarness {
         controller.reset();
         app.reset();
         app = std::make_unique<Tactora>(
-            services(), ExtraActionPlatform{systemEvents, opener, processes, picker});
+            services(), ExtraActionPlatform{systemEvents, opener, processes, picker}, views());
         controller = app->sharedController();
         setApplicationController(controller);
     }

@@ -7,13 +7,9 @@
 
 namespace tactora {
 
-namespace {
-
 std::string fingerLabel(std::int64_t fingers) {
     return fingers == 1 ? L("finger.one") : L("finger.many", fingers);
 }
-
-}  // namespace
 
 std::vector<GestureRow> gestureRows() {
     constexpr std::array<const char*, 2> headings = {"section.click", "section.tap"};

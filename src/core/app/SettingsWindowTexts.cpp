@@ -31,6 +31,7 @@ SettingsWindowTexts settingsWindowTexts() {
         .recordButton = L("record.button"),
         .recordHint = L("record.hint"),
         .testDesktop = L("test.desktop"),
+        .moreGestures = L("more.button"),
         .footer = L("footer"),
         .keepGesturesOn = L("keep.enable"),
         .openAtLogin = L("login.open"),

@@ -39,6 +39,8 @@ struct SettingsWindowTexts {
     std::string recordButton;
     std::string recordHint;
     std::string testDesktop;
+    // Beside the test button: opens the More Gestures sheet.
+    std::string moreGestures;
     std::string footer;
     // Beside the master switch, and in the permission row.
     std::string keepGesturesOn;

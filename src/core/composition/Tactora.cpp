@@ -52,15 +52,13 @@ std::shared_ptr<MisfireGuard> makeGuard(const ControllerServices& services) {
 
 }  // namespace
 
-Tactora::Tactora(ControllerServices services, AdvancedSheetView* advancedView)
-    : Tactora(std::move(services), nullptr, advancedView) {}
+Tactora::Tactora(ControllerServices services, PartViews views)
+    : Tactora(std::move(services), nullptr, views) {}
 
-Tactora::Tactora(const ControllerServices& services, ExtraActionPlatform platform,
-                 AdvancedSheetView* advancedView)
-    : Tactora(services, makeExtraActions(services, platform), advancedView) {}
+Tactora::Tactora(const ControllerServices& services, ExtraActionPlatform platform, PartViews views)
+    : Tactora(services, makeExtraActions(services, platform), views) {}
 
-Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras,
-                 AdvancedSheetView* advancedView)
+Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras, PartViews views)
     : extras_(std::move(extras)),
       guard_(makeGuard(services)),
       more_(std::make_shared<MoreGesturesExtension>(
@@ -86,7 +84,9 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
                 *controller_),
       profileFiles_(*controller_, *frontmost_, services.files, services.dialogs, services.view),
       advanced_(*guard_, services.defaults,
-                advancedView != nullptr ? *advancedView : noAdvancedSheet_) {
+                views.advanced != nullptr ? *views.advanced : noAdvancedSheet_),
+      moreSheet_(*controller_, services.dialogs,
+                 views.moreSheet != nullptr ? *views.moreSheet : noMoreSheet_) {
     // The recorder comes first, so that it writes what comes in before the others act on it.
     controller_->addObserver(recorder_);
     // Next, so that gestures it switches on or off are what the others see.
@@ -100,6 +100,10 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
     more_->follow(*controller_);
     controller_->addObserver(*more_);
     controller_->addObserver(advanced_);
+    controller_->addObserver(moreSheet_);
+    // What the sheet stores is recognised from the next touch on, not only after a refresh.
+    moreSheet_.setMappingChanged(
+        [this, &clock = services.clock] { more_->refreshed(clock.uptime()); });
     if (extras_) {
         // A list of Shortcuts that arrives later may change what the gesture rows show.
         extras_->setRowsChanged([weak = std::weak_ptr<Controller>(controller_)] {
@@ -111,6 +115,7 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
 }
 
 Tactora::~Tactora() {
+    controller_->removeObserver(moreSheet_);
     controller_->removeObserver(advanced_);
     controller_->removeObserver(*more_);
     controller_->removeObserver(*feedback_);

@@ -14,11 +14,20 @@
 #include "core/misfire/MisfireGuard.h"
 #include "core/moreactions/ExtraActions.h"
 #include "core/moregestures/MoreGesturesExtension.h"
+#include "core/moresheet/MoreSheet.h"
 #include "core/platform/AdvancedSheetView.h"
+#include "core/platform/MoreSheetView.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
 
 namespace tactora {
+
+// The views of the parts beside the controller that the controller itself never touches: not
+// owned, each must outlive the program. A part without its view never shows it.
+struct PartViews {
+    AdvancedSheetView* advanced = nullptr;
+    MoreSheetView* moreSheet = nullptr;
+};
 
 // The running program: the controller and the parts beside it, wired together. The controller
 // owns what the base system gives it; each part here learns what happens as one of its
@@ -36,18 +45,17 @@ namespace tactora {
 //                controller consults through TouchJudge
 //   moregestures/ the gestures beyond the eight, which the controller feeds through
 //                GestureExtension
+//   moresheet/   the More Gestures sheet, which edits their actions, shortcuts and top band
 //   advanced/    the Advanced sheet, which edits those options and limits, and its try area
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
 class Tactora {
   public:
-    // Without the further actions: a gesture mapped to one does nothing. Without
-    // `advancedView` (not owned; it must outlive this), the Advanced sheet is never shown.
-    explicit Tactora(ControllerServices services, AdvancedSheetView* advancedView = nullptr);
+    // Without the further actions: a gesture mapped to one does nothing.
+    explicit Tactora(ControllerServices services, PartViews views = {});
     // With the further actions, carried out through `platform`.
-    Tactora(const ControllerServices& services, ExtraActionPlatform platform,
-            AdvancedSheetView* advancedView = nullptr);
+    Tactora(const ControllerServices& services, ExtraActionPlatform platform, PartViews views = {});
     Tactora(const Tactora&) = delete;
     Tactora& operator=(const Tactora&) = delete;
     Tactora(Tactora&&) = delete;
@@ -67,6 +75,7 @@ class Tactora {
     MisfireGuard& misfireGuard() { return *guard_; }
     MoreGesturesExtension& moreGestures() { return *more_; }
     AdvancedSettings& advanced() { return advanced_; }
+    MoreSheet& moreSheet() { return moreSheet_; }
 
   private:
     // Stands in for the Advanced sheet when there is none: shows nothing.
@@ -76,9 +85,13 @@ class Tactora {
         void showTries(const std::vector<TryLine>& /*tries*/,
                        const std::string& /*announcement*/) override {}
     };
+    // Stands in for the More Gestures sheet when there is none: shows nothing.
+    class NoMoreSheet final : public MoreSheetView {
+      public:
+        void showMoreSheet(const MoreSheetContent& /*content*/) override {}
+    };
 
-    Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras,
-            AdvancedSheetView* advancedView);
+    Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras, PartViews views);
 
     std::shared_ptr<ExtraActions> extras_;
     std::shared_ptr<MisfireGuard> guard_;
@@ -91,7 +104,9 @@ class Tactora {
     TouchRecorder recorder_;
     ProfileFileControls profileFiles_;
     NoAdvancedSheet noAdvancedSheet_;
+    NoMoreSheet noMoreSheet_;
     AdvancedSettings advanced_;
+    MoreSheet moreSheet_;
 };
 
 }  // namespace tactora

@@ -1,0 +1,120 @@
+#include "core/moresheet/MoreSheet.h"
+
+#include <cmath>
+
+#include "core/localization/Localizer.h"
+#include "core/moresheet/MoreSheetRows.h"
+#include "core/shortcuts/ShortcutRecorder.h"
+
+namespace tactora {
+
+MoreSheet::MoreSheet(ProfileSwitcher& switcher, Dialogs& dialogs, MoreSheetView& view)
+    : switcher_(switcher), dialogs_(dialogs), view_(view) {}
+
+void MoreSheet::open() {
+    show();
+}
+
+void MoreSheet::closed() {
+    shownProfile_.reset();
+}
+
+void MoreSheet::show() {
+    const WorkProfile& profile = switcher_.profiles().current();
+    shownProfile_ = profile.id;
+    view_.showMoreSheet(moresheet::moreSheetContent(profile.moreGestures));
+}
+
+void MoreSheet::showIfOpen() {
+    if (isOpen()) {
+        show();
+    }
+}
+
+std::optional<MoreGestureSlot> MoreSheet::slotOf(std::int64_t tag) {
+    if (tag < 0 || tag >= static_cast<std::int64_t>(moreslot::count)) {
+        return std::nullopt;
+    }
+    return static_cast<MoreGestureSlot>(tag);
+}
+
+void MoreSheet::changed(std::int64_t slot, ActionIndex action) {
+    const std::optional<MoreGestureSlot> gesture = slotOf(slot);
+    ProfileStore& store = switcher_.profiles();
+    if (gesture && action::isValid(action)) {
+        const MoreGestureMap& map = store.current().moreGestures;
+        if (action == action::custom && !map.shortcut(*gesture)) {
+            // The recording stores the shortcut and the custom action together when it is saved.
+            record(*gesture);
+            return;
+        }
+        if (action != map.action(*gesture)) {
+            store.setMoreAction(action, *gesture);
+            stored();
+        }
+    }
+    // Also puts a pop-up whose choice was refused back on the stored action.
+    showIfOpen();
+}
+
+void MoreSheet::recordShortcut(std::int64_t slot) {
+    if (const std::optional<MoreGestureSlot> gesture = slotOf(slot)) {
+        record(*gesture);
+    }
+}
+
+void MoreSheet::record(MoreGestureSlot slot) {
+    // Nothing half seen may complete after the dialog, as with the gesture rows' recording.
+    switcher_.dropPendingWork();
+    const Uuid profile = switcher_.profiles().activeID();
+    const RecordingDialogTexts texts{
+        .message = L("record.title"),
+        .informative = L("record.help"),
+        .saveButton = L("profile.save"),
+        .cancelButton = L("cancel"),
+        .waiting = L("record.wait"),
+    };
+    ShortcutRecorder recorder;
+    const bool saved = dialogs_.runRecordingDialog(
+        texts, [&recorder](const KeyPress& press, RecordingDialog& dialog) {
+            return recorder.handle(press, dialog);
+        });
+    switcher_.dropPendingWork();
+    // A shortcut belongs to the profile it was recorded for; if another became active meanwhile,
+    // it is dropped rather than given to that one.
+    if (saved && recorder.captured() && switcher_.profiles().activeID() == profile) {
+        switcher_.profiles().setMoreShortcut(*recorder.captured(), slot);
+        stored();
+    }
+    showIfOpen();
+}
+
+void MoreSheet::setTopBand(double depth) {
+    const std::optional<double> stop = moresheet::topBandStop(depth);
+    ProfileStore& store = switcher_.profiles();
+    if (stop &&
+        std::abs(*stop - store.current().moreGestures.topBand) >= moresheet::topBandStep / 2) {
+        store.setTopBand(*stop);
+        stored();
+    }
+    // Also puts the slider on the stop it stands for.
+    showIfOpen();
+}
+
+void MoreSheet::stored() {
+    if (mappingChanged_) {
+        mappingChanged_();
+    }
+}
+
+void MoreSheet::profileSelected(const ProfileNote& /*note*/) {
+    showIfOpen();
+}
+
+void MoreSheet::refreshed(double /*time*/) {
+    if (isOpen() && switcher_.profiles().activeID() != *shownProfile_) {
+        show();
+    }
+}
+
+}  // namespace tactora

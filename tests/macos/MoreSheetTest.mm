@@ -1,0 +1,195 @@
+// The More Gestures sheet as the shell builds it, in every language the bundle ships: within the
+// settings window's width and height, every control inside the sheet, each pop-up showing and
+// telling its target its slot's action, and Escape closing it as Done does.
+#import <AppKit/AppKit.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/app/Globals.h"
+#include "core/localization/Localizer.h"
+#include "core/localization/StringsTable.h"
+#include "core/moresheet/MoreSheetRows.h"
+#include "macos/AppBundle.h"
+#include "macos/StringConversion.h"
+#import "macos/TAMoreSheet.h"
+
+@interface TARecordingMoreSheetTarget : NSObject <TAMoreSheetTarget>
+@property(nonatomic) NSInteger changedSlot;
+@property(nonatomic) NSInteger changedAction;
+@property(nonatomic) NSInteger recordedSlot;
+@property(nonatomic) double depth;
+@property(nonatomic) NSInteger closes;
+@end
+
+@implementation TARecordingMoreSheetTarget
+- (void)changeMoreGesture:(NSInteger)slot action:(NSInteger)action {
+    _changedSlot = slot;
+    _changedAction = action;
+}
+- (void)recordMoreGesture:(NSInteger)slot {
+    _recordedSlot = slot;
+}
+- (void)setTopBandDepth:(double)depth {
+    _depth = depth;
+}
+- (void)closeMoreGestures {
+    ++_closes;
+}
+@end
+
+namespace tactora::testing {
+namespace {
+
+// The settings window's content size, which the sheet stays within.
+constexpr CGFloat windowWidth = 790;
+constexpr CGFloat windowHeight = 820;
+constexpr CGFloat slack = 1;
+
+void installTable(const std::string& language) {
+    NSDictionary* texts = [NSDictionary dictionaryWithContentsOfFile:stringTablePath(language)];
+    StringsTable::Entries entries;
+    for (NSString* key in texts) {
+        if ([texts[key] isKindOfClass:NSString.class]) {
+            entries.emplace(macos::toStdString(key), macos::toStdString(texts[key]));
+        }
+    }
+    setStringTable(std::make_shared<const StringsTable>(std::move(entries)));
+    initializeGlobals();
+}
+
+template <typename View>
+std::vector<View*> subviewsOf(NSView* view) {
+    std::vector<View*> found;
+    for (NSView* subview in view.subviews) {
+        if ([subview isKindOfClass:View.class]) {
+            found.push_back(static_cast<View*>(subview));
+        }
+        const std::vector<View*> below = subviewsOf<View>(subview);
+        found.insert(found.end(), below.begin(), below.end());
+    }
+    return found;
+}
+
+class MoreSheetTest : public ::testing::TestWithParam<std::string> {
+  protected:
+    void SetUp() override {
+        installTable(GetParam());
+        window_ = [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, windowWidth, windowHeight)
+                                              styleMask:NSWindowStyleMaskTitled
+                                                backing:NSBackingStoreBuffered
+                                                  defer:NO];
+        window_.releasedWhenClosed = NO;
+        [window_ orderFront:nil];
+        sheet_.target = target_;
+        [sheet_ showOnWindow:window_ content:moresheet::moreSheetContent(MoreGestureMap())];
+        [content() layoutSubtreeIfNeeded];
+    }
+
+    void TearDown() override {
+        if (sheet_.sheetWindow.sheetParent != nil) {
+            [window_ endSheet:sheet_.sheetWindow];
+        }
+        [window_ close];
+        setStringTable(nullptr);
+    }
+
+    NSView* content() const { return sheet_.sheetWindow.contentView; }
+
+    NSPopUpButton* popUpOf(MoreGestureSlot slot) const {
+        for (NSPopUpButton* popUp : subviewsOf<NSPopUpButton>(content())) {
+            if (popUp.tag == static_cast<NSInteger>(moreslot::index(slot))) {
+                return popUp;
+            }
+        }
+        return nil;
+    }
+
+    NSWindow* window_ = nil;
+    TAMoreSheet* sheet_ = [[TAMoreSheet alloc] init];
+    TARecordingMoreSheetTarget* target_ = [[TARecordingMoreSheetTarget alloc] init];
+};
+
+TEST_P(MoreSheetTest, StaysWithinTheSettingsWindow) {
+    const NSSize size = content().frame.size;
+    EXPECT_LE(size.width, windowWidth);
+    EXPECT_LE(size.height, windowHeight);
+}
+
+TEST_P(MoreSheetTest, NoControlLeavesTheSheet) {
+    const NSRect bounds = content().bounds;
+    for (NSControl* control : subviewsOf<NSControl>(content())) {
+        const NSRect frame = [control.superview convertRect:control.frame toView:content()];
+        EXPECT_GE(NSMinX(frame), NSMinX(bounds) - slack) << control.description.UTF8String;
+        EXPECT_LE(NSMaxX(frame), NSMaxX(bounds) + slack) << control.description.UTF8String;
+        EXPECT_GE(NSMinY(frame), NSMinY(bounds) - slack) << control.description.UTF8String;
+        EXPECT_LE(NSMaxY(frame), NSMaxY(bounds) + slack) << control.description.UTF8String;
+    }
+}
+
+TEST_P(MoreSheetTest, EveryGestureHasAPopUpShowingItsAction) {
+    EXPECT_EQ(subviewsOf<NSPopUpButton>(content()).size(), moreslot::count);
+    for (std::size_t i = 0; i < moreslot::count; ++i) {
+        NSPopUpButton* popUp = popUpOf(static_cast<MoreGestureSlot>(i));
+        ASSERT_NE(popUp, nil) << i;
+        EXPECT_EQ(popUp.selectedItem.tag, action::defaultAction) << i;
+    }
+}
+
+TEST_P(MoreSheetTest, ThePopUpTellsItsSlotAndTheChosenAction) {
+    NSPopUpButton* hold = popUpOf(MoreGestureSlot::tapHold);
+    ASSERT_NE(hold, nil);
+    EXPECT_EQ([hold itemAtIndex:1].tag, action::middle);
+
+    [hold selectItemAtIndex:1];
+    [hold sendAction:hold.action to:hold.target];
+
+    EXPECT_EQ(target_.changedSlot,
+              static_cast<NSInteger>(moreslot::index(MoreGestureSlot::tapHold)));
+    EXPECT_EQ(target_.changedAction, action::middle);
+}
+
+TEST_P(MoreSheetTest, ShowingAgainShowsTheNewSelectionsAndShortcuts) {
+    MoreGestureMap map;
+    const MoreGestureSlot swipe = moreslot::forSwipe(2, SwipeDirection::down);
+    map.actions[moreslot::index(swipe)] = action::custom;
+    map.shortcuts[moreslot::index(swipe)] = SavedShortcut(40, 0x100000, "⌘K");
+
+    [sheet_ showOnWindow:window_ content:moresheet::moreSheetContent(map)];
+
+    EXPECT_EQ(popUpOf(swipe).selectedItem.tag, action::custom);
+    bool found = false;
+    for (NSButton* button : subviewsOf<NSButton>(content())) {
+        if (button.tag == static_cast<NSInteger>(moreslot::index(swipe)) &&
+            ![button isKindOfClass:NSPopUpButton.class]) {
+            found = true;
+            EXPECT_TRUE(button.enabled);
+            EXPECT_TRUE([button.title isEqualToString:@"⌘K"]);
+        }
+    }
+    EXPECT_TRUE(found);
+}
+
+TEST_P(MoreSheetTest, EscapeClosesTheSheetAsDoneDoes) {
+    NSWindow* sheet = sheet_.sheetWindow;
+    ASSERT_EQ(sheet.sheetParent, window_);
+
+    [sheet cancelOperation:nil];
+
+    EXPECT_EQ(sheet.sheetParent, nil);
+    EXPECT_EQ(window_.attachedSheet, nil);
+}
+
+INSTANTIATE_TEST_SUITE_P(ShippedLanguages, MoreSheetTest, ::testing::ValuesIn(shippedLanguages()),
+                         [](const ::testing::TestParamInfo<std::string>& info) {
+                             std::string name = info.param;
+                             std::ranges::replace(name, '-', '_');
+                             return name;
+                         });
+
+}  // namespace
+}  // namespace tactora::testing
