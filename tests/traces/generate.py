@@ -16,8 +16,15 @@ and must be checked by hand against what the recogniser and the controller are m
 profiles.json holds two profiles. "Every gesture" (active first) maps
     clicks: 1 finger middle, 2 right, 3 copy, 4 Mission Control
     taps:   1 finger left,   2 right, 3 paste, 4 Show Desktop
-and "Browsing" maps the two-finger click to right, the one- and two-finger taps to back and
-forward, and everything else to the system's own behaviour.
+"Browsing" maps the two-finger click to right, the one- and two-finger taps to back and
+forward, and everything else to the system's own behaviour; and "More gestures" maps the eight as
+"Every gesture" does and, beyond them,
+    taps by region: left half back, right half forward, top band Mission Control
+    tip taps:       left copy, right paste
+    swipes:         one finger up Mission Control, two fingers left back and right forward,
+                    three fingers down Show Desktop
+    tap and hold:   the middle button
+The more-* traces select it first.
 """
 
 import os
@@ -25,6 +32,7 @@ import random
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 BROWSING = "6F1C2A10-0000-4000-8000-00000000000B"
+MORE_GESTURES = "6F1C2A10-0000-4000-8000-00000000000C"
 FRAME_INTERVAL = 1 / 90
 
 
@@ -221,6 +229,26 @@ class Surface:
             t += FRAME_INTERVAL + self.random.uniform(-0.0015, 0.0015)
 
 
+    def fingers(self, fingers):
+        """Each finger (id, x, y, lands, lifts, vx, vy) lands and lifts at its own times and
+        moves at (vx, vy) per second while down, with the sensor's jitter. Frames run from the
+        first landing to the empty frame after the last lift, whose time this returns."""
+        t = min(f[3] for f in fingers)
+        while True:
+            down = [f for f in fingers if f[3] <= t < f[4]]
+            if not down and t > min(f[3] for f in fingers):
+                self.trace.frame(t)
+                return t
+            contacts = []
+            for ident, x, y, lands, _, vx, vy in down:
+                moved = t - lands
+                contacts.append((ident,
+                                 round(x + vx * moved + self.random.uniform(-0.0008, 0.0008), 4),
+                                 round(y + vy * moved + self.random.uniform(-0.0008, 0.0008), 4)))
+            self.trace.frame(t, contacts)
+            t += FRAME_INTERVAL + self.random.uniform(-0.0015, 0.0015)
+
+
 def row(n, left=0.35, step=0.1, y=0.45):
     return [(left + step * k, y + 0.02 * (k % 2)) for k in range(n)]
 
@@ -313,8 +341,104 @@ def session():
     demo.write()
 
 
+# --- The gestures beyond the eight, with the "More gestures" profile ---------------------------
+
+
+def still(ident, x, y, lands, lifts):
+    return (ident, x, y, lands, lifts, 0.0, 0.0)
+
+
+def more_gestures():
+    regions = Trace("more-1-region-taps",
+                    "Taps by region. One-finger taps on the left half, the right half and the",
+                    "top band (the part by the fingertips, y from 0.75 up): each runs its",
+                    "region's action (back, forward, Mission Control) instead of the",
+                    "one-finger tap's, 0.08 s after the release as the tap would. A two-finger",
+                    "tap is no region's: slot 5, right, runs as always.")
+    regions.state(600.0, f"profile {MORE_GESTURES}")
+    surface = Surface(regions, 31)
+    t = 600.5
+    for spot in ((0.25, 0.4), (0.75, 0.4), (0.5, 0.9)):
+        t = surface.touch(t, [spot], 0.1, drift=0.02) + 0.6
+    surface.touch(t, row(2), 0.12, spread=0.01, drift=0.02)
+    regions.write()
+
+    tips = Trace("more-2-tip-taps",
+                 "Tip taps. One finger rests still; a second finger taps to its left (copy)",
+                 "and, later, to its right (paste), each recognised when the tapping finger",
+                 "lifts. The resting finger's own lift after 2.5 s is no tap. Then two",
+                 "fingers landing together and one lifting early: no finger rested first, so",
+                 "no tip tap, and the touch is too long for a tap.")
+    tips.state(700.0, f"profile {MORE_GESTURES}")
+    surface = Surface(tips, 32)
+    end = surface.fingers([still(1, 0.5, 0.5, 700.5, 703.0),
+                           still(2, 0.36, 0.52, 701.1, 701.2),
+                           still(3, 0.64, 0.51, 701.9, 702.01)])
+    surface.fingers([still(4, 0.45, 0.5, end + 0.6, end + 1.2),
+                     still(5, 0.58, 0.5, end + 0.605, end + 0.7)])
+    tips.write()
+
+    swipes = Trace("more-3-swipes",
+                   "Swipes. Two fingers sweep left while the mouse sends scroll events: once",
+                   "they have covered 0.15 the swipe is recognised and back runs at once, and",
+                   "from then until they lift the scroll events are swallowed; those before",
+                   "pass. One finger sweeps up (Mission Control), three sweep down (Show",
+                   "Desktop). Then a slow one-finger scroll that covers 0.08 in 0.4 s: no",
+                   "swipe, and every scroll event passes.")
+    swipes.state(800.0, f"profile {MORE_GESTURES}")
+    surface = Surface(swipes, 33)
+
+    def sweep(start, spots, vx, vy, length):
+        end = surface.fingers([(k + 1, x, y, start + 0.004 * k, start + length - 0.003 * k, vx, vy)
+                               for k, (x, y) in enumerate(spots)])
+        s = start + 0.02
+        while s < end:
+            swipes.mouse(s, "scroll")
+            s += 0.03
+        return end
+
+    t = sweep(800.5, [(0.6, 0.5), (0.7, 0.52)], -0.9, 0.0, 0.35) + 0.8
+    t = sweep(t, [(0.5, 0.3)], 0.0, 0.9, 0.3) + 0.8
+    t = surface.fingers([(k + 1, 0.4 + 0.1 * k, 0.75, t + 0.005 * k, t + 0.3, 0.0, -0.9)
+                         for k in range(3)]) + 0.8
+    sweep(t, [(0.5, 0.4)], 0.0, 0.2, 0.4)
+    swipes.write()
+
+    hold = Trace("more-4-tap-and-hold",
+                 "Tap and hold to drag. A one-finger tap on the left half, and 0.12 s after",
+                 "its lift a finger lands there and stays. The tap is the left half's tap",
+                 "(back, 0.08 s after its release); once the finger has rested longer than a",
+                 "tap may last (0.3 s), the middle button goes down, and it comes up when the",
+                 "finger lifts 1.2 s later. A finger landing 0.4 s after a tap (later than",
+                 "0.25 s) holds nothing.")
+    hold.state(900.0, f"profile {MORE_GESTURES}")
+    surface = Surface(hold, 34)
+    end = surface.touch(900.5, [(0.3, 0.5)], 0.1, drift=0.01)
+    end = surface.touch(end + 0.12, [(0.3, 0.5)], 1.2, drift=0.01)
+    end = surface.touch(end + 0.8, [(0.3, 0.5)], 0.1, drift=0.01)
+    surface.touch(end + 0.4, [(0.3, 0.5)], 1.0, drift=0.01)
+    hold.write()
+
+    clicked = Trace("more-5-hold-ended-by-click",
+                    "A physical click ends a tap and hold. The middle button is held by a tap",
+                    "and hold; the user presses the mouse's own button while the finger rests:",
+                    "the held middle button comes up first, exactly once, and the press is a",
+                    "one-finger click (slot 0, middle) rewritten through its up. The finger's",
+                    "lift afterwards sends no second up.")
+    clicked.state(1000.0, f"profile {MORE_GESTURES}")
+    surface = Surface(clicked, 35)
+    end = surface.touch(1000.5, [(0.7, 0.5)], 0.1, drift=0.01)
+    start = end + 0.1
+    surface.touch(start, [(0.7, 0.5)], 1.5, drift=0.01)
+    clicked.mouse(start + 0.8, "left-down")
+    clicked.mouse(start + 0.9, "left-drag")
+    clicked.mouse(start + 1.0, "left-up")
+    clicked.write()
+
+
 if __name__ == "__main__":
     self_check()
     flows()
     realistic()
     session()
+    more_gestures()

@@ -71,6 +71,9 @@ std::optional<GestureAct> MoreGesturesExtension::carryOut(std::optional<MoreGest
         return std::nullopt;
     }
     const ActionIndex action = map->action(event->slot);
+    if (watcher_ != nullptr) {
+        watcher_->recognised(event->slot);
+    }
     // A button is held for as long as the finger rests; any other action runs once.
     if (event->kind == MoreGestureEvent::Kind::holdBegan) {
         if (const std::optional<MouseButton> button = catalogue::pressTarget(action)) {
@@ -95,6 +98,9 @@ void MoreGesturesExtension::press(MouseButton button) {
                                            .flags = 0});
     held_ = button;
     services_.dragger.setDragging(button);
+    if (watcher_ != nullptr) {
+        watcher_->pressed(button);
+    }
 }
 
 void MoreGesturesExtension::release() {
@@ -107,6 +113,9 @@ void MoreGesturesExtension::release() {
                                            .clickState = 1,
                                            .userData = marker,
                                            .flags = 0});
+    if (watcher_ != nullptr) {
+        watcher_->released(*held_);
+    }
     held_.reset();
 }
 

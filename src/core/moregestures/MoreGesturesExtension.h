@@ -7,6 +7,7 @@
 #include "core/app/ControllerObserver.h"
 #include "core/app/GestureExtension.h"
 #include "core/app/ProfileSwitcher.h"
+#include "core/moregestures/MoreGestureWatcher.h"
 #include "core/moregestures/MoreGestures.h"
 #include "core/platform/EventPoster.h"
 #include "core/platform/MouseButton.h"
@@ -35,6 +36,8 @@ class MoreGesturesExtension final : public GestureExtension, public ControllerOb
     // on; until then nothing is recognised. The controller is made with its extension, so it
     // is followed once it exists.
     void follow(ProfileSwitcher& profiles);
+    // Tells `watcher` (not owned; nullptr for none) what the gestures do from now on.
+    void watch(MoreGestureWatcher* watcher) { watcher_ = watcher; }
 
     bool listening() const override { return recognisers_.settings().any(); }
     std::optional<GestureAct> frame(std::span<const Finger> fingers, double now,
@@ -68,6 +71,7 @@ class MoreGesturesExtension final : public GestureExtension, public ControllerOb
 
     MoreGestureServices services_;
     ProfileSwitcher* profiles_ = nullptr;
+    MoreGestureWatcher* watcher_ = nullptr;
     bool launched_ = false;
     MoreGestures recognisers_;
     std::optional<MouseButton> held_;

@@ -151,6 +151,8 @@ std::string TraceReplay::run(const std::vector<TraceLine>& lines,
     Stage stage(start, defaultsWith(profiles), rules);
     stage.launch();
     stage.controller->addObserver(replay);
+    replay.clock_ = &stage.queue;
+    stage.more->watch(&replay);
     const bool explained = detail == Detail::explained;
     if (explained) {
         stage.controller->addObserver(explainer);
@@ -183,6 +185,7 @@ std::string TraceReplay::run(const std::vector<TraceLine>& lines,
     if (explained) {
         stage.controller->removeObserver(explainer);
     }
+    stage.more->watch(nullptr);
     stage.controller->removeObserver(replay);
     replay.output_ += replay.summary(end - start);
     return replay.output_;
@@ -201,6 +204,20 @@ void TraceReplay::actionPerformed(const ActionNote& note) {
         what += " button " + std::to_string(static_cast<std::uint32_t>(*note.asButton));
     }
     print(note.time, what);
+}
+
+void TraceReplay::recognised(MoreGestureSlot slot) {
+    print(clock_->uptime(), "gesture " + std::string(moreslot::name(slot)));
+}
+
+void TraceReplay::pressed(MouseButton button) {
+    print(clock_->uptime(),
+          "hold button " + std::to_string(static_cast<std::uint32_t>(button)) + " down");
+}
+
+void TraceReplay::released(MouseButton button) {
+    print(clock_->uptime(),
+          "hold button " + std::to_string(static_cast<std::uint32_t>(button)) + " up");
 }
 
 void TraceReplay::print(double time, const std::string& what) {

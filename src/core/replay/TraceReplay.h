@@ -10,6 +10,8 @@
 #include "core/app/ControllerObserver.h"
 #include "core/gestures/TapThresholds.h"
 #include "core/misfire/MisfireOptions.h"
+#include "core/moregestures/MoreGestureWatcher.h"
+#include "core/platform/Clock.h"
 #include "core/profiles/WorkProfile.h"
 #include "core/trace/TraceLine.h"
 
@@ -29,6 +31,9 @@ struct ReplayRules {
 //   <t> click <fingers>                        a physical click with resting fingers
 //   <t> action <action key>                    an action was performed
 //   <t> action <action key> button <number>    a physical press was rewritten into that button
+//   <t> gesture <slot name>                    a mapped gesture beyond the eight was recognised
+//   <t> hold button <number> down              a tap and hold pressed that button
+//   <t> hold button <number> up                ...and released it
 //   summary taps=<n> clicks=<n> actions=<n> frames=<n> mouse-events=<n> seconds=<s>
 //
 // Explained, it also says, in time order among those lines, why every touch that became no
@@ -36,7 +41,7 @@ struct ReplayRules {
 // ups sent for held presses (see DecisionExplainer.h). <t> is the virtual uptime in seconds with
 // three decimals. Main thread only; the string table must be installed (the controller's texts are
 // looked up, though none is printed).
-class TraceReplay final : private ControllerObserver {
+class TraceReplay final : private ControllerObserver, private MoreGestureWatcher {
   public:
     // Scheduled work still runs this long after the trace's last line.
     static constexpr double settle = 1.0;
@@ -61,11 +66,15 @@ class TraceReplay final : private ControllerObserver {
 
     void gestureRecognised(const GestureNote& note) override;
     void actionPerformed(const ActionNote& note) override;
+    void recognised(MoreGestureSlot slot) override;
+    void pressed(MouseButton button) override;
+    void released(MouseButton button) override;
 
     void print(double time, const std::string& what);
     std::string summary(double seconds) const;
 
     std::string output_;
+    const Clock* clock_ = nullptr;  // the replay's virtual time, for what the notes don't time
     std::size_t taps_ = 0;
     std::size_t clicks_ = 0;
     std::size_t actions_ = 0;
