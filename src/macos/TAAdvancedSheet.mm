@@ -6,6 +6,7 @@
 
 #include "macos/Labels.h"
 #include "macos/StringConversion.h"
+#import "macos/TASheetWindow.h"
 
 namespace {
 
@@ -36,23 +37,8 @@ NSNumberFormatter* makeFormatter(int fractionDigits) {
 
 }  // namespace
 
-// The sheet's window: Escape closes it as its Done button does.
-@interface TAAdvancedSheetWindow : NSWindow
-@property(nonatomic, copy, nullable) void (^onCancel)(void);
-@end
-
-@implementation TAAdvancedSheetWindow
-
-- (void)cancelOperation:(id)sender {
-    if (self.onCancel != nil) {
-        self.onCancel();
-    }
-}
-
-@end
-
 @implementation TAAdvancedSheet {
-    TAAdvancedSheetWindow* _sheet;
+    TASheetWindow* _sheet;
     NSStackView* _column;
     NSTextField* _title;
     NSTextField* _explanation;
@@ -86,10 +72,10 @@ NSNumberFormatter* makeFormatter(int fractionDigits) {
 }
 
 - (void)build:(const tactora::AdvancedSheet&)content {
-    _sheet = [[TAAdvancedSheetWindow alloc] initWithContentRect:NSMakeRect(0, 0, sheetWidth, 600)
-                                                      styleMask:NSWindowStyleMaskTitled
-                                                        backing:NSBackingStoreBuffered
-                                                          defer:YES];
+    _sheet = [[TASheetWindow alloc] initWithContentRect:NSMakeRect(0, 0, sheetWidth, 600)
+                                              styleMask:NSWindowStyleMaskTitled
+                                                backing:NSBackingStoreBuffered
+                                                  defer:YES];
     _sheet.releasedWhenClosed = NO;
     __weak TAAdvancedSheet* weakSelf = self;
     _sheet.onCancel = ^{

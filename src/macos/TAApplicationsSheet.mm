@@ -5,6 +5,7 @@
 #include "macos/Labels.h"
 #include "macos/StringConversion.h"
 #import "macos/TAExtensionFilter.h"
+#import "macos/TASheetWindow.h"
 
 namespace {
 
@@ -29,23 +30,6 @@ bool isDeleteKey(NSEvent* event) {
 
 }  // namespace
 
-// The sheet's window: Escape closes it as its Done button does.
-@interface TAApplicationsSheetWindow : NSWindow
-@property(nonatomic, copy, nullable) void (^onCancel)(void);
-@end
-
-@implementation TAApplicationsSheetWindow
-
-// The window receives this when Escape (or Command-period) reaches it and no button of the
-// sheet answers that key.
-- (void)cancelOperation:(id)sender {
-    if (self.onCancel != nil) {
-        self.onCancel();
-    }
-}
-
-@end
-
 // The list of applications: Delete and Forward Delete remove the selected one, as in the
 // system's own lists.
 @interface TAApplicationsTable : NSTableView
@@ -66,7 +50,7 @@ bool isDeleteKey(NSEvent* event) {
 
 @implementation TAApplicationsSheet {
     std::vector<tactora::ApplicationRow> _rows;
-    TAApplicationsSheetWindow* _sheet;
+    TASheetWindow* _sheet;
     NSTextField* _title;
     NSTextField* _explanation;
     TAApplicationsTable* _table;
@@ -95,11 +79,10 @@ bool isDeleteKey(NSEvent* event) {
 }
 
 - (void)build {
-    _sheet =
-        [[TAApplicationsSheetWindow alloc] initWithContentRect:NSMakeRect(0, 0, sheetWidth, 400)
-                                                     styleMask:NSWindowStyleMaskTitled
-                                                       backing:NSBackingStoreBuffered
-                                                         defer:YES];
+    _sheet = [[TASheetWindow alloc] initWithContentRect:NSMakeRect(0, 0, sheetWidth, 400)
+                                              styleMask:NSWindowStyleMaskTitled
+                                                backing:NSBackingStoreBuffered
+                                                  defer:YES];
     _sheet.releasedWhenClosed = NO;
     __weak TAApplicationsSheet* weakSelf = self;
     _sheet.onCancel = ^{

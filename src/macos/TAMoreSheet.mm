@@ -7,6 +7,7 @@
 #include "macos/ActionMenus.h"
 #include "macos/Labels.h"
 #include "macos/StringConversion.h"
+#import "macos/TASheetWindow.h"
 
 namespace {
 
@@ -48,25 +49,8 @@ void letGiveWay(NSButton* button) {
 
 }  // namespace
 
-// The sheet's window: Escape closes it as its Done button does.
-@interface TAMoreSheetWindow : NSWindow
-@property(nonatomic, copy, nullable) void (^onCancel)(void);
-@end
-
-@implementation TAMoreSheetWindow
-
-// The window receives this when Escape (or Command-period) reaches it and no button of the
-// sheet answers that key.
-- (void)cancelOperation:(id)sender {
-    if (self.onCancel != nil) {
-        self.onCancel();
-    }
-}
-
-@end
-
 @implementation TAMoreSheet {
-    TAMoreSheetWindow* _sheet;
+    TASheetWindow* _sheet;
     // The controls that follow the content, by their slot's tag.
     NSMutableDictionary<NSNumber*, NSPopUpButton*>* _popUps;
     NSMutableDictionary<NSNumber*, NSButton*>* _recordButtons;
@@ -95,10 +79,10 @@ void letGiveWay(NSButton* button) {
 - (void)build:(const tactora::MoreSheetContent&)content {
     using tactora::macos::makeLabel;
     using tactora::macos::makeWrappingLabel;
-    _sheet = [[TAMoreSheetWindow alloc] initWithContentRect:NSMakeRect(0, 0, sheetWidth, 400)
-                                                  styleMask:NSWindowStyleMaskTitled
-                                                    backing:NSBackingStoreBuffered
-                                                      defer:YES];
+    _sheet = [[TASheetWindow alloc] initWithContentRect:NSMakeRect(0, 0, sheetWidth, 400)
+                                              styleMask:NSWindowStyleMaskTitled
+                                                backing:NSBackingStoreBuffered
+                                                  defer:YES];
     _sheet.releasedWhenClosed = NO;
     __weak TAMoreSheet* weakSelf = self;
     _sheet.onCancel = ^{

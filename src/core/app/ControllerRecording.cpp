@@ -1,6 +1,5 @@
 #include "core/app/Controller.h"
 #include "core/app/TouchStep.h"
-#include "core/localization/Localizer.h"
 #include "core/shortcuts/ShortcutRecorder.h"
 
 namespace tactora {
@@ -15,13 +14,7 @@ void Controller::beginRecording(std::int64_t slot) {
     releasePresses();
     resetTouch(state_.gesture, services_.judge.get(), services_.extension.get());
     state_.recording = true;
-    const RecordingDialogTexts texts{
-        .message = L("record.title"),
-        .informative = L("record.help"),
-        .saveButton = L("profile.save"),
-        .cancelButton = L("cancel"),
-        .waiting = L("record.wait"),
-    };
+    const RecordingDialogTexts texts = ShortcutRecorder::dialogTexts();
     ShortcutRecorder recorder;
     const bool saved = services_.dialogs.runRecordingDialog(
         texts,

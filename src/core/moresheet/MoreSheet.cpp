@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "core/localization/Localizer.h"
 #include "core/moresheet/MoreSheetRows.h"
 #include "core/shortcuts/ShortcutRecorder.h"
 
@@ -67,13 +66,7 @@ void MoreSheet::record(MoreGestureSlot slot) {
     // Nothing half seen may complete after the dialog, as with the gesture rows' recording.
     switcher_.dropPendingWork();
     const Uuid profile = switcher_.profiles().activeID();
-    const RecordingDialogTexts texts{
-        .message = L("record.title"),
-        .informative = L("record.help"),
-        .saveButton = L("profile.save"),
-        .cancelButton = L("cancel"),
-        .waiting = L("record.wait"),
-    };
+    const RecordingDialogTexts texts = ShortcutRecorder::dialogTexts();
     ShortcutRecorder recorder;
     const bool saved = dialogs_.runRecordingDialog(
         texts, [&recorder](const KeyPress& press, RecordingDialog& dialog) {

@@ -1,5 +1,6 @@
 #include "core/shortcuts/ShortcutRecorder.h"
 
+#include "core/localization/Localizer.h"
 #include "core/shortcuts/ShortcutLabel.h"
 
 namespace tactora {
@@ -12,6 +13,16 @@ bool isModifierKey(std::uint16_t keyCode) {
 }
 
 }  // namespace
+
+RecordingDialogTexts ShortcutRecorder::dialogTexts() {
+    return {
+        .message = L("record.title"),
+        .informative = L("record.help"),
+        .saveButton = L("profile.save"),
+        .cancelButton = L("cancel"),
+        .waiting = L("record.wait"),
+    };
+}
 
 EventDisposition ShortcutRecorder::handle(const KeyPress& press, RecordingDialog& dialog) {
     if (!press.inDialogWindow || press.isRepeat || press.keyCode >= firstUnstorableKey) {

@@ -7,6 +7,7 @@
 #include "core/platform/EventDisposition.h"
 #include "core/platform/KeyPress.h"
 #include "core/platform/RecordingDialog.h"
+#include "core/platform/RecordingDialogTexts.h"
 
 namespace tactora {
 
@@ -25,6 +26,9 @@ class ShortcutRecorder {
     // Shift, right Option, right Control and Function.
     static constexpr std::uint16_t firstModifierKey = 54;
     static constexpr std::uint16_t lastModifierKey = 63;
+
+    // The texts of the dialog a shortcut is recorded in, in the user's language.
+    static RecordingDialogTexts dialogTexts();
 
     EventDisposition handle(const KeyPress& press, RecordingDialog& dialog);
 
