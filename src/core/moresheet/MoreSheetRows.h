@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "core/actions/ActionIndex.h"
@@ -7,12 +8,10 @@
 #include "core/profiles/MoreGestureMap.h"
 #include "core/profiles/MoreGestureSlot.h"
 
-namespace tactora {
-
 // What the More Gestures sheet shows of a profile's further gestures. Texts localised, from the
 // current string table; the action names are choices(), so initializeGlobals() must have run.
 // Main thread only.
-namespace moresheet {
+namespace tactora::moresheet {
 
 // The top band's slider stops every this much of the surface's length.
 inline constexpr double topBandStep = 0.05;
@@ -31,6 +30,4 @@ MoreSheetContent moreSheetContent(const MoreGestureMap& map);
 // Nothing for a depth that is not a number.
 std::optional<double> topBandStop(double depth);
 
-}  // namespace moresheet
-
-}  // namespace tactora
+}  // namespace tactora::moresheet
