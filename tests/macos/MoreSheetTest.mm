@@ -66,7 +66,7 @@ template <typename View>
 std::vector<View*> subviewsOf(NSView* view) {
     std::vector<View*> found;
     for (NSView* subview in view.subviews) {
-        if ([subview isKindOfClass:View.class]) {
+        if ([subview isKindOfClass:[View class]]) {
             found.push_back(static_cast<View*>(subview));
         }
         const std::vector<View*> below = subviewsOf<View>(subview);
