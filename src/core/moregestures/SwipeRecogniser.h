@@ -36,8 +36,13 @@ class SwipeRecogniser {
                                           std::uint32_t wanted);
     // The mouse's button went down during the touch.
     void physicalClick() { over_ = true; }
-    // The touch ended, or everything is dropped: the next frame starts afresh.
-    void reset() { *this = SwipeRecogniser(); }
+    // The touch ended, or everything is dropped: the next frame starts afresh. With no set, the
+    // next frame starts one and sets its starts and time, so those need not be cleared here.
+    void reset() {
+        started_ = 0;
+        late_ = false;
+        over_ = false;
+    }
 
   private:
     // Every frame but the steady ones of a set whose time is up.
