@@ -1,5 +1,6 @@
 #include "core/moregestures/SwipeRecogniser.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tactora {
@@ -7,15 +8,6 @@ namespace tactora {
 std::optional<MoreGestureSlot> SwipeRecogniser::measure(std::span<const Finger> frame, double time,
                                                         std::uint32_t wanted) {
     const std::size_t fingers = frame.size();
-    if (fingers > starts_.size()) {
-        started_ = 0;
-        return std::nullopt;
-    }
-    if (!isTheSet(frame)) {
-        // A finger landed or lifted (or both, between two frames): a new set.
-        startFrom(frame, time);
-        return std::nullopt;
-    }
     if (time - startedAt_ > swipeTime) {
         late_ = true;
         return std::nullopt;
@@ -34,6 +26,11 @@ std::optional<MoreGestureSlot> SwipeRecogniser::measure(std::span<const Finger> 
     }
     over_ = true;
     return moreslot::forSwipe(static_cast<std::int64_t>(fingers), *direction);
+}
+
+bool SwipeRecogniser::isTheSetInAnyOrder(std::span<const Finger> frame) const {
+    return std::ranges::all_of(
+        frame, [this](const Finger& finger) { return startOf(finger.id) != nullptr; });
 }
 
 const ContactPoint* SwipeRecogniser::startOf(std::int64_t id) const {

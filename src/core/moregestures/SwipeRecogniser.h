@@ -36,11 +36,16 @@ class SwipeRecogniser {
                                           std::uint32_t wanted);
     // The mouse's button went down during the touch.
     void physicalClick() { over_ = true; }
-    // The touch ended, or everything is dropped: the next frame starts afresh.
-    void reset() { *this = SwipeRecogniser(); }
+    // The touch ended, or everything is dropped: the next frame starts afresh. With no set, the
+    // next frame starts one and sets its starts and time, so those need not be cleared here.
+    void reset() {
+        started_ = 0;
+        late_ = false;
+        over_ = false;
+    }
 
   private:
-    // Every frame but the steady ones of a set whose time is up.
+    // A frame of the set measured, in its time, whose first finger has gone far enough.
     std::optional<MoreGestureSlot> measure(std::span<const Finger> frame, double time,
                                            std::uint32_t wanted);
     // Whether `frame` holds exactly the fingers that are measured.
@@ -48,17 +53,15 @@ class SwipeRecogniser {
         if (frame.size() != started_) {
             return false;
         }
-        for (const Finger& finger : frame) {
-            bool known = false;
-            for (std::size_t i = 0; i < started_; ++i) {
-                known = known || starts_[i].id == finger.id;
-            }
-            if (!known) {
-                return false;
-            }
+        // The surface mostly reports the fingers in the order they were measured in; one pass
+        // then says so.
+        std::size_t inOrder = 0;
+        while (inOrder < started_ && frame[inOrder].id == starts_[inOrder].id) {
+            ++inOrder;
         }
-        return true;
+        return inOrder == started_ || isTheSetInAnyOrder(frame);
     }
+    bool isTheSetInAnyOrder(std::span<const Finger> frame) const;
     // The start of a finger of the set; null for one outside it.
     const ContactPoint* startOf(std::int64_t id) const;
     // The direction in which a finger has moved far enough, if it has.
@@ -72,25 +75,32 @@ class SwipeRecogniser {
     bool over_ = false;
 };
 
-// Fingers resting or moving slowly after their time is up are decided here, inlined into the
-// frame handler.
+// Fingers resting or moving slowly, and fingers landing or lifting, are decided here, inlined
+// into the frame handler.
 inline std::optional<MoreGestureSlot> SwipeRecogniser::update(std::span<const Finger> frame,
                                                               double time, std::uint32_t wanted) {
     if (over_) {
         return std::nullopt;
     }
-    // The same set, too late to swipe or with its first finger not yet far enough from its
-    // start to swipe in any direction: nothing to measure.
-    if (isTheSet(frame)) {
-        if (late_) {
-            return std::nullopt;
-        }
-        const ContactPoint& first = starts_[0];
-        const Finger* now = findFinger(frame, first.id);
-        if (std::abs(now->x - first.x) < swipeDistance &&
-            std::abs(now->y - first.y) < swipeDistance) {
-            return std::nullopt;
-        }
+    // More fingers than any swipe has: no set, until some lift.
+    if (frame.size() > starts_.size()) {
+        started_ = 0;
+        return std::nullopt;
+    }
+    if (!isTheSet(frame)) {
+        // A finger landed or lifted (or both, between two frames): a new set.
+        startFrom(frame, time);
+        return std::nullopt;
+    }
+    // Too late to swipe, or the first finger not yet far enough from its start to swipe in any
+    // direction: nothing to measure.
+    if (late_) {
+        return std::nullopt;
+    }
+    const ContactPoint& first = starts_[0];
+    const Finger* now = findFinger(frame, first.id);
+    if (std::abs(now->x - first.x) < swipeDistance && std::abs(now->y - first.y) < swipeDistance) {
+        return std::nullopt;
     }
     return measure(frame, time, wanted);
 }

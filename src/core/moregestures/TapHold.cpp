@@ -2,12 +2,6 @@
 
 namespace tactora {
 
-std::optional<TapHold::Change> TapHold::touchEnded(double time, bool tapped) {
-    const std::optional<Change> ended = leave(tapped ? Phase::armed : Phase::idle);
-    tapEnded_ = time;
-    return ended;
-}
-
 std::optional<TapHold::Change> TapHold::physicalClick() {
     switch (phase_) {
         case Phase::idle:
@@ -26,12 +20,6 @@ std::optional<TapHold::Change> TapHold::physicalClick() {
 
 std::optional<TapHold::Change> TapHold::cancel() {
     return leave(Phase::idle);
-}
-
-std::optional<TapHold::Change> TapHold::leave(Phase next) {
-    const bool held = phase_ == Phase::holding;
-    phase_ = next;
-    return held ? std::optional<Change>(Change::ended) : std::nullopt;
 }
 
 }  // namespace tactora

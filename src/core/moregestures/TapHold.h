@@ -53,7 +53,8 @@ class TapHold {
     double landedAt_ = 0;
 };
 
-// The per-frame step is defined here so that it is inlined into the frame handler.
+// The per-frame step and the end of a touch are defined here so that they are inlined into the
+// frame handler.
 
 inline std::optional<TapHold::Change> TapHold::update(std::span<const Finger> frame, double time,
                                                       bool moved) {
@@ -88,6 +89,18 @@ inline std::optional<TapHold::Change> TapHold::update(std::span<const Finger> fr
             return std::nullopt;
     }
     return std::nullopt;
+}
+
+inline std::optional<TapHold::Change> TapHold::touchEnded(double time, bool tapped) {
+    const std::optional<Change> ended = leave(tapped ? Phase::armed : Phase::idle);
+    tapEnded_ = time;
+    return ended;
+}
+
+inline std::optional<TapHold::Change> TapHold::leave(Phase next) {
+    const bool held = phase_ == Phase::holding;
+    phase_ = next;
+    return held ? std::optional<Change>(Change::ended) : std::nullopt;
 }
 
 }  // namespace tactora

@@ -33,8 +33,9 @@ class TipTapRecogniser {
     std::optional<MoreGestureSlot> update(std::span<const Finger> frame, double time, bool moved);
     // The mouse's button went down during the touch.
     void physicalClick() { phase_ = Phase::over; }
-    // The touch ended, or everything is dropped: the next frame starts afresh.
-    void reset() { *this = TipTapRecogniser(); }
+    // The touch ended, or everything is dropped: the next frame starts afresh. Waiting, the
+    // recogniser sets every point and time before it reads them, so only the phase goes back.
+    void reset() { phase_ = Phase::waiting; }
 
   private:
     enum class Phase : std::uint8_t {
