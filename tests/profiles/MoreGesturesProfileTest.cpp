@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
@@ -166,6 +167,93 @@ TEST(MoreGesturesJson, MalformedValuesTurnOnlyThemselvesOff) {
     EXPECT_EQ(repaired.moreGestures.action(MoreGestureSlot::tapTop), action::defaultAction);
 }
 
+TEST(MoreGestureMap, FurtherActionsAreTheSlotsActionAndValue) {
+    MoreGestureMap map;
+    map.extras[at(MoreGestureSlot::swipe2Up)] = SlotExtra{ExtraAction::openAddress, "https://a.b"};
+    EXPECT_TRUE(map.isMapped(MoreGestureSlot::swipe2Up));
+    EXPECT_EQ(map.action(MoreGestureSlot::swipe2Up), action::index(ExtraAction::openAddress));
+    EXPECT_EQ(map.value(MoreGestureSlot::swipe2Up), "https://a.b");
+    EXPECT_EQ(map.value(MoreGestureSlot::swipe2Down), "");
+    EXPECT_FALSE(map.isDefault());
+}
+
+TEST(MoreGestureMap, SanitizeRepairsFurtherActionsAsTheEightsAreRepaired) {
+    MoreGestureMap map;
+    map.extras[at(MoreGestureSlot::tapLeft)] = SlotExtra{ExtraAction::mute, "left over"};
+    map.extras[at(MoreGestureSlot::tapRight)] = SlotExtra{ExtraAction::openFile, ""};
+    map.actions[at(MoreGestureSlot::tapTop)] = action::copy;
+    map.extras[at(MoreGestureSlot::tapTop)] = SlotExtra{ExtraAction::playPause, ""};
+    map.actions[at(MoreGestureSlot::tapHold)] = 99;
+    map.extras[at(MoreGestureSlot::tapHold)] = SlotExtra{ExtraAction::commandClick, ""};
+    map.sanitize();
+    EXPECT_EQ(map.extra(MoreGestureSlot::tapLeft), (SlotExtra{ExtraAction::mute, ""}));
+    EXPECT_EQ(map.extra(MoreGestureSlot::tapRight), std::nullopt);
+    EXPECT_FALSE(map.isMapped(MoreGestureSlot::tapRight));
+    // Another action where an older copy looks wins over the further action, in both copies.
+    EXPECT_EQ(map.extra(MoreGestureSlot::tapTop), std::nullopt);
+    EXPECT_EQ(map.action(MoreGestureSlot::tapTop), action::copy);
+    // An action that was out of the catalogue fell back to the default first.
+    EXPECT_EQ(map.action(MoreGestureSlot::tapHold), action::index(ExtraAction::commandClick));
+}
+
+TEST(MoreGesturesJson, FurtherActionsAreWrittenBesideTheDefaultAndReadBack) {
+    WorkProfile profile("Media");
+    profile.moreGestures.extras[at(MoreGestureSlot::swipe1Up)] =
+        SlotExtra{ExtraAction::volumeUp, ""};
+    profile.moreGestures.extras[at(MoreGestureSlot::tipTapLeft)] =
+        SlotExtra{ExtraAction::openApplication, "com.apple.Music"};
+    profile.moreGestures.shortcuts[at(MoreGestureSlot::tipTapLeft)] = commandB;
+    profile.sanitize();
+    const std::string json = *encodeProfiles({profile});
+    EXPECT_NE(json.find(R"("tipTap.left":{"action":0,"shortcut":{"keyCode":11,"flags":1048576,)"
+                        R"("label":"⌘B"},"extra":{"action":"openApplication",)"
+                        R"("value":"com.apple.Music"}})"),
+              std::string::npos)
+        << json;
+    EXPECT_NE(json.find(R"("swipe.1.up":{"action":0,"extra":{"action":"volumeUp"}})"),
+              std::string::npos)
+        << json;
+    auto decoded = decodeProfiles(json);
+    ASSERT_TRUE(decoded);
+    decoded->at(0).sanitize();
+    EXPECT_EQ(decoded->at(0), profile);
+}
+
+// A reader that knows "moreGestures" but not "extra" sees the default action there: the gesture
+// stays off, and nothing else happens in its place.
+TEST(MoreGesturesJson, AReaderWithoutFurtherActionsLeavesTheirSlotsOff) {
+    WorkProfile profile("Media");
+    profile.moreGestures.extras[at(MoreGestureSlot::swipe3Left)] =
+        SlotExtra{ExtraAction::spaceLeft, ""};
+    profile.moreGestures.actions[at(MoreGestureSlot::swipe3Right)] = action::forward;
+    nlohmann::json json = nlohmann::json::parse(*encodeProfiles({profile}));
+    for (auto& [name, slot] : json[0]["moreGestures"]["slots"].items()) {
+        slot.erase("extra");
+    }
+    auto decoded = decodeProfiles(json.dump());
+    ASSERT_TRUE(decoded);
+    const MoreGestureMap& older = decoded->at(0).moreGestures;
+    EXPECT_FALSE(older.isMapped(MoreGestureSlot::swipe3Left));
+    EXPECT_EQ(older.action(MoreGestureSlot::swipe3Right), action::forward);
+}
+
+TEST(MoreGesturesJson, MalformedFurtherActionsTurnOnlyThemselvesOff) {
+    MoreGestureMap map =
+        decodedMore(R"({"slots":{"tap.left":{"action":0,"extra":{"action":"teleport"}},)"
+                    R"("tap.right":{"action":0,"extra":{"action":"openFile","value":7}},)"
+                    R"("tap.top":{"action":0,"extra":"mute"},)"
+                    R"("tipTap.left":{"action":0,"extra":{"action":"openFile"}},)"
+                    R"("tipTap.right":{"action":5,"extra":{"action":"mute"}},)"
+                    R"("tapHold":{"action":0,"extra":{"action":"shiftClick"}}}})");
+    map.sanitize();
+    for (const MoreGestureSlot off : {MoreGestureSlot::tapLeft, MoreGestureSlot::tapRight,
+                                      MoreGestureSlot::tapTop, MoreGestureSlot::tipTapLeft}) {
+        EXPECT_FALSE(map.isMapped(off)) << moreslot::name(off);
+    }
+    EXPECT_EQ(map.action(MoreGestureSlot::tipTapRight), action::copy);
+    EXPECT_EQ(map.action(MoreGestureSlot::tapHold), action::index(ExtraAction::shiftClick));
+}
+
 TEST(MoreGesturesJson, TopBandMayBeWrittenAsAnInteger) {
     MoreGestureMap map = decodedMore(R"({"slots":{},"topBand":1})");
     EXPECT_EQ(map.topBand, 1.0);
@@ -202,8 +290,43 @@ TEST_F(MoreGesturesStoreTest, InvalidValuesChangeNothing) {
     EXPECT_EQ(store.current().moreGestures.topBand, MoreGestureMap::largestTopBand);
 }
 
+TEST_F(MoreGesturesStoreTest, FurtherActionsAreSetSavedAndReloaded) {
+    store.setMoreExtra({ExtraAction::runShortcut, "Lights"}, MoreGestureSlot::swipe2Right);
+    store.setMoreExtra({ExtraAction::mute, "ignored"}, MoreGestureSlot::tapHold);
+    const MoreGestureMap& more = store.current().moreGestures;
+    EXPECT_EQ(more.action(MoreGestureSlot::swipe2Right), action::index(ExtraAction::runShortcut));
+    EXPECT_EQ(more.value(MoreGestureSlot::swipe2Right), "Lights");
+    EXPECT_EQ(more.extra(MoreGestureSlot::tapHold), (SlotExtra{ExtraAction::mute, ""}));
+    EXPECT_EQ(reloaded(), more);
+}
+
+TEST_F(MoreGesturesStoreTest, AnActionOrShortcutTakesTheFurtherActionsPlace) {
+    store.setMoreShortcut(commandB, MoreGestureSlot::tapLeft);
+    store.setMoreExtra({ExtraAction::playPause, ""}, MoreGestureSlot::tapLeft);
+    EXPECT_EQ(store.current().moreGestures.action(MoreGestureSlot::tapLeft),
+              action::index(ExtraAction::playPause));
+    // The shortcut stays, as in the gesture rows, for when the slot is made custom again.
+    EXPECT_EQ(store.current().moreGestures.shortcut(MoreGestureSlot::tapLeft), commandB);
+    store.setMoreAction(action::copy, MoreGestureSlot::tapLeft);
+    EXPECT_EQ(store.current().moreGestures.action(MoreGestureSlot::tapLeft), action::copy);
+    EXPECT_EQ(store.current().moreGestures.extra(MoreGestureSlot::tapLeft), std::nullopt);
+    store.setMoreExtra({ExtraAction::playPause, ""}, MoreGestureSlot::tapRight);
+    store.setMoreShortcut(commandB, MoreGestureSlot::tapRight);
+    EXPECT_EQ(store.current().moreGestures.action(MoreGestureSlot::tapRight), action::custom);
+    EXPECT_EQ(reloaded(), store.current().moreGestures);
+}
+
+TEST_F(MoreGesturesStoreTest, AFurtherActionWithoutItsValueChangesNothing) {
+    store.setMoreAction(action::copy, MoreGestureSlot::tapTop);
+    store.setMoreExtra({ExtraAction::openApplication, ""}, MoreGestureSlot::tapTop);
+    store.setMoreExtra({ExtraAction::mute, ""}, static_cast<MoreGestureSlot>(moreslot::count));
+    EXPECT_EQ(store.current().moreGestures.action(MoreGestureSlot::tapTop), action::copy);
+    EXPECT_EQ(reloaded(), store.current().moreGestures);
+}
+
 TEST_F(MoreGesturesStoreTest, DuplicateCopiesThemAndNewDoesNot) {
     store.setMoreAction(action::copy, MoreGestureSlot::tipTapLeft);
+    store.setMoreExtra({ExtraAction::openFile, "/Users/a/b.txt"}, MoreGestureSlot::swipe1Down);
     const MoreGestureMap more = store.current().moreGestures;
     store.add("Copy", true);
     EXPECT_EQ(store.current().moreGestures, more);

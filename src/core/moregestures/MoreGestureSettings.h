@@ -16,7 +16,7 @@ struct MoreGestureSettings {
     static MoreGestureSettings of(const MoreGestureMap& map) {
         MoreGestureSettings settings;
         for (std::size_t i = 0; i < moreslot::count; ++i) {
-            if (map.actions[i] != action::defaultAction) {
+            if (map.isMapped(static_cast<MoreGestureSlot>(i))) {
                 settings.mapped |= std::uint32_t{1} << i;
             }
         }

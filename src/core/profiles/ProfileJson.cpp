@@ -55,13 +55,18 @@ std::vector<ActionIndex> storedActions(const WorkProfile& profile) {
 OrderedJson encodeMoreGestures(const MoreGestureMap& more) {
     OrderedJson slots = OrderedJson::object();
     for (std::size_t i = 0; i < moreslot::count; ++i) {
-        if (more.actions[i] == action::defaultAction && !more.shortcuts[i]) {
+        if (more.actions[i] == action::defaultAction && !more.shortcuts[i] && !more.extras[i]) {
             continue;
         }
         OrderedJson slot = OrderedJson::object();
-        slot["action"] = more.actions[i];
+        // As with the eight, a slot with a further action holds the default where a reader that
+        // does not know "extra" looks, so that such a reader leaves the gesture off.
+        slot["action"] = more.extras[i] ? action::defaultAction : more.actions[i];
         if (more.shortcuts[i]) {
             slot["shortcut"] = encodeShortcut(more.shortcuts[i]);
+        }
+        if (more.extras[i]) {
+            slot["extra"] = encodeExtra(more.extras[i]);
         }
         slots[std::string(moreslot::names[i])] = std::move(slot);
     }
@@ -256,6 +261,9 @@ void decodeMoreGestureSlot(const Json& entry, MoreGestureSlot slot, MoreGestureM
     }
     if (const Json* shortcut = member(entry, "shortcut"); shortcut != nullptr) {
         more.shortcuts[i] = decodeShortcut(*shortcut);
+    }
+    if (const Json* extra = member(entry, "extra"); extra != nullptr) {
+        more.extras[i] = decodeExtra(*extra);
     }
 }
 

@@ -16,7 +16,8 @@ namespace tactora {
 // "extraActions" key (one element per slot: null, or the action's stored name and its "value")
 // only for a profile with extra actions; their slots hold 0 in "actions". The optional
 // "moreGestures" key is written only for a profile that maps one of the further gestures or
-// changes the top band's depth.
+// changes the top band's depth; a slot of it with a further action holds 0 in its "action" and
+// the further action, as in "extraActions", in its "extra".
 // Nothing when a profile cannot be written (a name or label that is not valid UTF-8).
 std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profiles);
 
@@ -26,8 +27,9 @@ std::optional<std::string> encodeProfiles(const std::vector<WorkProfile>& profil
 // are the optional "apps" key: a value that is not an array of non-empty strings leaves that
 // profile without applications instead of failing the list; the optional "extraActions" key,
 // whose elements that are not an extra action this version knows leave their slot without one;
-// and "moreGestures": a malformed slot stays off, an unknown slot name is ignored, and a value
-// that is not an object leaves all of them off.
+// and "moreGestures": a malformed slot stays off (a malformed "extra" leaves the slot on its
+// "action"), an unknown slot name is ignored, and a value that is not an object leaves all of
+// them off.
 //
 // Strict about the text: it must be one JSON array in valid UTF-8 (a leading byte order mark
 // is skipped), without comments or trailing data. Integer fields take integers only: a number

@@ -207,6 +207,20 @@ void ProfileStore::setMoreAction(ActionIndex action, MoreGestureSlot slot) {
         return;
     }
     profile->moreGestures.actions[moreslot::index(slot)] = action;
+    profile->moreGestures.extras[moreslot::index(slot)].reset();
+    save();
+}
+
+void ProfileStore::setMoreExtra(const SlotExtra& extra, MoreGestureSlot slot) {
+    const bool needsValue = catalogue::info(extra.action).value != ActionValueKind::none;
+    WorkProfile* profile = active();
+    if (profile == nullptr || (needsValue && extra.value.empty()) ||
+        moreslot::index(slot) >= moreslot::count) {
+        return;
+    }
+    profile->moreGestures.actions[moreslot::index(slot)] = action::defaultAction;
+    profile->moreGestures.extras[moreslot::index(slot)] = extra;
+    profile->moreGestures.sanitize();
     save();
 }
 
@@ -217,6 +231,7 @@ void ProfileStore::setMoreShortcut(const SavedShortcut& shortcut, MoreGestureSlo
     }
     profile->moreGestures.shortcuts[moreslot::index(slot)] = shortcut;
     profile->moreGestures.actions[moreslot::index(slot)] = action::custom;
+    profile->moreGestures.extras[moreslot::index(slot)].reset();
     save();
 }
 

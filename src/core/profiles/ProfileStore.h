@@ -58,6 +58,7 @@ class ProfileStore {
     void setShortcut(const SavedShortcut& shortcut, std::int64_t index);
     // The same for a slot of the further gestures of the active profile.
     void setMoreAction(ActionIndex action, MoreGestureSlot slot);
+    void setMoreExtra(const SlotExtra& extra, MoreGestureSlot slot);
     void setMoreShortcut(const SavedShortcut& shortcut, MoreGestureSlot slot);
     // The depth of the active profile's top band, brought into its range.
     void setTopBand(double depth);
