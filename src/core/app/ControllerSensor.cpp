@@ -118,7 +118,7 @@ void Controller::receive(std::span<const Finger> fingers,
             {.reason = *step.dropped, .fingers = step.droppedFingers, .time = now});
     }
     if (act && act->kind == GestureAct::Kind::perform) {
-        perform(act->action, act->shortcut, ActionOrigin::moreGesture, act->fingers);
+        perform(act->action, act->shortcut, ActionOrigin::moreGesture, act->fingers, act->value);
     }
     if (!step.tap) {
         return;
@@ -137,7 +137,7 @@ void Controller::receive(std::span<const Finger> fingers,
     scheduleTap({.fingers = count,
                  .action = action,
                  .shortcut = instead ? act->shortcut : shortcutAt(slot),
-                 .value = instead ? std::string() : valueAt(slot),
+                 .value = instead ? act->value : valueAt(slot),
                  .context = dispatchContext(),
                  .began = step.began,
                  .recognisedAt = now});

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 
 #include "core/actions/ActionIndex.h"
 #include "core/actions/SavedShortcut.h"
@@ -20,6 +21,7 @@ struct GestureAct {
     Kind kind = Kind::perform;
     ActionIndex action = action::defaultAction;
     std::optional<SavedShortcut> shortcut;
+    std::string value;  // what a further action opens or runs; empty for every other action
     std::int64_t fingers = 0;
 };
 

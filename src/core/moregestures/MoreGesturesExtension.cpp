@@ -74,8 +74,9 @@ std::optional<GestureAct> MoreGesturesExtension::carryOut(std::optional<MoreGest
     if (watcher_ != nullptr) {
         watcher_->recognised(event->slot);
     }
-    // A button is held for as long as the finger rests; any other action runs once.
-    if (event->kind == MoreGestureEvent::Kind::holdBegan) {
+    // A button is held for as long as the finger rests; any other action, the further actions'
+    // modifier clicks among them, runs once.
+    if (event->kind == MoreGestureEvent::Kind::holdBegan && !action::isExtra(action)) {
         if (const std::optional<MouseButton> button = catalogue::pressTarget(action)) {
             press(*button);
             return std::nullopt;
@@ -86,6 +87,7 @@ std::optional<GestureAct> MoreGesturesExtension::carryOut(std::optional<MoreGest
     return GestureAct{.kind = kind,
                       .action = action,
                       .shortcut = map->shortcut(event->slot),
+                      .value = map->value(event->slot),
                       .fingers = fingersOf(event->slot)};
 }
 

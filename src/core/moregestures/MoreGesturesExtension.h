@@ -26,7 +26,9 @@ struct MoreGestureServices {
 // profile's mapping and to let go of a held button whenever gestures stop. A region tap makes
 // the one-finger tap carry out its region's action (with the tap's wait and veto); a tip tap or
 // a swipe carries out its action at once, through the controller; tap and hold presses the
-// mapped button itself, turns the pointer's moves into its drags, and releases it exactly once.
+// mapped button itself, turns the pointer's moves into its drags, and releases it exactly once,
+// and carries out any other action (a further action among them) once, as it begins. Further
+// actions go to the controller with their values.
 // Main thread only.
 class MoreGesturesExtension final : public GestureExtension, public ControllerObserver {
   public:
