@@ -234,7 +234,7 @@ TEST_F(MoreSheetTest, AnUnknownSlotOrActionStoresNothingAndShowsTheSheetAsItWas)
 
     sheet().changed(static_cast<std::int64_t>(moreslot::count), action::copy);
     sheet().changed(-1, action::copy);
-    sheet().changed(tag(MoreGestureSlot::tapLeft), action::count);
+    sheet().changed(tag(MoreGestureSlot::tapLeft), action::allCount);
     sheet().changed(tag(MoreGestureSlot::tapLeft), -1);
     sheet().recordShortcut(static_cast<std::int64_t>(moreslot::count));
 

@@ -86,7 +86,7 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
       advanced_(*guard_, services.defaults,
                 views.advanced != nullptr ? *views.advanced : noAdvancedSheet_),
       moreSheet_(*controller_, services.dialogs,
-                 views.moreSheet != nullptr ? *views.moreSheet : noMoreSheet_) {
+                 views.moreSheet != nullptr ? *views.moreSheet : noMoreSheet_, extras_.get()) {
     // The recorder comes first, so that it writes what comes in before the others act on it.
     controller_->addObserver(recorder_);
     // Next, so that gestures it switches on or off are what the others see.
@@ -105,16 +105,22 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
     moreSheet_.setMappingChanged(
         [this, &clock = services.clock] { more_->refreshed(clock.uptime()); });
     if (extras_) {
-        // A list of Shortcuts that arrives later may change what the gesture rows show.
-        extras_->setRowsChanged([weak = std::weak_ptr<Controller>(controller_)] {
+        // A list of Shortcuts that arrives later may change what the gesture rows and the
+        // sheet's rows show.
+        extras_->setRowsChanged([weak = std::weak_ptr<Controller>(controller_), this] {
             if (const auto controller = weak.lock()) {
                 controller->refreshProfileUI();
+                moreSheet_.valuesChanged();
             }
         });
     }
 }
 
 Tactora::~Tactora() {
+    if (extras_) {
+        // The further actions may outlive the program's parts through the controller.
+        extras_->setRowsChanged({});
+    }
     controller_->removeObserver(moreSheet_);
     controller_->removeObserver(advanced_);
     controller_->removeObserver(*more_);

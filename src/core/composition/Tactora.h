@@ -45,7 +45,8 @@ struct PartViews {
 //                controller consults through TouchJudge
 //   moregestures/ the gestures beyond the eight, which the controller feeds through
 //                GestureExtension
-//   moresheet/   the More Gestures sheet, which edits their actions, shortcuts and top band
+//   moresheet/   the More Gestures sheet, which edits their actions (the further ones through
+//                ExtraActionPerformer, as the gesture rows do), shortcuts and top band
 //   advanced/    the Advanced sheet, which edits those options and limits, and its try area
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like

@@ -1,14 +1,16 @@
 #include "core/moresheet/MoreSheet.h"
 
 #include <cmath>
+#include <string>
 
 #include "core/moresheet/MoreSheetRows.h"
 #include "core/shortcuts/ShortcutRecorder.h"
 
 namespace tactora {
 
-MoreSheet::MoreSheet(ProfileSwitcher& switcher, Dialogs& dialogs, MoreSheetView& view)
-    : switcher_(switcher), dialogs_(dialogs), view_(view) {}
+MoreSheet::MoreSheet(ProfileSwitcher& switcher, Dialogs& dialogs, MoreSheetView& view,
+                     ExtraActionPerformer* extras)
+    : switcher_(switcher), dialogs_(dialogs), view_(view), extras_(extras) {}
 
 void MoreSheet::open() {
     show();
@@ -21,7 +23,7 @@ void MoreSheet::closed() {
 void MoreSheet::show() {
     const WorkProfile& profile = switcher_.profiles().current();
     shownProfile_ = profile.id;
-    view_.showMoreSheet(moresheet::moreSheetContent(profile.moreGestures));
+    view_.showMoreSheet(moresheet::moreSheetContent(profile.moreGestures, extras_));
 }
 
 void MoreSheet::showIfOpen() {
@@ -40,6 +42,10 @@ std::optional<MoreGestureSlot> MoreSheet::slotOf(std::int64_t tag) {
 void MoreSheet::changed(std::int64_t slot, ActionIndex action) {
     const std::optional<MoreGestureSlot> gesture = slotOf(slot);
     ProfileStore& store = switcher_.profiles();
+    if (const std::optional<ExtraAction> extra = action::extra(action); gesture && extra) {
+        choose(*gesture, *extra);
+        return;
+    }
     if (gesture && action::isValid(action)) {
         const MoreGestureMap& map = store.current().moreGestures;
         if (action == action::custom && !map.shortcut(*gesture)) {
@@ -57,9 +63,47 @@ void MoreSheet::changed(std::int64_t slot, ActionIndex action) {
 }
 
 void MoreSheet::recordShortcut(std::int64_t slot) {
-    if (const std::optional<MoreGestureSlot> gesture = slotOf(slot)) {
-        record(*gesture);
+    const std::optional<MoreGestureSlot> gesture = slotOf(slot);
+    if (!gesture) {
+        return;
     }
+    if (const std::optional<SlotExtra>& extra =
+            switcher_.profiles().current().moreGestures.extra(*gesture)) {
+        choose(*gesture, extra->action);
+        return;
+    }
+    record(*gesture);
+}
+
+void MoreSheet::choose(MoreGestureSlot slot, ExtraAction extra) {
+    if (extras_ == nullptr) {
+        showIfOpen();
+        return;
+    }
+    // Nothing half seen may complete after the panel, as with the recording.
+    switcher_.dropPendingWork();
+    const MoreGestureMap& map = switcher_.profiles().current().moreGestures;
+    // Choosing the slot's own action again changes its value, starting from the one it has.
+    const std::string current = map.action(slot) == action::index(extra) ? map.value(slot) : "";
+    // A value may come after the list of Shortcuts arrived; by then it belongs to the same
+    // profile only.
+    extras_->choose(extra, current,
+                    [this, alive = std::weak_ptr<int>(lifetime_), slot, extra,
+                     profile = switcher_.profiles().activeID()](const std::string& value) {
+                        if (alive.expired() || switcher_.profiles().activeID() != profile) {
+                            return;
+                        }
+                        switcher_.dropPendingWork();
+                        switcher_.profiles().setMoreExtra({extra, value}, slot);
+                        stored();
+                        showIfOpen();
+                    });
+    // Also puts the pop-up back on the stored action when the choice was cancelled.
+    showIfOpen();
+}
+
+void MoreSheet::valuesChanged() {
+    showIfOpen();
 }
 
 void MoreSheet::record(MoreGestureSlot slot) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "core/actions/ExtraActionMenu.h"
 #include "core/app/GestureRow.h"
 #include "core/app/Globals.h"
 #include "core/localization/Localizer.h"
@@ -18,51 +19,67 @@ namespace {
 constexpr std::array<const char*, 4> directionKeys = {"more.swipe.up", "more.swipe.down",
                                                       "more.swipe.left", "more.swipe.right"};
 
-MoreSheetRow row(const MoreGestureMap& map, MoreGestureSlot slot, std::string label) {
+// What a row builds from besides its slot: the sheet's mapping, what titles the buttons of the
+// further actions, and their groups as every pop-up lists them.
+struct RowSource {
+    const MoreGestureMap& map;
+    ExtraActionPerformer* extras;
+    std::vector<std::vector<ActionMenuEntry>> extraGroups;
+};
+
+// The record button of `slot`, as the gesture rows show theirs.
+RecordButtonState recordButton(const RowSource& source, MoreGestureSlot slot) {
+    const std::optional<SlotExtra>& extra = source.map.extra(slot);
+    if (extra && source.extras != nullptr) {
+        return source.extras->rowButton(extra->action, extra->value);
+    }
+    const std::optional<SavedShortcut>& shortcut = source.map.shortcut(slot);
+    return {
+        .enabled = source.map.action(slot) == action::custom,
+        .title = shortcut ? shortcut->label : L("record.button"),
+        .toolTip = L("record.button"),
+    };
+}
+
+MoreSheetRow row(const RowSource& source, MoreGestureSlot slot, std::string label) {
     const std::vector<std::string>& names = choices();
     std::vector<ActionMenuEntry> items;
     for (const ActionIndex action : offeredActions(slot)) {
         const auto index = static_cast<std::size_t>(action);
         items.push_back({index < names.size() ? names[index] : std::string(), action});
     }
-    const ActionIndex action = map.action(slot);
-    const std::optional<SavedShortcut>& shortcut = map.shortcut(slot);
     return {
         .group = std::nullopt,
         .label = std::move(label),
         .slot = static_cast<std::int64_t>(moreslot::index(slot)),
         .actions = std::move(items),
-        .action = action,
-        .record =
-            {
-                .enabled = action == action::custom,
-                .title = shortcut ? shortcut->label : L("record.button"),
-                .toolTip = L("record.button"),
-            },
+        .extraActionGroups = source.extraGroups,
+        .action = source.map.action(slot),
+        .record = recordButton(source, slot),
     };
 }
 
-MoreSheetSection regionSection(const MoreGestureMap& map) {
+MoreSheetSection regionSection(const RowSource& source) {
     return {.heading = L("more.section.region"),
-            .rows = {row(map, MoreGestureSlot::tapLeft, L("more.tap.left")),
-                     row(map, MoreGestureSlot::tapRight, L("more.tap.right")),
-                     row(map, MoreGestureSlot::tapTop, L("more.tap.top"))},
+            .rows = {row(source, MoreGestureSlot::tapLeft, L("more.tap.left")),
+                     row(source, MoreGestureSlot::tapRight, L("more.tap.right")),
+                     row(source, MoreGestureSlot::tapTop, L("more.tap.top"))},
             .showsTopBand = true};
 }
 
-MoreSheetSection tipSection(const MoreGestureMap& map) {
+MoreSheetSection tipSection(const RowSource& source) {
     return {.heading = L("more.section.tip"),
-            .rows = {row(map, MoreGestureSlot::tipTapLeft, L("more.tip.left")),
-                     row(map, MoreGestureSlot::tipTapRight, L("more.tip.right"))}};
+            .rows = {row(source, MoreGestureSlot::tipTapLeft, L("more.tip.left")),
+                     row(source, MoreGestureSlot::tipTapRight, L("more.tip.right"))}};
 }
 
-MoreSheetSection swipeSection(const MoreGestureMap& map) {
+MoreSheetSection swipeSection(const RowSource& source) {
     MoreSheetSection section{.heading = L("more.section.swipe"), .rows = {}};
     for (std::int64_t fingers = 1; fingers <= moreslot::maxSwipeFingers; ++fingers) {
         for (std::size_t direction = 0; direction < directionKeys.size(); ++direction) {
             const MoreGestureSlot slot =
                 moreslot::forSwipe(fingers, static_cast<SwipeDirection>(direction));
-            MoreSheetRow swipe = row(map, slot, L(directionKeys.at(direction)));
+            MoreSheetRow swipe = row(source, slot, L(directionKeys.at(direction)));
             if (direction == 0) {
                 swipe.group = fingerLabel(fingers);
             }
@@ -72,9 +89,9 @@ MoreSheetSection swipeSection(const MoreGestureMap& map) {
     return section;
 }
 
-MoreSheetSection holdSection(const MoreGestureMap& map) {
+MoreSheetSection holdSection(const RowSource& source) {
     return {.heading = L("more.section.hold"),
-            .rows = {row(map, MoreGestureSlot::tapHold, L("more.hold"))}};
+            .rows = {row(source, MoreGestureSlot::tapHold, L("more.hold"))}};
 }
 
 }  // namespace
@@ -93,11 +110,13 @@ std::vector<ActionIndex> offeredActions(MoreGestureSlot slot) {
     return actions;
 }
 
-MoreSheetContent moreSheetContent(const MoreGestureMap& map) {
+MoreSheetContent moreSheetContent(const MoreGestureMap& map, ExtraActionPerformer* extras) {
+    const RowSource source{.map = map, .extras = extras, .extraGroups = extraActionMenu()};
     return {
         .title = L("more.title"),
         .intro = L("more.intro"),
-        .sections = {regionSection(map), tipSection(map), swipeSection(map), holdSection(map)},
+        .sections = {regionSection(source), tipSection(source), swipeSection(source),
+                     holdSection(source)},
         .topBand =
             {
                 .label = L("more.top.depth"),

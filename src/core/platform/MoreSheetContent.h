@@ -16,8 +16,11 @@ struct MoreSheetRow {
     std::optional<std::string> group;
     std::string label;
     std::int64_t slot = 0;  // the gesture's slot, also its controls' tag
-    // The pop-up's items, top to bottom, each tagged with its action.
+    // The pop-up's items, top to bottom, each tagged with its action: first the fifteen...
     std::vector<ActionMenuEntry> actions;
+    // ...then the further actions, one list per group, each after a separator, as in the
+    // gesture rows' pop-ups.
+    std::vector<std::vector<ActionMenuEntry>> extraActionGroups;
     std::int64_t action = 0;  // the item selected
     RecordButtonState record;
 
