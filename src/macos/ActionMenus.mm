@@ -12,4 +12,13 @@ NSMenuItem* makeActionItem(const std::string& title, NSInteger action) {
     return item;
 }
 
+void addActionGroups(NSMenu* menu, const std::vector<std::vector<ActionMenuEntry>>& groups) {
+    for (const std::vector<ActionMenuEntry>& group : groups) {
+        [menu addItem:NSMenuItem.separatorItem];
+        for (const ActionMenuEntry& entry : group) {
+            [menu addItem:makeActionItem(entry.title, static_cast<NSInteger>(entry.action))];
+        }
+    }
+}
+
 }  // namespace tactora::macos

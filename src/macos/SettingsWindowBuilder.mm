@@ -316,12 +316,7 @@ NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,
     for (const std::string& name : texts.actionNames) {
         [menu.menu addItem:makeActionItem(name, action++)];
     }
-    for (const std::vector<ActionMenuEntry>& group : texts.extraActionGroups) {
-        [menu.menu addItem:[NSMenuItem separatorItem]];
-        for (const ActionMenuEntry& entry : group) {
-            [menu.menu addItem:makeActionItem(entry.title, static_cast<NSInteger>(entry.action))];
-        }
-    }
+    addActionGroups(menu.menu, texts.extraActionGroups);
     menu.tag = slot;
     menu.target = target_;
     menu.action = @selector(changed:);

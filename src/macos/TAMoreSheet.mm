@@ -159,6 +159,7 @@ void letGiveWay(NSButton* button) {
         [popUp.menu addItem:tactora::macos::makeActionItem(entry.title,
                                                            static_cast<NSInteger>(entry.action))];
     }
+    tactora::macos::addActionGroups(popUp.menu, row.extraActionGroups);
     popUp.tag = slot;
     popUp.target = self;
     popUp.action = @selector(popUpChanged:);

@@ -1,6 +1,7 @@
 // The More Gestures sheet as the shell builds it, in every language the bundle ships: within the
 // settings window's width and height, every control inside the sheet, each pop-up showing and
-// telling its target its slot's action, and Escape closing it as Done does.
+// telling its target its slot's action (the further actions among them, grouped as in the gesture
+// rows), and Escape closing it as Done does.
 #import <AppKit/AppKit.h>
 
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "core/actions/ExtraActionMenu.h"
 #include "core/app/Globals.h"
 #include "core/localization/Localizer.h"
 #include "core/localization/StringsTable.h"
@@ -172,6 +174,70 @@ TEST_P(MoreSheetTest, ShowingAgainShowsTheNewSelectionsAndShortcuts) {
         }
     }
     EXPECT_TRUE(found);
+}
+
+TEST_P(MoreSheetTest, EveryPopUpOffersTheFurtherActionsInTheGestureRowsGroups) {
+    const std::vector<std::vector<ActionMenuEntry>> groups = extraActionMenu();
+    for (std::size_t i = 0; i < moreslot::count; ++i) {
+        NSPopUpButton* popUp = popUpOf(static_cast<MoreGestureSlot>(i));
+        ASSERT_NE(popUp, nil) << i;
+        // The fifteen, then each group after a separator.
+        auto index = static_cast<NSInteger>(action::count);
+        for (const std::vector<ActionMenuEntry>& group : groups) {
+            ASSERT_LT(index, popUp.numberOfItems) << i;
+            EXPECT_TRUE([popUp itemAtIndex:index++].separatorItem) << i;
+            for (const ActionMenuEntry& entry : group) {
+                NSMenuItem* item = [popUp itemAtIndex:index++];
+                EXPECT_EQ(item.tag, entry.action) << i;
+                EXPECT_EQ(macos::toStdString(item.title), entry.title) << i;
+            }
+        }
+        EXPECT_EQ(index, popUp.numberOfItems) << i;
+    }
+}
+
+TEST_P(MoreSheetTest, AFurtherActionChosenInAPopUpIsToldItsTarget) {
+    NSPopUpButton* swipe = popUpOf(MoreGestureSlot::swipe1Up);
+    ASSERT_NE(swipe, nil);
+    const auto mute = static_cast<NSInteger>(action::index(ExtraAction::mute));
+
+    [swipe selectItemWithTag:mute];
+    [swipe sendAction:swipe.action to:swipe.target];
+
+    EXPECT_EQ(target_.changedSlot,
+              static_cast<NSInteger>(moreslot::index(MoreGestureSlot::swipe1Up)));
+    EXPECT_EQ(target_.changedAction, mute);
+}
+
+TEST_P(MoreSheetTest, ASlotWithAFurtherActionShowsItAndItsRowsButton) {
+    MoreGestureMap map;
+    map.extras[moreslot::index(MoreGestureSlot::tapTop)] =
+        SlotExtra{ExtraAction::runShortcut, "Morning Lights"};
+    MoreSheetContent withButton = moresheet::moreSheetContent(map);
+    for (MoreSheetSection& section : withButton.sections) {
+        for (MoreSheetRow& row : section.rows) {
+            if (row.slot == static_cast<std::int64_t>(moreslot::index(MoreGestureSlot::tapTop))) {
+                row.record = {.enabled = false, .title = "Morning Lights", .toolTip = "x"};
+            }
+        }
+    }
+
+    [sheet_ showOnWindow:window_ content:withButton];
+    [content() layoutSubtreeIfNeeded];
+
+    EXPECT_EQ(popUpOf(MoreGestureSlot::tapTop).selectedItem.tag,
+              static_cast<NSInteger>(action::index(ExtraAction::runShortcut)));
+    bool found = false;
+    for (NSButton* button : subviewsOf<NSButton>(content())) {
+        if (button.tag == static_cast<NSInteger>(moreslot::index(MoreGestureSlot::tapTop)) &&
+            ![button isKindOfClass:NSPopUpButton.class]) {
+            found = true;
+            EXPECT_FALSE(button.enabled);
+            EXPECT_TRUE([button.title isEqualToString:@"Morning Lights"]);
+        }
+    }
+    EXPECT_TRUE(found);
+    EXPECT_LE(content().frame.size.width, windowWidth);
 }
 
 TEST_P(MoreSheetTest, EscapeClosesTheSheetAsDoneDoes) {
