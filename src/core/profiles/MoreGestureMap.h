@@ -13,9 +13,8 @@ namespace tactora {
 
 // A profile's assignments for the gestures beyond the eight: one action, one optional shortcut
 // and one optional further action per slot, and the depth of the top band that region taps tell
-// apart. Every slot
-// starts on the default action, which means the gesture is off and the touch does exactly what
-// it did without it. A plain value.
+// apart. Every slot starts on the default action, which means the gesture is off and the touch
+// does exactly what it did without it. A plain value.
 struct MoreGestureMap {
     // The top band's depth, as a share of the surface's length from its front edge.
     static constexpr double defaultTopBand = 0.25;
