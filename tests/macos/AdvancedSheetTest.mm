@@ -27,6 +27,7 @@
 #include "macos/AppBundle.h"
 #include "macos/StringConversion.h"
 #import "macos/TAAdvancedSheet.h"
+#include "macos/ViewTree.h"
 
 @interface TARecordingAdvancedSheetTarget : NSObject <TAAdvancedSheetTarget>
 @property(nonatomic) NSInteger option;
@@ -86,32 +87,6 @@ constexpr AdvancedField allFields[] = {
     AdvancedField::shortestTap, AdvancedField::longestTap, AdvancedField::tolerance,
 };
 
-// The language's table as Foundation reads it, installed for L.
-void installTable(const std::string& language) {
-    NSDictionary* texts = [NSDictionary dictionaryWithContentsOfFile:stringTablePath(language)];
-    StringsTable::Entries entries;
-    for (NSString* key in texts) {
-        if ([texts[key] isKindOfClass:NSString.class]) {
-            entries.emplace(macos::toStdString(key), macos::toStdString(texts[key]));
-        }
-    }
-    setStringTable(std::make_shared<const StringsTable>(std::move(entries)));
-    initializeGlobals();
-}
-
-template <typename View>
-std::vector<View*> subviewsOf(NSView* view) {
-    std::vector<View*> found;
-    for (NSView* subview in view.subviews) {
-        if ([subview isKindOfClass:[View class]]) {
-            found.push_back(static_cast<View*>(subview));
-        }
-        const std::vector<View*> below = subviewsOf<View>(subview);
-        found.insert(found.end(), below.begin(), below.end());
-    }
-    return found;
-}
-
 template <typename View>
 std::vector<View*> shownSubviewsOf(NSView* view) {
     std::vector<View*> shown;
@@ -133,7 +108,7 @@ class UnusedSheetView final : public AdvancedSheetView {
 class AdvancedSheetTest : public ::testing::TestWithParam<std::string> {
   protected:
     void SetUp() override {
-        installTable(GetParam());
+        installStringTable(GetParam());
         // Every option on, so that every field is enabled, and the longest refusal shown.
         for (const AdvancedOption option : allOptions) {
             settings_.setOption(option, true);

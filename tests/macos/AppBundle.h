@@ -16,4 +16,8 @@ std::vector<std::string> shippedLanguages();
 // The path of the bundle's string table for `language`.
 NSString* stringTablePath(const std::string& language);
 
+// Installs the bundle's table for `language`, as Foundation reads it, for L, and the globals that
+// depend on it.
+void installStringTable(const std::string& language);
+
 }  // namespace tactora::testing

@@ -19,6 +19,7 @@
 #include "macos/AppBundle.h"
 #include "macos/StringConversion.h"
 #import "macos/TAMoreSheet.h"
+#include "macos/ViewTree.h"
 
 @interface TARecordingMoreSheetTarget : NSObject <TAMoreSheetTarget>
 @property(nonatomic) NSInteger changedSlot;
@@ -52,35 +53,10 @@ constexpr CGFloat windowWidth = 790;
 constexpr CGFloat windowHeight = 820;
 constexpr CGFloat slack = 1;
 
-void installTable(const std::string& language) {
-    NSDictionary* texts = [NSDictionary dictionaryWithContentsOfFile:stringTablePath(language)];
-    StringsTable::Entries entries;
-    for (NSString* key in texts) {
-        if ([texts[key] isKindOfClass:NSString.class]) {
-            entries.emplace(macos::toStdString(key), macos::toStdString(texts[key]));
-        }
-    }
-    setStringTable(std::make_shared<const StringsTable>(std::move(entries)));
-    initializeGlobals();
-}
-
-template <typename View>
-std::vector<View*> subviewsOf(NSView* view) {
-    std::vector<View*> found;
-    for (NSView* subview in view.subviews) {
-        if ([subview isKindOfClass:[View class]]) {
-            found.push_back(static_cast<View*>(subview));
-        }
-        const std::vector<View*> below = subviewsOf<View>(subview);
-        found.insert(found.end(), below.begin(), below.end());
-    }
-    return found;
-}
-
 class MoreSheetTest : public ::testing::TestWithParam<std::string> {
   protected:
     void SetUp() override {
-        installTable(GetParam());
+        installStringTable(GetParam());
         window_ = [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, windowWidth, windowHeight)
                                               styleMask:NSWindowStyleMaskTitled
                                                 backing:NSBackingStoreBuffered

@@ -25,6 +25,7 @@
 #import "macos/TAApplicationDelegate.h"
 #import "macos/TASettingsControls.h"
 #import "macos/TASurfaceView.h"
+#include "macos/ViewTree.h"
 
 namespace tactora::testing {
 namespace {
@@ -36,19 +37,6 @@ constexpr CGFloat top = 24;
 // Layout rounds to backing pixels.
 constexpr CGFloat slack = 1;
 
-// The language's table as Foundation reads it, installed for L.
-void installTable(const std::string& language) {
-    NSDictionary* texts = [NSDictionary dictionaryWithContentsOfFile:stringTablePath(language)];
-    StringsTable::Entries entries;
-    for (NSString* key in texts) {
-        if ([texts[key] isKindOfClass:NSString.class]) {
-            entries.emplace(macos::toStdString(key), macos::toStdString(texts[key]));
-        }
-    }
-    setStringTable(std::make_shared<const StringsTable>(std::move(entries)));
-    initializeGlobals();
-}
-
 // The longest of the texts the status line shows.
 std::string longestStatus() {
     std::vector<std::string> lines = {L("sensor.missing"), L("error.enable"), L("error.paused"),
@@ -56,20 +44,10 @@ std::string longestStatus() {
     return *std::ranges::max_element(lines, {}, &std::string::size);
 }
 
-std::vector<NSView*> allSubviews(NSView* view) {
-    std::vector<NSView*> found;
-    for (NSView* subview in view.subviews) {
-        found.push_back(subview);
-        const std::vector<NSView*> below = allSubviews(subview);
-        found.insert(found.end(), below.begin(), below.end());
-    }
-    return found;
-}
-
 class SettingsWindowTest : public ::testing::TestWithParam<std::string> {
   protected:
     void SetUp() override {
-        installTable(GetParam());
+        installStringTable(GetParam());
         const SettingsWindowTexts texts = settingsWindowTexts();
         controls_ = [[TASettingsControls alloc] initWithEnableTitle:@(texts.enableSwitch.c_str())];
         // Texts as long as the lines ever get, set before the window is built as at launch.
@@ -129,7 +107,7 @@ TEST_P(SettingsWindowTest, ColumnKeepsItsInsets) {
 }
 
 TEST_P(SettingsWindowTest, NoViewLeavesTheColumnOrTheWindow) {
-    for (NSView* view : allSubviews(column())) {
+    for (NSView* view : subviewsOf<NSView>(column())) {
         const NSRect frame = inContent(view);
         EXPECT_GE(NSMinX(frame), margin - slack) << view.description.UTF8String;
         EXPECT_LE(NSMaxX(frame), width - margin + slack) << view.description.UTF8String;
@@ -139,7 +117,7 @@ TEST_P(SettingsWindowTest, NoViewLeavesTheColumnOrTheWindow) {
 }
 
 TEST_P(SettingsWindowTest, EveryLabelShowsAllOfItsText) {
-    for (NSView* view : allSubviews(column())) {
+    for (NSView* view : subviewsOf<NSView>(column())) {
         if (![view isKindOfClass:NSTextField.class]) {
             continue;
         }
@@ -153,7 +131,7 @@ TEST_P(SettingsWindowTest, EveryLabelShowsAllOfItsText) {
 
 TEST_P(SettingsWindowTest, NoButtonOrPopUpIsCutOff) {
     std::size_t checked = 0;
-    for (NSView* view : allSubviews(column())) {
+    for (NSView* view : subviewsOf<NSView>(column())) {
         if (![view isKindOfClass:NSButton.class] || view.hiddenOrHasHiddenAncestor) {
             continue;
         }
@@ -192,7 +170,7 @@ TEST_P(SettingsWindowTest, TheLiveViewSitsUnderTheGestureTableWithinTheColumn) {
     const NSRect frame = inContent(surface);
     EXPECT_LE(NSMaxY(frame), NSMinY(inContent(controls_.actionMenus[7])));
     EXPECT_GE(NSMinY(frame), -slack);
-    for (NSView* view : allSubviews(column())) {
+    for (NSView* view : subviewsOf<NSView>(column())) {
         if ([view isKindOfClass:NSControl.class] && ![surface isDescendantOf:view]) {
             EXPECT_FALSE(NSIntersectsRect(frame, inContent(view))) << view.description.UTF8String;
         }
@@ -237,7 +215,7 @@ TEST_P(SettingsWindowTest, EveryGestureAndActionNameFitsOnOneLineInTheLiveView) 
 TEST_P(SettingsWindowTest, RepeatingTheShownValuesLeavesTheLayoutAlone) {
     const auto needingLayout = [this] {
         std::size_t count = content().needsLayout ? 1 : 0;
-        for (NSView* view : allSubviews(content())) {
+        for (NSView* view : subviewsOf<NSView>(content())) {
             count += view.needsLayout ? 1 : 0;
         }
         return count;
