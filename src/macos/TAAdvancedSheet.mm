@@ -63,12 +63,10 @@ NSNumberFormatter* makeFormatter(int fractionDigits) {
         [self build:content];
     }
     [self fill:content];
-    if (_sheet.sheetParent == nil) {
-        [window beginSheet:_sheet
-            completionHandler:^(NSModalResponse) {
-                [self.target closeAdvanced];
-            }];
-    }
+    [_sheet beginOn:window
+              ended:^{
+                  [self.target closeAdvanced];
+              }];
 }
 
 - (void)build:(const tactora::AdvancedSheet&)content {

@@ -66,12 +66,10 @@ bool isDeleteKey(NSEvent* event) {
         [self build];
     }
     [self fill:content];
-    if (_sheet.sheetParent == nil) {
-        [window beginSheet:_sheet
-            completionHandler:^(NSModalResponse) {
-                [self.target closeApplications];
-            }];
-    }
+    [_sheet beginOn:window
+              ended:^{
+                  [self.target closeApplications];
+              }];
 }
 
 - (nullable NSWindow*)sheetWindow {

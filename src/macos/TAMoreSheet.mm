@@ -62,12 +62,10 @@ void letGiveWay(NSButton* button) {
         [self build:content];
     }
     [self fill:content];
-    if (_sheet.sheetParent == nil) {
-        [window beginSheet:_sheet
-            completionHandler:^(NSModalResponse) {
-                [self.target closeMoreGestures];
-            }];
-    }
+    [_sheet beginOn:window
+              ended:^{
+                  [self.target closeMoreGestures];
+              }];
 }
 
 - (nullable NSWindow*)sheetWindow {

@@ -10,4 +10,14 @@
     }
 }
 
+- (void)beginOn:(NSWindow*)parent ended:(void (^)(void))ended {
+    if (self.sheetParent != nil) {
+        return;
+    }
+    [parent beginSheet:self
+        completionHandler:^(NSModalResponse) {
+            ended();
+        }];
+}
+
 @end
