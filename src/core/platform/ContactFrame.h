@@ -21,6 +21,9 @@ struct ContactFrame {
     // One per contact when the sensor reports shapes.
     bool hasShapes = false;
     std::array<ContactShape, capacity> shapes{};
+    // The device it came from, for the devices beside the Magic Mouse (see TouchDevices); 0
+    // for the Magic Mouse's own frames.
+    std::uint64_t device = 0;
 };
 
 }  // namespace tactora
