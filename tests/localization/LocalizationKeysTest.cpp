@@ -58,6 +58,10 @@ TEST(LocalizationKeysTest, KeysWithArgumentsTakeThemInOrder) {
         EXPECT_EQ(argumentsOf(key), std::vector{stringArgument}) << key;
     }
     EXPECT_EQ(argumentsOf("profile.automatic"), (std::vector{stringArgument, stringArgument}));
+    for (const std::string_view key : {"devices.entry", "devices.conflict"}) {
+        EXPECT_EQ(argumentsOf(key), (std::vector{stringArgument, stringArgument})) << key;
+    }
+    EXPECT_EQ(argumentsOf("devices.state.blocked"), std::vector{integerArgument});
 }
 
 TEST(LocalizationKeysTest, OnlyTheBlockedSensorShowsItsErrorCode) {
@@ -68,12 +72,12 @@ TEST(LocalizationKeysTest, OnlyTheBlockedSensorShowsItsErrorCode) {
     }
 }
 
-TEST(LocalizationKeysTest, SixtyFourKeysTakeArgumentsAndTheRestNone) {
+TEST(LocalizationKeysTest, SixtySevenKeysTakeArgumentsAndTheRestNone) {
     std::size_t withArguments = 0;
     for (const LocalizationKey& key : localizationKeys) {
         withArguments += key.arguments().empty() ? 0 : 1;
     }
-    EXPECT_EQ(withArguments, 64U);
+    EXPECT_EQ(withArguments, 67U);
 }
 
 TEST(LocalizationKeysTest, ARecordingThatCantStartShowsWhatAndWhy) {

@@ -89,6 +89,21 @@ TEST(ShippedTablesTest, TextsNameTheButtonsAsTheyAreLabelled) {
     }
 }
 
+// The hint about a trackpad's own taps and clicks names the two settings as the conflict lines
+// do; English writes them in running text, lower case.
+TEST(ShippedTablesTest, TheTrackpadHintNamesTheSystemSettingsAsTheyAreCalled) {
+    for (const std::string localization : {"de", "es", "fr", "it", "ja", "pt-BR", "zh-Hans"}) {
+        const auto table = StringsTable::load(tablePath(localization));
+        ASSERT_NE(table, nullptr) << localization;
+        const auto text = [&](std::string_view key) { return table->lookup(key).value_or(""); };
+        for (const std::string_view setting :
+             {"devices.system.tap_to_click", "devices.system.secondary_click"}) {
+            EXPECT_NE(text("devices.trackpad.hint").find(text(setting)), std::string::npos)
+                << localization << " " << setting;
+        }
+    }
+}
+
 TEST(ShippedTablesTest, EveryTableHasExactlyTheKeysWithMatchingConversions) {
     const std::vector<std::string> available = availableLocalizations(shippedResourcesDirectory());
     ASSERT_FALSE(available.empty());
@@ -200,6 +215,10 @@ TEST_F(ShippedTablesLocalizerTest, EnglishLinesReadAsIntended) {
     EXPECT_EQ(L("finger.many", 3), "3 fingers");
     EXPECT_EQ(L("menu.quit"), "Quit Tactora");
     EXPECT_EQ(L("menu.open"), "Open Settings…");
+    EXPECT_EQ(L("devices.entry", L("devices.kind.magic_trackpad"), L("devices.state.blocked", 5)),
+              "Magic Trackpad (couldn’t be started (error 5))");
+    EXPECT_EQ(L("devices.conflict", L("gesture.tap", 3), L("devices.system.look_up")),
+              "The 3-finger tap competes with the system’s “Look up & data detectors”.");
 }
 
 TEST_F(ShippedTablesLocalizerTest, PortugueseLinesReadAsIntended) {
@@ -221,6 +240,9 @@ TEST_F(ShippedTablesLocalizerTest, GermanLinesReadAsIntended) {
     EXPECT_EQ(L("finger.many", 3), "3 Finger");
     EXPECT_EQ(L("error.action", L("action.desktop"), 7),
               "„Schreibtisch anzeigen“ konnte nicht ausgeführt werden (Fehler 7).");
+    EXPECT_EQ(
+        L("devices.conflict", L("gesture.tap", 1), L("devices.system.tap_to_click")),
+        "„Tippen mit 1 Finger“ konkurriert mit der Systemeinstellung „Klicken durch Tippen“.");
 }
 
 TEST_F(ShippedTablesLocalizerTest, SpanishLinesReadAsIntended) {
@@ -240,6 +262,10 @@ TEST_F(ShippedTablesLocalizerTest, FrenchLinesReadAsIntended) {
     EXPECT_EQ(L("error.action", L("action.mission"), 3),
               "Impossible d’exécuter «\u00a0Mission Control\u00a0» (erreur 3).");
     EXPECT_EQ(L("finger.many", 2), "2 doigts");
+    EXPECT_EQ(L("devices.title"), "Surfaces tactiles\u00a0:");
+    EXPECT_EQ(L("devices.conflict", L("gesture.click", 2), L("devices.system.secondary_click")),
+              "Le geste «\u00a0Clic avec 2 doigts\u00a0» entre en concurrence avec le réglage "
+              "«\u00a0Clic secondaire\u00a0» du système.");
 }
 
 TEST_F(ShippedTablesLocalizerTest, ItalianLinesReadAsIntended) {
@@ -258,6 +284,10 @@ TEST_F(ShippedTablesLocalizerTest, JapaneseLinesReadAsIntended) {
     EXPECT_EQ(L("finger.many", 3), "3本指");
     EXPECT_EQ(L("sensor.blocked", 42),
               "Magic Mouseが見つかりましたが、開始できませんでした（エラー 42）。");
+    EXPECT_EQ(L("devices.entry", L("devices.kind.built_in_trackpad"), L("devices.state.connected")),
+              "内蔵トラックパッド（接続済み）");
+    EXPECT_EQ(L("devices.conflict", L("gesture.tap", 3), L("devices.system.look_up")),
+              "「3本指でタップ」は、システムの「調べる＆データ検出」と競合します。");
 }
 
 TEST_F(ShippedTablesLocalizerTest, SimplifiedChineseLinesReadAsIntended) {
@@ -266,6 +296,8 @@ TEST_F(ShippedTablesLocalizerTest, SimplifiedChineseLinesReadAsIntended) {
     EXPECT_EQ(L("gesture.click", 2), "2 指点按");
     EXPECT_EQ(L("finger.many", 4), "4 个手指");
     EXPECT_EQ(L("menu.quit"), "退出 Tactora");
+    EXPECT_EQ(L("devices.entry", L("devices.kind.magic_mouse"), L("devices.state.missing")),
+              "妙控鼠标（未连接）");
 }
 
 TEST_F(ShippedTablesLocalizerTest, EnglishCountsReadNaturallyFromOneToFourFingers) {

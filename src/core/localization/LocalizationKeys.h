@@ -338,6 +338,35 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("try.not_performed", {stringArgument, stringArgument}),
     LocalizationKey("try.rejected", {stringArgument, stringArgument}),
     LocalizationKey("try.rejected.plain", {stringArgument}),
+    // The touch surfaces in the settings window: the label before their list, each surface's
+    // kind and state (a failed start shows its error code), its entry (its name, or its kind
+    // when it has none, then its state) and its checkbox's tooltip; the control that picks which
+    // surface's gestures the table shows, and the hint about a trackpad's own taps and clicks.
+    LocalizationKey("devices.title"),
+    LocalizationKey("devices.kind.magic_mouse"),
+    LocalizationKey("devices.kind.magic_trackpad"),
+    LocalizationKey("devices.kind.built_in_trackpad"),
+    LocalizationKey("devices.kind.other"),
+    LocalizationKey("devices.state.off"),
+    LocalizationKey("devices.state.connected"),
+    LocalizationKey("devices.state.missing"),
+    LocalizationKey("devices.state.blocked", {integerArgument}),
+    LocalizationKey("devices.entry", {stringArgument, stringArgument}),
+    LocalizationKey("devices.use.help"),
+    LocalizationKey("devices.surface.mouse"),
+    LocalizationKey("devices.surface.trackpads"),
+    LocalizationKey("devices.surface.help"),
+    LocalizationKey("devices.trackpad.hint"),
+    // The system's own trackpad settings, by the names System Settings gives them; a mapped
+    // gesture ("gesture.tap" or "gesture.click") that competes with one of them, and the button
+    // that opens the settings pane where it is turned off.
+    LocalizationKey("devices.system.tap_to_click"),
+    LocalizationKey("devices.system.secondary_click"),
+    LocalizationKey("devices.system.three_finger_drag"),
+    LocalizationKey("devices.system.look_up"),
+    LocalizationKey("devices.system.smart_zoom"),
+    LocalizationKey("devices.conflict", {stringArgument, stringArgument}),
+    LocalizationKey("devices.conflict.open"),
 });
 
 // The entry for `key`, or nothing when the program never looks it up.
