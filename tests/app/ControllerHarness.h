@@ -101,7 +101,7 @@ class ControllerHarness {
         return {clock,     queue,   workspace, permissions, poster,    eventTap,
                 sensor,    shell,   view,      dialogs,     traceSink, defaults,
                 surface,   files,   devices,   loginItem,   activity,  secureInput,
-                resetTool, dragger, nullptr,   nullptr,     nullptr};
+                resetTool, dragger, nullptr,   nullptr,     nullptr,   nullptr};
     }
 
     // The views of the parts beside the controller.

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/app/DeviceEvents.h"
 #include "core/app/ExtraActionPerformer.h"
 #include "core/app/GestureExtension.h"
 #include "core/app/TouchJudge.h"
@@ -65,6 +66,9 @@ struct ControllerServices {
     std::shared_ptr<TouchJudge> judge;
     // Recognises the gestures beyond the recogniser's; none without it.
     std::shared_ptr<GestureExtension> extension;
+    // Decides the events of the touch devices in use beside the Magic Mouse; they pass
+    // untouched without it.
+    std::shared_ptr<DeviceEvents> deviceEvents;
 };
 
 }  // namespace tactora

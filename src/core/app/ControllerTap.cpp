@@ -10,25 +10,6 @@ namespace tactora {
 
 namespace {
 
-bool isDown(EventType type) {
-    return type == event::leftMouseDown || type == event::rightMouseDown;
-}
-bool isUp(EventType type) {
-    return type == event::leftMouseUp || type == event::rightMouseUp;
-}
-bool isDrag(EventType type) {
-    return type == event::leftMouseDragged || type == event::rightMouseDragged;
-}
-
-// Turns `event` into the held press's button, with the modifier flags of a modifier click on
-// every one of its events, so that a ⌘-drag stays a ⌘-drag to its up.
-void rewritePress(TapEvent& event, const Press& press, bool down, bool drag) {
-    rewriteButton(event, *press.button, down, drag);
-    if (const std::optional<std::uint64_t> flags = catalogue::pressFlags(press.action)) {
-        event.setFlags(*flags);
-    }
-}
-
 // The event being decided, watched for a rewrite on its way through the decision.
 class WatchedEvent final : public TapEvent {
   public:
@@ -54,6 +35,14 @@ class WatchedEvent final : public TapEvent {
     std::optional<std::int64_t> button_;
 };
 
+// What the devices beside the Magic Mouse make of an event the mouse did not send.
+EventDisposition decideForDevice(DeviceEvents* events, EventType type, TapEvent& event) {
+    if (events == nullptr) {
+        return EventDisposition::pass;
+    }
+    return events->decide(type, event).value_or(EventDisposition::pass);
+}
+
 }  // namespace
 
 bool Controller::installTap() {
@@ -75,8 +64,10 @@ EventDisposition Controller::handle(EventType type, TapEvent& event) {
         } else if (event.integerField(event::sourceUserData) != marker) {
             if (MouseEventNote* note = observers_.deferMouseEvent()) {
                 disposition = decideNoted(type, event, *note);
-            } else if (canRunGestures() && isFromMouse(event)) {
-                disposition = decide(type, event);
+            } else if (canRunGestures()) {
+                disposition = isFromMouse(event)
+                                  ? decide(type, event)
+                                  : decideForDevice(services_.deviceEvents.get(), type, event);
             }
         }
     }
@@ -103,11 +94,13 @@ EventDisposition Controller::decideNoted(EventType type, TapEvent& event, MouseE
             .fate = MouseEventFate::passed,
             .rewrittenTo = MouseButton::left,
             .time = services_.clock.uptime()};
-    if (!canRunGestures() || !note.fromMouse) {
+    if (!canRunGestures()) {
         return EventDisposition::pass;
     }
     WatchedEvent watched(event);
-    const EventDisposition disposition = decide(type, watched);
+    const EventDisposition disposition =
+        note.fromMouse ? decide(type, watched)
+                       : decideForDevice(services_.deviceEvents.get(), type, watched);
     if (disposition == EventDisposition::swallow) {
         note.fate = MouseEventFate::swallowed;
     } else if (const std::optional<std::int64_t> button = watched.rewrittenButton()) {
@@ -129,10 +122,10 @@ EventDisposition Controller::decide(EventType type, TapEvent& event) {
                                                                    : EventDisposition::pass;
     }
     const std::int64_t button = event.integerField(event::buttonNumber);
-    if (isDown(type)) {
+    if (isPhysicalDown(type)) {
         return pressDown(event, button, now);
     }
-    if (isUp(type) && judge != nullptr) {
+    if (isPhysicalUp(type) && judge != nullptr) {
         judge->button(false, now);
     }
     return pressContinues(type, event, button);
@@ -227,14 +220,14 @@ EventDisposition Controller::pressDown(TapEvent& event, std::int64_t button, dou
 }
 
 EventDisposition Controller::pressContinues(EventType type, TapEvent& event, std::int64_t button) {
-    if (!isDrag(type) && !isUp(type)) {
+    if (!isPhysicalDrag(type) && !isPhysicalUp(type)) {
         return EventDisposition::pass;
     }
     const auto held = state_.presses.find(button);
     if (held == state_.presses.end()) {
         return EventDisposition::pass;
     }
-    if (isDrag(type)) {
+    if (isPhysicalDrag(type)) {
         if (!held->second.button) {
             return EventDisposition::swallow;
         }

@@ -48,7 +48,7 @@ struct Stage {
                                   view, dialogs, traceSink, std::move(defaults), surface, files,
                                   devices, loginItem, activity, secureInput, resetTool, dragger,
                                   // The replay carries out no further action: it names it.
-                                  nullptr, guard, more})),
+                                  nullptr, guard, more, nullptr})),
           frontmost(FrontmostProfiles::create(*controller, workspace, view, queue, queue)) {
         controller->addObserver(*frontmost);
         more->follow(*controller);
