@@ -1,0 +1,386 @@
+#include "core/devices/DeviceGestures.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "../app/fakes/FakeClock.h"
+#include "../app/fakes/FakeMainQueue.h"
+#include "../app/fakes/FakeTapEvent.h"
+#include "FakeGestureRunner.h"
+#include "FakeTouchDevices.h"
+#include "core/app/Controller.h"
+#include "core/profiles/GestureSlot.h"
+#include "core/profiles/MemoryPreferences.h"
+
+namespace tactora::testing {
+namespace {
+
+constexpr std::uint64_t mouseID = 10;
+constexpr std::uint64_t trackpadID = 20;
+constexpr std::uint64_t builtInID = 30;
+constexpr std::uint64_t mouseSender = 110;
+constexpr std::uint64_t trackpadSender = 120;
+constexpr std::uint64_t builtInSender = 130;
+
+using Contacts = std::vector<std::pair<float, float>>;
+
+Contacts fingers(int count) {
+    Contacts contacts;
+    for (int i = 0; i < count; ++i) {
+        contacts.emplace_back(0.2f + 0.15f * static_cast<float>(i), 0.5f);
+    }
+    return contacts;
+}
+
+class DeviceGesturesTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        devices.listed = {
+            {.id = mouseID,
+             .kind = TouchDeviceKind::magicMouse,
+             .state = TouchDeviceState::connected,
+             .name = "Magic Mouse"},
+            {.id = trackpadID, .kind = TouchDeviceKind::magicTrackpad, .name = "Magic Trackpad"},
+            {.id = builtInID, .kind = TouchDeviceKind::builtInTrackpad, .name = "Apple Internal"},
+        };
+        devices.senders = {
+            {mouseSender, mouseID}, {trackpadSender, trackpadID}, {builtInSender, builtInID}};
+        gestures = std::make_shared<DeviceGestures>(DeviceGestureServices{
+            .devices = devices, .queue = queue, .clock = clock, .defaults = defaults});
+        gestures->runThrough(runner);
+    }
+
+    void launchUsing(std::vector<std::uint64_t> ticked) {
+        for (const TouchDevice& device : devices.listed) {
+            if (std::ranges::find(ticked, device.id) != ticked.end()) {
+                gestures->setUses(device, true);
+            }
+        }
+        gestures->launched(clock.now);
+    }
+
+    // A frame of `device`, received on the main thread.
+    void frame(std::uint64_t device, int count) {
+        devices.send(device, fingers(count));
+        queue.runReady();
+    }
+
+    // A touch of `count` fingers on `device`, lifted 0.1 s later.
+    void tap(std::uint64_t device, int count) {
+        frame(device, count);
+        queue.advance(0.05);
+        frame(device, count);
+        queue.advance(0.05);
+        frame(device, 0);
+    }
+
+    std::optional<EventDisposition> event(EventType type, std::uint64_t sender,
+                                          std::int64_t button = 0) {
+        last = std::make_unique<FakeTapEvent>(type, button, sender);
+        return gestures->decide(type, *last);
+    }
+
+    FakeClock clock;
+    FakeMainQueue queue{clock};
+    FakeTouchDevices devices;
+    FakeGestureRunner runner;
+    std::shared_ptr<MemoryPreferences> defaults = std::make_shared<MemoryPreferences>();
+    std::shared_ptr<DeviceGestures> gestures;
+    std::unique_ptr<FakeTapEvent> last;
+};
+
+TEST_F(DeviceGesturesTest, AThreeFingerTrackpadTapRunsItsTrackpadSlotAfterTheTapsWait) {
+    runner.slots.at(slot::forTap(3)).action = action::middle;
+    launchUsing({trackpadID});
+
+    tap(trackpadID, 3);
+    queue.advance(Controller::tapDelay / 2);
+    EXPECT_TRUE(runner.performed.empty());
+    queue.advance(Controller::tapDelay);
+
+    ASSERT_EQ(runner.performed.size(), 1u);
+    EXPECT_EQ(runner.performed[0].action, action::middle);
+    EXPECT_EQ(runner.performed[0].origin, ActionOrigin::tap);
+    EXPECT_EQ(runner.performed[0].fingers, 3);
+}
+
+TEST_F(DeviceGesturesTest, TrackpadsAreUnusedUntilTickedAndTheirFramesChangeNothing) {
+    runner.slots.at(slot::forTap(3)).action = action::middle;
+    launchUsing({});
+
+    EXPECT_EQ(devices.listed[1].state, TouchDeviceState::off);
+    tap(trackpadID, 3);
+    queue.advance(1.0);
+
+    EXPECT_TRUE(runner.performed.empty());
+    EXPECT_EQ(event(event::leftMouseDown, trackpadSender), std::nullopt);
+}
+
+TEST_F(DeviceGesturesTest, NothingIsStartedOrRecognisedBeforeLaunch) {
+    runner.slots.at(slot::forTap(3)).action = action::middle;
+    gestures->setUses(devices.listed[1], true);
+
+    EXPECT_EQ(devices.refreshes, 0);
+    EXPECT_EQ(devices.callback, nullptr);
+    EXPECT_EQ(event(event::leftMouseDown, trackpadSender), std::nullopt);
+}
+
+TEST_F(DeviceGesturesTest, FingersOnTwoTrackpadsNeverMakeOneTap) {
+    runner.slots.at(slot::forTap(2)).action = action::right;
+    runner.slots.at(slot::forTap(3)).action = action::middle;
+    runner.slots.at(slot::forTap(4)).action = action::copy;
+    launchUsing({trackpadID, builtInID});
+
+    // Two fingers on one and two on the other, interleaved within milliseconds.
+    for (int step = 0; step < 3; ++step) {
+        frame(trackpadID, 2);
+        queue.advance(0.002);
+        frame(builtInID, 2);
+        queue.advance(0.03);
+    }
+    frame(trackpadID, 0);
+    queue.advance(0.002);
+    frame(builtInID, 0);
+    queue.advance(0.5);
+
+    ASSERT_EQ(runner.performed.size(), 2u);
+    EXPECT_EQ(runner.performed[0].action, action::right);
+    EXPECT_EQ(runner.performed[1].action, action::right);
+}
+
+TEST_F(DeviceGesturesTest, AClickOnTheSameTrackpadVetoesItsTapButAClickElsewhereDoesNot) {
+    runner.slots.at(slot::forTap(3)).action = action::middle;
+    launchUsing({trackpadID, builtInID});
+
+    tap(trackpadID, 3);
+    event(event::leftMouseDown, trackpadSender);
+    event(event::leftMouseUp, trackpadSender);
+    queue.advance(0.5);
+    EXPECT_TRUE(runner.performed.empty());
+
+    tap(builtInID, 3);
+    event(event::leftMouseDown, trackpadSender);
+    event(event::leftMouseUp, trackpadSender);
+    queue.advance(0.5);
+    ASSERT_EQ(runner.performed.size(), 1u);
+    EXPECT_EQ(runner.performed[0].fingers, 3);
+}
+
+TEST_F(DeviceGesturesTest, AScrollOfTheTrackpadSpoilsItsTap) {
+    runner.slots.at(slot::forTap(2)).action = action::right;
+    launchUsing({trackpadID});
+
+    frame(trackpadID, 2);
+    EXPECT_EQ(event(event::scrollWheel, trackpadSender), EventDisposition::pass);
+    queue.advance(0.05);
+    frame(trackpadID, 0);
+    queue.advance(0.5);
+
+    EXPECT_TRUE(runner.performed.empty());
+}
+
+TEST_F(DeviceGesturesTest, ATapWhileGesturesCannotRunDoesNothing) {
+    runner.slots.at(slot::forTap(3)).action = action::middle;
+    launchUsing({trackpadID});
+    runner.canRun = false;
+
+    tap(trackpadID, 3);
+    runner.canRun = true;
+    queue.advance(0.5);
+
+    EXPECT_TRUE(runner.performed.empty());
+}
+
+TEST_F(DeviceGesturesTest, AThreeFingerClickIsAMiddleButtonPressThroughItsDragsToTheUp) {
+    runner.slots.at(slot::forClick(3)).action = action::middle;
+    launchUsing({trackpadID});
+    frame(trackpadID, 3);
+
+    EXPECT_EQ(event(event::leftMouseDown, trackpadSender), EventDisposition::pass);
+    EXPECT_EQ(last->type, event::otherMouseDown);
+    EXPECT_EQ(last->button(), static_cast<std::int64_t>(MouseButton::centre));
+    EXPECT_EQ(gestures->heldPresses(), 1u);
+
+    // The fingers may move or lift while the button is held: the press goes on to its up.
+    frame(trackpadID, 1);
+    queue.advance(1.0);
+    EXPECT_EQ(event(event::leftMouseDragged, trackpadSender), EventDisposition::pass);
+    EXPECT_EQ(last->type, event::otherMouseDragged);
+    EXPECT_EQ(event(event::leftMouseUp, trackpadSender), EventDisposition::pass);
+    EXPECT_EQ(last->type, event::otherMouseUp);
+    EXPECT_EQ(last->button(), static_cast<std::int64_t>(MouseButton::centre));
+
+    EXPECT_EQ(gestures->heldPresses(), 0u);
+    EXPECT_TRUE(runner.posted.empty());
+}
+
+TEST_F(DeviceGesturesTest, AClickWhoseActionIsNoButtonIsSwallowedAndRunsOnRelease) {
+    runner.slots.at(slot::forClick(4)).action = action::copy;
+    launchUsing({trackpadID});
+    frame(trackpadID, 4);
+
+    EXPECT_EQ(event(event::leftMouseDown, trackpadSender), EventDisposition::swallow);
+    EXPECT_EQ(event(event::leftMouseDragged, trackpadSender), EventDisposition::swallow);
+    EXPECT_TRUE(runner.performed.empty());
+    EXPECT_EQ(event(event::leftMouseUp, trackpadSender), EventDisposition::swallow);
+    EXPECT_TRUE(runner.performed.empty());  // not from inside the tap's callback
+    queue.runReady();
+
+    ASSERT_EQ(runner.performed.size(), 1u);
+    EXPECT_EQ(runner.performed[0].action, action::copy);
+    EXPECT_EQ(runner.performed[0].origin, ActionOrigin::click);
+    EXPECT_EQ(runner.performed[0].fingers, 4);
+}
+
+TEST_F(DeviceGesturesTest, AnUnmappedClickAndAClickWithoutFreshContactsStayOrdinary) {
+    runner.slots.at(slot::forClick(3)).action = action::middle;
+    launchUsing({trackpadID});
+
+    frame(trackpadID, 2);
+    EXPECT_EQ(event(event::leftMouseDown, trackpadSender), EventDisposition::pass);
+    EXPECT_EQ(last->changes, 0);
+    event(event::leftMouseUp, trackpadSender);
+
+    frame(trackpadID, 3);
+    queue.advance(Controller::freshContact);
+    EXPECT_EQ(event(event::leftMouseDown, trackpadSender), EventDisposition::pass);
+    EXPECT_EQ(last->changes, 0);
+    EXPECT_EQ(gestures->heldPresses(), 0u);
+}
+
+TEST_F(DeviceGesturesTest, AClickCountsTheFingersOfItsOwnDeviceOnly) {
+    runner.slots.at(slot::forClick(3)).action = action::middle;
+    launchUsing({trackpadID, builtInID});
+    frame(builtInID, 3);
+    frame(trackpadID, 1);
+
+    EXPECT_EQ(event(event::leftMouseDown, trackpadSender), EventDisposition::pass);
+    EXPECT_EQ(last->changes, 0);
+}
+
+TEST_F(DeviceGesturesTest, ADeviceLeavingDuringAHeldPressGetsExactlyOneUp) {
+    runner.slots.at(slot::forClick(3)).action = action::middle;
+    launchUsing({trackpadID, builtInID});
+    frame(trackpadID, 3);
+    frame(builtInID, 3);
+    event(event::leftMouseDown, trackpadSender);
+    event(event::leftMouseDown, builtInSender);
+    ASSERT_EQ(gestures->heldPresses(), 2u);
+
+    devices.leave(trackpadID);
+
+    ASSERT_EQ(runner.posted.size(), 1u);
+    EXPECT_EQ(runner.posted[0].button, MouseButton::centre);
+    EXPECT_FALSE(runner.posted[0].down);
+    EXPECT_EQ(gestures->heldPresses(), 1u);
+    // A late up from the gone device is no longer its press.
+    EXPECT_EQ(event(event::leftMouseUp, trackpadSender), std::nullopt);
+    devices.leave(trackpadID);
+    EXPECT_EQ(runner.posted.size(), 1u);
+}
+
+TEST_F(DeviceGesturesTest, SwitchingGesturesOffLetsGoOfEveryHeldPressOnceAndForgetsTouches) {
+    runner.slots.at(slot::forClick(3)).action = action::middle;
+    runner.slots.at(slot::forTap(2)).action = action::right;
+    launchUsing({trackpadID, builtInID});
+    frame(trackpadID, 3);
+    event(event::leftMouseDown, trackpadSender);
+    frame(builtInID, 2);
+
+    gestures->switchChanged({.on = false});
+    gestures->switchChanged({.on = false});
+    frame(builtInID, 0);
+    queue.advance(0.5);
+
+    ASSERT_EQ(runner.posted.size(), 1u);
+    EXPECT_FALSE(runner.posted[0].down);
+    EXPECT_TRUE(runner.performed.empty());
+}
+
+TEST_F(DeviceGesturesTest, ThePressesOfAProfileChangeWakeOrQuitAreLetGoOf) {
+    runner.slots.at(slot::forClick(3)).action = action::middle;
+    launchUsing({trackpadID});
+    const auto holdAndThen = [&](auto&& what) {
+        frame(trackpadID, 3);
+        event(event::leftMouseDown, trackpadSender);
+        what();
+        EXPECT_EQ(gestures->heldPresses(), 0u);
+    };
+
+    holdAndThen([&] { gestures->profileSelected({}); });
+    holdAndThen([&] { gestures->woke({}); });
+    holdAndThen([&] { gestures->activeChanged({.active = true}); });
+    holdAndThen([&] { gestures->terminating(clock.now); });
+
+    EXPECT_EQ(runner.posted.size(), 4u);
+}
+
+TEST_F(DeviceGesturesTest, EventsOfTheMouseAndOfUnknownSendersAreLeftToTheController) {
+    launchUsing({trackpadID});
+
+    EXPECT_EQ(event(event::leftMouseDown, mouseSender), std::nullopt);
+    EXPECT_EQ(event(event::leftMouseDown, 999), std::nullopt);
+    EXPECT_EQ(event(event::leftMouseDown, 0), std::nullopt);
+}
+
+TEST_F(DeviceGesturesTest, TheSenderOfTheLastEventIsNotAskedAboutAgainUntilDevicesChange) {
+    launchUsing({trackpadID});
+    event(event::leftMouseDragged, trackpadSender);
+    event(event::leftMouseDragged, trackpadSender);
+    EXPECT_EQ(devices.senderQuestions, 1);
+
+    devices.leave(builtInID);
+    event(event::leftMouseDragged, trackpadSender);
+    EXPECT_EQ(devices.senderQuestions, 2);
+}
+
+TEST_F(DeviceGesturesTest, UntickingATrackpadStopsItAtOnceAndLetsGoOfItsPress) {
+    runner.slots.at(slot::forClick(3)).action = action::middle;
+    launchUsing({trackpadID});
+    frame(trackpadID, 3);
+    event(event::leftMouseDown, trackpadSender);
+
+    gestures->setUses(devices.listed[1], false);
+
+    EXPECT_EQ(devices.listed[1].state, TouchDeviceState::off);
+    EXPECT_EQ(runner.posted.size(), 1u);
+    EXPECT_EQ(event(event::leftMouseUp, trackpadSender), std::nullopt);
+}
+
+TEST_F(DeviceGesturesTest, TheMagicMouseIsAlwaysUsedAndCannotBeUnticked) {
+    launchUsing({});
+
+    gestures->setUses(devices.listed[0], false);
+
+    EXPECT_TRUE(gestures->uses(devices.listed[0]));
+    EXPECT_FALSE(gestures->uses(devices.listed[1]));
+    EXPECT_FALSE(defaults->string(std::string(DeviceChoice::key)).has_value());
+}
+
+TEST_F(DeviceGesturesTest, ATrackpadIsSeenOnlyOnceOneIsListed) {
+    EXPECT_TRUE(gestures->trackpadSeen());
+    devices.listed.resize(1);
+    EXPECT_FALSE(gestures->trackpadSeen());
+}
+
+TEST_F(DeviceGesturesTest, ATickedTrackpadThatComesBackWithANewIdIsUsedAgain) {
+    runner.slots.at(slot::forTap(3)).action = action::middle;
+    launchUsing({trackpadID});
+    devices.leave(trackpadID);
+
+    constexpr std::uint64_t returnedID = 21;
+    devices.listed.push_back(
+        {.id = returnedID, .kind = TouchDeviceKind::magicTrackpad, .name = "Magic Trackpad"});
+    devices.changed();
+    tap(returnedID, 3);
+    queue.advance(0.5);
+
+    EXPECT_EQ(devices.listed.back().state, TouchDeviceState::connected);
+    EXPECT_EQ(runner.performed.size(), 1u);
+}
+
+}  // namespace
+}  // namespace tactora::testing
