@@ -39,16 +39,47 @@ OrderedJson encodeExtra(const std::optional<SlotExtra>& extra) {
     return object;
 }
 
+OrderedJson encodeShortcuts(const std::vector<std::optional<SavedShortcut>>& list) {
+    OrderedJson shortcuts = OrderedJson::array();
+    for (const auto& shortcut : list) {
+        shortcuts.push_back(encodeShortcut(shortcut));
+    }
+    return shortcuts;
+}
+
+bool hasExtras(const std::vector<std::optional<SlotExtra>>& extras) {
+    return std::ranges::any_of(extras, [](const auto& extra) { return extra.has_value(); });
+}
+
+OrderedJson encodeExtras(const std::vector<std::optional<SlotExtra>>& list) {
+    OrderedJson extras = OrderedJson::array();
+    for (const auto& extra : list) {
+        extras.push_back(encodeExtra(extra));
+    }
+    return extras;
+}
+
 // A slot with an extra action is written with the default action in "actions", whatever the
 // list holds in memory, so that a reader that knows only "actions" never performs another one.
-std::vector<ActionIndex> storedActions(const WorkProfile& profile) {
-    std::vector<ActionIndex> actions = profile.actions;
+std::vector<ActionIndex> storedActions(std::vector<ActionIndex> actions,
+                                       const std::vector<std::optional<SlotExtra>>& extras) {
     for (std::size_t i = 0; i < actions.size(); ++i) {
-        if (profile.extraAt(i)) {
+        if (extraInSlot(extras, i)) {
             actions[i] = action::defaultAction;
         }
     }
     return actions;
+}
+
+// The trackpads' eight, in the members and the form the profile uses for the Magic Mouse's.
+OrderedJson encodeTrackpad(const GestureSlots& trackpad) {
+    OrderedJson object = OrderedJson::object();
+    object["actions"] = storedActions(trackpad.actions, trackpad.extras);
+    object["shortcuts"] = encodeShortcuts(trackpad.shortcuts);
+    if (hasExtras(trackpad.extras)) {
+        object["extraActions"] = encodeExtras(trackpad.extras);
+    }
+    return object;
 }
 
 // Only the slots that hold something are written, by name.
@@ -80,29 +111,25 @@ OrderedJson encodeProfile(const WorkProfile& profile) {
     OrderedJson object = OrderedJson::object();
     object["id"] = profile.id.text();
     object["name"] = profile.name;
-    object["actions"] = storedActions(profile);
-    OrderedJson shortcuts = OrderedJson::array();
-    for (const auto& shortcut : profile.shortcuts) {
-        shortcuts.push_back(encodeShortcut(shortcut));
-    }
-    object["shortcuts"] = std::move(shortcuts);
+    object["actions"] = storedActions(profile.actions, profile.extras);
+    object["shortcuts"] = encodeShortcuts(profile.shortcuts);
     // Written only when there is something to say, so that a profile without applications is
     // stored exactly as before the key existed.
     if (!profile.apps.empty()) {
         object["apps"] = profile.apps;
     }
     // The same for the extra actions.
-    if (std::ranges::any_of(profile.extras, [](const auto& extra) { return extra.has_value(); })) {
-        OrderedJson extras = OrderedJson::array();
-        for (const auto& extra : profile.extras) {
-            extras.push_back(encodeExtra(extra));
-        }
-        object["extraActions"] = std::move(extras);
+    if (hasExtras(profile.extras)) {
+        object["extraActions"] = encodeExtras(profile.extras);
     }
     // The same for the further gestures: a profile that maps none of them is stored as it was
     // before they existed, and a reader that does not know the key ignores it.
     if (!profile.moreGestures.isDefault()) {
         object["moreGestures"] = encodeMoreGestures(profile.moreGestures);
+    }
+    // The same for trackpads.
+    if (!profile.trackpad.isEmpty()) {
+        object["trackpad"] = encodeTrackpad(profile.trackpad);
     }
     return object;
 }
@@ -288,6 +315,68 @@ MoreGestureMap decodeMoreGestures(const Json& profile) {
     return more;
 }
 
+// An element of "extraActions" inside "trackpad": null, or an object with a string "action"
+// and, optionally, a string "value". An action this version does not know (a newer copy's)
+// leaves its slot without an extra, as it does for the profile's own.
+bool isExtraShaped(const Json& element) {
+    if (element.is_null()) {
+        return true;
+    }
+    if (!element.is_object() || stringMember(element, "action") == nullptr) {
+        return false;
+    }
+    const Json* value = member(element, "value");
+    return value == nullptr || value->is_string();
+}
+
+std::optional<std::vector<std::optional<SlotExtra>>> decodeTrackpadExtras(const Json& trackpad) {
+    const Json* value = member(trackpad, "extraActions");
+    if (value == nullptr) {
+        return std::vector<std::optional<SlotExtra>>();
+    }
+    if (!value->is_array() || value->size() != slot::count) {
+        return std::nullopt;
+    }
+    std::vector<std::optional<SlotExtra>> extras;
+    extras.reserve(slot::count);
+    for (const Json& element : *value) {
+        if (!isExtraShaped(element)) {
+            return std::nullopt;
+        }
+        extras.push_back(decodeExtra(element));
+    }
+    return extras;
+}
+
+// The optional "trackpad" key: an object with the members the profile uses for its own eight,
+// each with exactly eight elements. Being newer than the format, a malformed value leaves the
+// profile with nothing mapped on trackpads rather than failing it or the list, and costs nothing
+// else of the profile. Actions outside the catalogue are kept for sanitize() to repair, as the
+// profile's own are.
+GestureSlots decodeTrackpad(const Json& profile) {
+    const Json* trackpad = member(profile, "trackpad");
+    if (trackpad == nullptr || !trackpad->is_object()) {
+        return {};
+    }
+    const Json* actionsArray = arrayMember(*trackpad, "actions");
+    const Json* shortcutsArray = arrayMember(*trackpad, "shortcuts");
+    if (actionsArray == nullptr || shortcutsArray == nullptr ||
+        actionsArray->size() != slot::count || shortcutsArray->size() != slot::count) {
+        return {};
+    }
+    auto actions = decodeActions(*actionsArray);
+    auto shortcuts = decodeShortcuts(*shortcutsArray);
+    auto extras = decodeTrackpadExtras(*trackpad);
+    if (!actions || !shortcuts || !extras) {
+        return {};
+    }
+    GestureSlots slots;
+    slots.actions = std::move(*actions);
+    slots.shortcuts = std::move(*shortcuts);
+    slots.extras = std::move(*extras);
+    return slots;
+}
+
 std::optional<WorkProfile> decodeProfile(const Json& object) {
     if (!object.is_object()) {
         return std::nullopt;
@@ -310,6 +399,7 @@ std::optional<WorkProfile> decodeProfile(const Json& object) {
     profile.apps = decodeApps(object);
     profile.extras = decodeExtras(object);
     profile.moreGestures = decodeMoreGestures(object);
+    profile.trackpad = decodeTrackpad(object);
     return profile;
 }
 

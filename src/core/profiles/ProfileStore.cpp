@@ -15,6 +15,21 @@ namespace tactora {
 
 namespace {
 
+// The eight lists of one surface of a profile, edited in place.
+struct SurfaceSlots {
+    std::vector<ActionIndex>& actions;
+    std::vector<std::optional<SavedShortcut>>& shortcuts;
+    std::vector<std::optional<SlotExtra>>& extras;
+};
+
+SurfaceSlots slotsFor(WorkProfile& profile, SurfaceKind surface) {
+    if (surface == SurfaceKind::trackpad) {
+        GestureSlots& trackpad = profile.trackpad;
+        return {trackpad.actions, trackpad.shortcuts, trackpad.extras};
+    }
+    return {profile.actions, profile.shortcuts, profile.extras};
+}
+
 std::string textOf(const Bytes& bytes) {
     return {bytes.begin(), bytes.end()};
 }
@@ -152,6 +167,18 @@ void ProfileStore::select(const Uuid& id) {
 }
 
 void ProfileStore::setAction(ActionIndex action, std::int64_t index) {
+    setAction(action, index, SurfaceKind::mouse);
+}
+
+void ProfileStore::setExtra(const SlotExtra& extra, std::int64_t index) {
+    setExtra(extra, index, SurfaceKind::mouse);
+}
+
+void ProfileStore::setShortcut(const SavedShortcut& shortcut, std::int64_t index) {
+    setShortcut(shortcut, index, SurfaceKind::mouse);
+}
+
+void ProfileStore::setAction(ActionIndex action, std::int64_t index, SurfaceKind surface) {
     if (!slot::isValid(index) || !action::isValid(action)) {
         return;
     }
@@ -159,16 +186,17 @@ void ProfileStore::setAction(ActionIndex action, std::int64_t index) {
     if (profile == nullptr) {
         return;
     }
+    const SurfaceSlots slots = slotsFor(*profile, surface);
     const auto position = static_cast<std::size_t>(index);
-    profile->actions[position] = action;
-    if (position < profile->extras.size()) {
-        profile->extras[position].reset();
+    slots.actions[position] = action;
+    if (position < slots.extras.size()) {
+        slots.extras[position].reset();
         profile->sanitize();
     }
     save();
 }
 
-void ProfileStore::setExtra(const SlotExtra& extra, std::int64_t index) {
+void ProfileStore::setExtra(const SlotExtra& extra, std::int64_t index, SurfaceKind surface) {
     const bool needsValue = catalogue::info(extra.action).value != ActionValueKind::none;
     if (!slot::isValid(index) || (needsValue && extra.value.empty())) {
         return;
@@ -177,15 +205,17 @@ void ProfileStore::setExtra(const SlotExtra& extra, std::int64_t index) {
     if (profile == nullptr) {
         return;
     }
+    const SurfaceSlots slots = slotsFor(*profile, surface);
     const auto position = static_cast<std::size_t>(index);
-    profile->actions[position] = action::defaultAction;
-    profile->extras.resize(slot::count);
-    profile->extras[position] = extra;
+    slots.actions[position] = action::defaultAction;
+    slots.extras.resize(slot::count);
+    slots.extras[position] = extra;
     profile->sanitize();
     save();
 }
 
-void ProfileStore::setShortcut(const SavedShortcut& shortcut, std::int64_t index) {
+void ProfileStore::setShortcut(const SavedShortcut& shortcut, std::int64_t index,
+                               SurfaceKind surface) {
     if (!slot::isValid(index) || !shortcut.isValid()) {
         return;
     }
@@ -193,9 +223,10 @@ void ProfileStore::setShortcut(const SavedShortcut& shortcut, std::int64_t index
     if (profile == nullptr) {
         return;
     }
+    const SurfaceSlots slots = slotsFor(*profile, surface);
     const auto position = static_cast<std::size_t>(index);
-    profile->shortcuts[position] = shortcut;
-    profile->actions[position] = action::custom;
+    slots.shortcuts[position] = shortcut;
+    slots.actions[position] = action::custom;
     profile->sanitize();  // the slot's extra, if any, gives way
     save();
 }
@@ -253,6 +284,7 @@ void ProfileStore::add(const std::string& name, bool duplicate) {
         profile.shortcuts = source.shortcuts;
         profile.extras = source.extras;
         profile.moreGestures = source.moreGestures;
+        profile.trackpad = source.trackpad;
     }
     activeID_ = profile.id;
     chosenID_ = profile.id;

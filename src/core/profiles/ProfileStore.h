@@ -10,6 +10,8 @@
 #include "core/actions/SavedShortcut.h"
 #include "core/profiles/MoreGestureSlot.h"
 #include "core/profiles/Preferences.h"
+#include "core/profiles/SlotExtra.h"
+#include "core/profiles/SurfaceKind.h"
 #include "core/profiles/Uuid.h"
 #include "core/profiles/WorkProfile.h"
 
@@ -56,13 +58,19 @@ class ProfileStore {
     void setExtra(const SlotExtra& extra, std::int64_t index);
     // Stores a valid shortcut in a slot of the active profile and makes the slot custom.
     void setShortcut(const SavedShortcut& shortcut, std::int64_t index);
+    // The same three for the eight of either surface: the ones above edit the Magic Mouse's, and
+    // an edit of one surface's slots leaves the other's alone.
+    void setAction(ActionIndex action, std::int64_t index, SurfaceKind surface);
+    void setExtra(const SlotExtra& extra, std::int64_t index, SurfaceKind surface);
+    void setShortcut(const SavedShortcut& shortcut, std::int64_t index, SurfaceKind surface);
     // The same for a slot of the further gestures of the active profile.
     void setMoreAction(ActionIndex action, MoreGestureSlot slot);
     void setMoreExtra(const SlotExtra& extra, MoreGestureSlot slot);
     void setMoreShortcut(const SavedShortcut& shortcut, MoreGestureSlot slot);
     // The depth of the active profile's top band, brought into its range.
     void setTopBand(double depth);
-    // Appends a profile (a copy of the active one's slots when `duplicate`) and activates it.
+    // Appends a profile (a copy of the active one's slots, for both surfaces, when `duplicate`)
+    // and activates it.
     void add(const std::string& name, bool duplicate);
     void rename(const std::string& name);
 

@@ -7,6 +7,7 @@
 #include "core/actions/ActionIndex.h"
 #include "core/actions/SavedShortcut.h"
 #include "core/profiles/GestureSlot.h"
+#include "core/profiles/GestureSlots.h"
 #include "core/profiles/MoreGestureMap.h"
 #include "core/profiles/SlotExtra.h"
 #include "core/profiles/Uuid.h"
@@ -14,8 +15,9 @@
 namespace tactora {
 
 // A named set of gesture-to-action assignments, one action and one optional shortcut per
-// gesture slot. The lists are stored as given; sanitize() brings them into shape. A plain value,
-// with no shared state: any thread may use its own copy.
+// gesture slot, for the Magic Mouse and, apart from it, for trackpads. The lists are stored as
+// given; sanitize() brings them into shape. A plain value, with no shared state: any thread may
+// use its own copy.
 struct WorkProfile {
     // A new profile with a fresh random id; by default every slot does the system's default.
     explicit WorkProfile(std::string name,
@@ -31,7 +33,8 @@ struct WorkProfile {
     // outside the catalogue, or custom actions without a shortcut, fall back to the default.
     // Then the extras: none at all, or exactly eight; a slot keeps its extra only while its
     // action is the default, and an extra that needs a value only with one. The further
-    // gestures are repaired by the same rules as the eight.
+    // gestures are repaired by the same rules as the eight, and the trackpads' eight by exactly
+    // the same rules as the Magic Mouse's.
     void sanitize();
 
     // The extra action of a slot, if it holds one.
@@ -50,11 +53,11 @@ struct WorkProfile {
     std::vector<std::optional<SlotExtra>> extras;
     // The gestures beyond the eight, all off until mapped. sanitize() repairs them too.
     MoreGestureMap moreGestures;
+    // The same eight gestures on trackpads, kept apart from the Magic Mouse's: nothing is mapped
+    // until the user maps it, and a profile stored before trackpads were known has nothing here.
+    GestureSlots trackpad;
 
     bool operator==(const WorkProfile&) const = default;
-
-  private:
-    void sanitizeExtras();
 };
 
 }  // namespace tactora
