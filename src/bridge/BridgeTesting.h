@@ -9,6 +9,8 @@
 #include <stdbool.h>
 #include <stdint.h>
 
+#include "bridge/DeviceKind.h"
+
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -32,6 +34,16 @@ void TASetDockLibraryPath(const char* path);
  */
 typedef bool (*TAPortableMouseTest)(uint32_t service);
 void TASetPortableMouseTest(TAPortableMouseTest test);
+
+/*
+ * Off Apple systems only: the registry that the bridge asks for a device's kind and name, and
+ * for the device behind an input event's sender id. A service number is its own registry entry
+ * id there. The lookup fills the properties of the entry and answers whether it exists; the
+ * mouse test uses them too unless TASetPortableMouseTest installed one of its own. NULL (the
+ * default) knows no entry.
+ */
+typedef bool (*TAPortableRegistry)(uint64_t entryID, TADeviceProperties* properties);
+void TASetPortableRegistry(TAPortableRegistry lookup);
 
 #ifdef __cplusplus
 }

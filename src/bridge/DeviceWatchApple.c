@@ -9,17 +9,18 @@
 
 #include "bridge/DeviceRegistry.h"
 
-/* More mice than anyone connects at once; further ones are still reported when they arrive. */
+/* More devices than anyone connects at once; further ones are still reported when they arrive. */
 enum { knownCapacity = 16 };
 
 struct TADeviceWatch {
     TADeviceChange change;
     void* context;
+    bool everyDevice; /* false: mice only */
     IONotificationPortRef port;
     io_iterator_t arrivals;
     io_iterator_t removals;
-    /* Registry entry ids of the mice seen: a removed service can no longer be asked whether it
-     * was a mouse, so a removal is reported only for an id seen arriving. */
+    /* Registry entry ids of the devices seen: a removed service can no longer be asked whether
+     * it was a mouse, so a removal is reported only for an id seen arriving. */
     uint64_t known[knownCapacity];
     int32_t knownCount;
 };
@@ -49,7 +50,7 @@ static bool forget(TADeviceWatch* watch, uint64_t id) {
 static void takeArrivals(TADeviceWatch* watch, bool report) {
     io_service_t service;
     while ((service = IOIteratorNext(watch->arrivals)) != IO_OBJECT_NULL) {
-        if (TAIsMouseService(service)) {
+        if (watch->everyDevice || TAIsMouseService(service)) {
             uint64_t id = TAServiceEntryID(service);
             remember(watch, id);
             if (report) {
@@ -81,13 +82,14 @@ static void removed(void* refcon, io_iterator_t iterator) {
     takeRemovals(refcon, true);
 }
 
-TADeviceWatch* TAWatchDevices(TADeviceChange change, void* context) {
+static TADeviceWatch* watchDevices(TADeviceChange change, void* context, bool everyDevice) {
     TADeviceWatch* watch = calloc(1, sizeof(TADeviceWatch));
     if (watch == NULL) {
         return NULL;
     }
     watch->change = change;
     watch->context = context;
+    watch->everyDevice = everyDevice;
     watch->port = IONotificationPortCreate(kIOMainPortDefault);
     if (watch->port == NULL) {
         TAStopWatchingDevices(watch);
@@ -110,6 +112,14 @@ TADeviceWatch* TAWatchDevices(TADeviceChange change, void* context) {
     takeArrivals(watch, false);
     takeRemovals(watch, false);
     return watch;
+}
+
+TADeviceWatch* TAWatchDevices(TADeviceChange change, void* context) {
+    return watchDevices(change, context, false);
+}
+
+TADeviceWatch* TAWatchMultitouchDevices(TADeviceChange change, void* context) {
+    return watchDevices(change, context, true);
 }
 
 void TAStopWatchingDevices(TADeviceWatch* watch) {

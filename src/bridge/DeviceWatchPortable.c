@@ -9,6 +9,12 @@ TADeviceWatch* TAWatchDevices(TADeviceChange change, void* context) {
     return NULL;
 }
 
+TADeviceWatch* TAWatchMultitouchDevices(TADeviceChange change, void* context) {
+    (void)change;
+    (void)context;
+    return NULL;
+}
+
 void TAStopWatchingDevices(TADeviceWatch* watch) {
     (void)watch;
 }

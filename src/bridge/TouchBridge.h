@@ -6,7 +6,8 @@
  *
  * The bridge loads the system's private multitouch framework at run time, listens to the first
  * multitouch device that is a mouse and hands each frame's touching contacts to one client
- * callback. Its state is process-wide; there is one connection and one client at a time.
+ * callback. Its state is process-wide; there is one connection and one client at a time. The
+ * same connection can also take the other multitouch devices (TouchDevices.h).
  *
  * Threads: TAStart, TAStop, TAStatus, TAStatusError, TAConnectedDevice, TAIsMouseSender,
  * TADesktopAction and TADockNotification are called on the main thread. The client callback
@@ -31,11 +32,15 @@ typedef void (*TAFrameCallback)(int32_t count, const int32_t* ids, const float* 
 
 /*
  * Stops any earlier connection, then connects to the mouse and delivers its frames to
- * `client`. Returns 1 when frames flow, 0 otherwise; TAStatus tells why.
+ * `client`. Returns 1 when frames flow, 0 otherwise; TAStatus tells why. Also starts the other
+ * devices chosen through TAUseOtherDevices, whatever became of the mouse.
  */
 int32_t TAStart(TAFrameCallback client);
 
-/* Ends the connection; safe when nothing runs. The status key is left as it was. */
+/*
+ * Ends the connection, the devices beside the mouse included; safe when nothing runs. The
+ * status key is left as it was.
+ */
 void TAStop(void);
 
 /*

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "bridge/BridgeSensor.h"
+#include "bridge/BridgeTouchDevices.h"
 #include "core/console/ProgramEnvironment.h"
 #include "macos/UserDefaultsSuites.h"
 
@@ -24,6 +25,8 @@ class MacProgramEnvironment final : public ProgramEnvironment {
   private:
     UserDefaultsSuites preferences_;
     BridgeSensor sensor_;
+    // The devices beside the Magic Mouse share the sensor's connection, so they live as long.
+    BridgeTouchDevices touchDevices_;
 };
 
 }  // namespace tactora::macos

@@ -53,9 +53,9 @@ class TouchDevices {
     virtual ~TouchDevices() = default;
 
     // From now on, besides the Magic Mouse, use the devices `choose` accepts (it is asked about
-    // every connected device that is not the Magic Mouse in use, whenever the list is brought
-    // up to date) and hand their frames to `callback`. Takes effect at the next refresh() or
-    // Sensor::start().
+    // every connected device but the Magic Mouse that Sensor::start() took, whenever the list is
+    // brought up to date) and hand their frames to `callback`. Takes effect at the next
+    // refresh() or Sensor::start().
     virtual void useOthers(DeviceFrameCallback callback, Choice choose) = 0;
     // Brings the list up to date after devices came or went or the choice changed: starts the
     // chosen devices, stops the ones gone or no longer chosen. Never touches the Magic Mouse's
