@@ -4,6 +4,7 @@
 
 #include "core/composition/Tactora.h"
 #include "core/platform/Sensor.h"
+#include "core/platform/TouchDevices.h"
 #include "core/profiles/Preferences.h"
 #include "macos/AppKitAdvancedSheetView.h"
 #include "macos/AppKitDialogs.h"
@@ -45,7 +46,8 @@ namespace tactora::macos {
 // the sensor), so the application simply lives as long as the process.
 class MacApplication {
   public:
-    MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defaults);
+    MacApplication(Sensor& sensor, TouchDevices& touchDevices,
+                   std::shared_ptr<Preferences> defaults);
 
     MacApplication(const MacApplication&) = delete;
     MacApplication& operator=(const MacApplication&) = delete;

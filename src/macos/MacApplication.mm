@@ -14,7 +14,8 @@
 
 namespace tactora::macos {
 
-MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defaults)
+MacApplication::MacApplication(Sensor& sensor, TouchDevices& touchDevices,
+                               std::shared_ptr<Preferences> defaults)
     : tap_(&forwardTapEvent),
       controls_([[TASettingsControls alloc]
           initWithEnableTitle:toNSString(settingsWindowTexts().enableSwitch)]),
@@ -54,7 +55,8 @@ MacApplication::MacApplication(Sensor& sensor, std::shared_ptr<Preferences> defa
               .processes = processes_,
               .picker = picker_,
           },
-          PartViews{.advanced = &advanced_, .moreSheet = &moreSheet_})) {
+          PartViews{
+              .advanced = &advanced_, .moreSheet = &moreSheet_, .touchDevices = &touchDevices})) {
     [delegate_ attachProgram:program_.get()];
 }
 

@@ -25,7 +25,8 @@ class MacProgramEnvironment final : public ProgramEnvironment {
   private:
     UserDefaultsSuites preferences_;
     BridgeSensor sensor_;
-    // The devices beside the Magic Mouse share the sensor's connection, so they live as long.
+    // The devices beside the Magic Mouse share the sensor's connection, so they live as long,
+    // and the program is given both.
     BridgeTouchDevices touchDevices_;
 };
 

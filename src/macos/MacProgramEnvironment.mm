@@ -33,7 +33,7 @@ void MacProgramEnvironment::runApplication() {
     [NSApplication sharedApplication];
     // Deliberately never deleted (see MacApplication): the sensor's thread may still be in a
     // frame callback when the process ends.
-    auto* const application = new MacApplication(sensor_, preferences_.standard());
+    auto* const application = new MacApplication(sensor_, touchDevices_, preferences_.standard());
     application->run();
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -26,6 +27,21 @@ constexpr std::uint64_t trackpadSender = 120;
 constexpr std::uint64_t builtInSender = 130;
 
 using Contacts = std::vector<std::pair<float, float>>;
+
+// Writes down what the devices' gestures tell, one line each.
+class RecordingWatcher final : public DeviceGestureWatcher {
+  public:
+    void recognised(std::uint64_t device, GestureKind kind, std::int64_t fingers) override {
+        lines.push_back((kind == GestureKind::tap ? "tap " : "click ") + std::to_string(fingers) +
+                        " @" + std::to_string(device));
+    }
+    void rewritten(std::uint64_t device, ActionIndex action, MouseButton button) override {
+        lines.push_back("action " + std::to_string(action) + " button " +
+                        std::to_string(static_cast<int>(button)) + " @" + std::to_string(device));
+    }
+
+    std::vector<std::string> lines;
+};
 
 Contacts fingers(int count) {
     Contacts contacts;
@@ -380,6 +396,38 @@ TEST_F(DeviceGesturesTest, ATickedTrackpadThatComesBackWithANewIdIsUsedAgain) {
 
     EXPECT_EQ(devices.listed.back().state, TouchDeviceState::connected);
     EXPECT_EQ(runner.performed.size(), 1u);
+}
+
+TEST_F(DeviceGesturesTest, TheWatcherHearsEveryTapAndClickWithItsDeviceAndEveryRewrite) {
+    RecordingWatcher watcher;
+    gestures->watch(&watcher);
+    runner.slots.at(slot::forClick(3)).action = action::middle;
+    launchUsing({trackpadID, builtInID});
+
+    tap(builtInID, 2);
+    frame(trackpadID, 3);
+    event(event::leftMouseDown, trackpadSender);
+    event(event::leftMouseUp, trackpadSender);
+    frame(trackpadID, 1);
+    event(event::leftMouseDown, trackpadSender);
+
+    EXPECT_EQ(watcher.lines, (std::vector<std::string>{"tap 2 @30", "click 3 @20",
+                                                       "action 3 button 2 @20", "click 1 @20"}));
+    gestures->watch(nullptr);
+}
+
+TEST_F(DeviceGesturesTest, TheWindowIsToldWhenDevicesComeAndGoOrAreTicked) {
+    int told = 0;
+    gestures->setListChanged([&told] { ++told; });
+
+    gestures->setUses(devices.listed[2], true);
+    EXPECT_EQ(told, 1);
+    gestures->launched(clock.now);
+    EXPECT_EQ(told, 2);
+    devices.leave(builtInID);
+    EXPECT_EQ(told, 3);
+    gestures->setUses(devices.listed[1], true);
+    EXPECT_EQ(told, 4);
 }
 
 }  // namespace

@@ -27,17 +27,19 @@ std::shared_ptr<ExtraActions> makeExtraActions(const ControllerServices& service
         marker);
 }
 
-// `services`, handing the further actions to `extras` when there are any, touches to `guard`
-// and the gestures beyond the eight to `more`.
+// `services`, handing the further actions to `extras` when there are any, touches to `guard`,
+// the gestures beyond the eight to `more` and the events of the other devices to `devices`.
 ControllerServices withParts(ControllerServices services,
                              const std::shared_ptr<ExtraActions>& extras,
                              const std::shared_ptr<MisfireGuard>& guard,
-                             const std::shared_ptr<MoreGesturesExtension>& more) {
+                             const std::shared_ptr<MoreGesturesExtension>& more,
+                             const std::shared_ptr<DeviceGestures>& devices) {
     if (extras) {
         services.extraActions = extras;
     }
     services.judge = guard;
     services.extension = more;
+    services.deviceEvents = devices;
     return services;
 }
 
@@ -63,7 +65,13 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
       guard_(makeGuard(services)),
       more_(std::make_shared<MoreGesturesExtension>(
           MoreGestureServices{.poster = services.poster, .dragger = services.dragger})),
-      controller_(Controller::create(withParts(services, extras_, guard_, more_))),
+      devices_(std::make_shared<DeviceGestures>(DeviceGestureServices{
+          .devices = views.touchDevices != nullptr ? *views.touchDevices : noTouchDevices_,
+          .queue = services.queue,
+          .clock = services.clock,
+          .defaults = services.defaults})),
+      controller_(Controller::create(withParts(services, extras_, guard_, more_, devices_))),
+      runner_(*controller_),
       keeper_(GestureKeeper::create({.clock = services.clock,
                                      .queue = services.queue,
                                      .view = services.view,
@@ -101,6 +109,8 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
     controller_->addObserver(*more_);
     controller_->addObserver(advanced_);
     controller_->addObserver(moreSheet_);
+    devices_->runThrough(runner_);
+    controller_->addObserver(*devices_);
     // What the sheet stores is recognised from the next touch on, not only after a refresh.
     moreSheet_.setMappingChanged(
         [this, &clock = services.clock] { more_->refreshed(clock.uptime()); });
@@ -121,6 +131,7 @@ Tactora::~Tactora() {
         // The further actions may outlive the program's parts through the controller.
         extras_->setRowsChanged({});
     }
+    controller_->removeObserver(*devices_);
     controller_->removeObserver(moreSheet_);
     controller_->removeObserver(advanced_);
     controller_->removeObserver(*more_);

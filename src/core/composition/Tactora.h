@@ -7,6 +7,8 @@
 #include "core/advanced/AdvancedSettings.h"
 #include "core/app/Controller.h"
 #include "core/app/ControllerServices.h"
+#include "core/devices/ControllerGestureRunner.h"
+#include "core/devices/DeviceGestures.h"
 #include "core/feedback/MenuBarFeedback.h"
 #include "core/frontmost/FrontmostProfiles.h"
 #include "core/keepgestures/GestureKeeper.h"
@@ -22,11 +24,13 @@
 
 namespace tactora {
 
-// The views of the parts beside the controller that the controller itself never touches: not
-// owned, each must outlive the program. A part without its view never shows it.
+// The views of the parts beside the controller that the controller itself never touches, and
+// what only those parts reach: not owned, each must outlive the program. A part without its
+// view never shows it; without touch devices, nothing but the Magic Mouse is used.
 struct PartViews {
     AdvancedSheetView* advanced = nullptr;
     MoreSheetView* moreSheet = nullptr;
+    TouchDevices* touchDevices = nullptr;
 };
 
 // The running program: the controller and the parts beside it, wired together. The controller
@@ -48,6 +52,8 @@ struct PartViews {
 //   moresheet/   the More Gestures sheet, which edits their actions (the further ones through
 //                ExtraActionPerformer, as the gesture rows do), shortcuts and top band
 //   advanced/    the Advanced sheet, which edits those options and limits, and its try area
+//   devices/     the trackpads beside the Magic Mouse: which are used, and their taps and
+//                clicks, whose events the controller hands on through DeviceEvents
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
@@ -77,6 +83,7 @@ class Tactora {
     MoreGesturesExtension& moreGestures() { return *more_; }
     AdvancedSettings& advanced() { return advanced_; }
     MoreSheet& moreSheet() { return moreSheet_; }
+    DeviceGestures& deviceGestures() { return *devices_; }
 
   private:
     // Stands in for the Advanced sheet when there is none: shows nothing.
@@ -92,12 +99,25 @@ class Tactora {
         void showMoreSheet(const MoreSheetContent& /*content*/) override {}
     };
 
+    // Stands in for the touch devices when there are none: lists nothing, starts nothing.
+    class NoTouchDevices final : public TouchDevices {
+      public:
+        void useOthers(DeviceFrameCallback /*callback*/, Choice /*choose*/) override {}
+        bool refresh() override { return false; }
+        std::vector<TouchDevice> devices() const override { return {}; }
+        std::uint64_t deviceForSender(std::uint64_t /*senderID*/) override { return 0; }
+        bool watch(std::function<void()> /*changed*/) override { return false; }
+    };
+
     Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras, PartViews views);
 
     std::shared_ptr<ExtraActions> extras_;
     std::shared_ptr<MisfireGuard> guard_;
     std::shared_ptr<MoreGesturesExtension> more_;
+    NoTouchDevices noTouchDevices_;
+    std::shared_ptr<DeviceGestures> devices_;
     std::shared_ptr<Controller> controller_;
+    ControllerGestureRunner runner_;
     std::shared_ptr<GestureKeeper> keeper_;
     std::shared_ptr<FrontmostProfiles> frontmost_;
     std::shared_ptr<LiveView> liveView_;

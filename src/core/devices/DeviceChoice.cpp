@@ -48,6 +48,9 @@ std::optional<TouchDeviceKind> storedKind(std::string_view name) {
 }
 
 DeviceChoice::DeviceChoice(std::shared_ptr<Preferences> defaults) : defaults_(std::move(defaults)) {
+    if (!defaults_) {
+        return;
+    }
     const std::optional<std::string> stored = defaults_->string(std::string(key));
     if (!stored) {
         return;
@@ -79,6 +82,9 @@ void DeviceChoice::setUses(const TouchDevice& device, bool use) {
 }
 
 void DeviceChoice::save() const {
+    if (!defaults_) {
+        return;
+    }
     nlohmann::json array = nlohmann::json::array();
     for (const auto& [kind, name] : chosen_) {
         array.push_back({{"kind", std::string(storedKindName(kind))}, {"name", name}});

@@ -25,6 +25,7 @@ class DeviceChoice {
   public:
     static constexpr std::string_view key = "TouchDevicesInUse";
 
+    // Without `defaults`, the choice lasts only as long as this object.
     explicit DeviceChoice(std::shared_ptr<Preferences> defaults);
 
     bool uses(const TouchDevice& device) const;

@@ -52,6 +52,8 @@ void DeviceGestures::setUses(const TouchDevice& device, bool use) {
     choice_.setUses(device, use);
     if (using_) {
         devicesChanged();
+    } else if (listChanged_) {
+        listChanged_();
     }
 }
 
@@ -83,6 +85,9 @@ void DeviceGestures::receive(const ContactFrame& frame) {
     const std::optional<std::int64_t> tap = recognisers_.update(frame.device, fingers_, now);
     if (!tap || runner_ == nullptr) {
         return;
+    }
+    if (watcher_ != nullptr) {
+        watcher_->recognised(frame.device, GestureKind::tap, *tap);
     }
     SlotAction slot = runner_->trackpadSlot(slot::forTap(*tap));
     if (slot.action == action::defaultAction || !runner_->canRunGestures()) {
@@ -160,6 +165,9 @@ EventDisposition DeviceGestures::pressDown(std::uint64_t device, TapEvent& event
         fingers > GestureState::maxFingers) {
         return EventDisposition::pass;
     }
+    if (watcher_ != nullptr) {
+        watcher_->recognised(device, GestureKind::click, fingers);
+    }
     SlotAction slot = runner_->trackpadSlot(slot::forClick(fingers));
     if (slot.action == action::defaultAction) {
         return EventDisposition::pass;
@@ -181,6 +189,9 @@ EventDisposition DeviceGestures::pressDown(std::uint64_t device, TapEvent& event
         return EventDisposition::swallow;
     }
     rewritePress(event, held, true, false);
+    if (watcher_ != nullptr) {
+        watcher_->rewritten(device, held.action, *held.button);
+    }
     return EventDisposition::pass;
 }
 
@@ -267,6 +278,9 @@ void DeviceGestures::devicesChanged() {
         releasePresses(device);
         recognisers_.forget(device);
     }
+    if (listChanged_) {
+        listChanged_();
+    }
 }
 
 // --- What the controller tells ----------------------------------------------------------------
@@ -277,7 +291,7 @@ void DeviceGestures::launched(double /*time*/) {
     services_.devices.useOthers(&DeviceGestures::frameArrived, [this](const TouchDevice& device) {
         return device.kind != TouchDeviceKind::magicMouse && choice_.uses(device);
     });
-    services_.devices.refresh();
+    devicesChanged();
     services_.devices.watch([weak = weak_from_this()] {
         if (const auto self = weak.lock()) {
             self->devicesChanged();

@@ -3,8 +3,10 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "core/app/ControllerObserver.h"
@@ -12,6 +14,7 @@
 #include "core/app/PendingTap.h"
 #include "core/app/Press.h"
 #include "core/devices/DeviceChoice.h"
+#include "core/devices/DeviceGestureWatcher.h"
 #include "core/devices/DeviceRecognisers.h"
 #include "core/devices/GestureRunner.h"
 #include "core/gestures/Finger.h"
@@ -60,6 +63,10 @@ class DeviceGestures final : public DeviceEvents,
     // Runs the gestures through `runner` (not owned; it must outlive this). Until it is given,
     // devices are listed but no gesture runs.
     void runThrough(GestureRunner& runner) { runner_ = &runner; }
+    // Tells `watcher` (not owned; nullptr for none) what the devices' gestures are from now on.
+    void watch(DeviceGestureWatcher* watcher) { watcher_ = watcher; }
+    // Runs `changed` whenever the list of devices or the use of one changed (empty: nothing).
+    void setListChanged(std::function<void()> changed) { listChanged_ = std::move(changed); }
 
     // Every device seen, the Magic Mouse included.
     std::vector<TouchDevice> devices() const { return services_.devices.devices(); }
@@ -71,6 +78,10 @@ class DeviceGestures final : public DeviceEvents,
     bool trackpadSeen() const;
     // The presses held on the devices now.
     std::size_t heldPresses() const { return presses_.size(); }
+
+    // One frame of a device in use, on the main thread: feeds that device's recogniser, and
+    // schedules a recognised tap's action the tap's wait later.
+    void receive(const ContactFrame& frame);
 
     std::optional<EventDisposition> decide(EventType type, TapEvent& event) override;
 
@@ -93,7 +104,6 @@ class DeviceGestures final : public DeviceEvents,
     // On the sensor's thread: hands the frame to the main queue.
     static void frameArrived(const ContactFrame& frame);
     static void receiveFrame(const ContactFrame& frame);
-    void receive(const ContactFrame& frame);
     void scheduleTap(std::uint64_t device, PendingTap tap);
     void performTap(std::uint64_t device, const PendingTap& tap);
 
@@ -114,6 +124,8 @@ class DeviceGestures final : public DeviceEvents,
 
     DeviceGestureServices services_;
     GestureRunner* runner_ = nullptr;
+    DeviceGestureWatcher* watcher_ = nullptr;
+    std::function<void()> listChanged_;
     DeviceChoice choice_;
     DeviceRecognisers recognisers_;
     bool using_ = false;
