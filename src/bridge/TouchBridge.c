@@ -436,6 +436,25 @@ static void stopMouse(void) {
     atomic_store(&client, NULL);
 }
 
+/* Whether a device chosen beside the mouse delivers frames. */
+static bool othersFlow(void) {
+    for (int32_t index = 0; index < slotCount; ++index) {
+        if (slots[index].info.state == TADeviceStateConnected && index != mouseEntry) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/*
+ * TAStart's result: frames flow from the mouse or, while a choice is given, from a device
+ * chosen beside it, so that a Mac whose only surface in use is a trackpad still counts as
+ * running. The status keys keep speaking for the mouse alone.
+ */
+static int32_t startResult(void) {
+    return mouse != NULL || (choose != NULL && othersFlow()) ? 1 : 0;
+}
+
 int32_t TAStart(TAFrameCallback newClient) {
     TAStop();
     statusError = 0;
@@ -461,7 +480,7 @@ int32_t TAStart(TAFrameCallback newClient) {
     if (found == NULL) {
         setStatus("sensor.missing");
         applyChoice();
-        return 0;
+        return startResult();
     }
     mouse = found;
     mouseEntry = entryOf(found);
@@ -487,7 +506,7 @@ int32_t TAStart(TAFrameCallback newClient) {
     }
     statusError = code;
     setStatus("sensor.blocked");
-    return 0;
+    return startResult();
 }
 
 void TAStop(void) {

@@ -32,8 +32,10 @@ typedef void (*TAFrameCallback)(int32_t count, const int32_t* ids, const float* 
 
 /*
  * Stops any earlier connection, then connects to the mouse and delivers its frames to
- * `client`. Returns 1 when frames flow, 0 otherwise; TAStatus tells why. Also starts the other
- * devices chosen through TAUseOtherDevices, whatever became of the mouse.
+ * `client`. Also starts the other devices chosen through TAUseOtherDevices, whatever became of
+ * the mouse. Returns 1 when frames flow: from the mouse or, once a choice was given, from at
+ * least one chosen device beside it, so that a Mac whose only surface in use is a trackpad can
+ * run; 0 otherwise. TAStatus and TAStatusError speak for the mouse alone, frames or not.
  */
 int32_t TAStart(TAFrameCallback client);
 

@@ -179,6 +179,18 @@ TEST_F(BridgeTouchDevicesTest, RefreshTouchesNothingThatRunsTheMouseLeast) {
     EXPECT_EQ(FrameRecorder::received().size(), 1u);
 }
 
+TEST_F(BridgeTouchDevicesTest, TheSensorStartsWithAChosenTrackpadAlone) {
+    fake_.controls().removeDevice(kMouse);
+    useOthers({TouchDeviceKind::magicTrackpad});
+
+    EXPECT_TRUE(startSensor());
+
+    EXPECT_EQ(sensor_.status(), "sensor.missing");
+    EXPECT_EQ(sensor_.statusError(), 0);
+    EXPECT_EQ(sensor_.connectedDevice(), 0u);
+    EXPECT_EQ(device(kTrackpad).state, TouchDeviceState::connected);
+}
+
 TEST_F(BridgeTouchDevicesTest, TellsTheDeviceOfASender) {
     fake_.controls().addSender(77, kTrackpad);
     fake_.controls().addSender(78, kMouse);

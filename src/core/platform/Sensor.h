@@ -16,8 +16,10 @@ class Sensor {
   public:
     virtual ~Sensor() = default;
 
-    // Stops any earlier connection, then connects and starts delivering frames to `callback`.
-    // True when frames flow.
+    // Stops any earlier connection, then connects and starts delivering the Magic Mouse's frames
+    // to `callback`. True when frames flow: from the Magic Mouse or, once
+    // TouchDevices::useOthers() gave a choice, from at least one device chosen beside it (whose
+    // frames go to the callback given there), so that a Mac with only a trackpad in use can run.
     virtual bool start(FrameCallback callback) = 0;
     virtual void stop() = 0;
 
