@@ -29,6 +29,11 @@ static int32_t mouseList = -1;
 static uint64_t deviceEntryID = 0; /* of `mouse` while frames flow */
 /* Read on the framework's thread while TAStop may clear it on the main thread. */
 static _Atomic(TAFrameCallback) client;
+/*
+ * TAStart's client, kept until TAStop even while no mouse runs, so that a refresh can hand it a
+ * Magic Mouse that arrives later. Main thread only.
+ */
+static TAFrameCallback startClient = NULL;
 
 /* The devices beside the mouse: the client's choice and where their frames go. */
 static TADeviceChoice choose = NULL;
@@ -276,8 +281,8 @@ static void startSlot(int32_t index) {
 }
 
 /*
- * The mouse's entry only says that it is gone: its connection is TAStart's to end. A mouse that
- * comes back is another device, which TAStart has not taken.
+ * The mouse's entry only says that it is gone: its connection is ended by TAStart, or by the
+ * refresh that follows the mouse (followMouse). A mouse that comes back is another device.
  */
 static void leave(int32_t index) {
     Slot* slot = &slots[index];
@@ -436,6 +441,37 @@ static void stopMouse(void) {
     atomic_store(&client, NULL);
 }
 
+/*
+ * Takes `found`, a device of the newest list listed at `entry` (-1 for none), as the mouse and
+ * starts it for TAStart's client. Returns the start's code; on success frames flow and the
+ * status says so. A failure is left for the caller to report, since TAStart without a choice
+ * ends everything then.
+ */
+static int32_t startMouse(void* found, int32_t entry) {
+    mouse = found;
+    mouseEntry = entry;
+    mouseList = newestList;
+    addListUser(mouseList);
+    atomic_store(&client, startClient);
+    functions.registerHandler(mouse, frame);
+    const int32_t code = functions.start(mouse, 0);
+    if (code == 0) {
+        deviceEntryID = TAServiceEntryID(functions.getService(mouse));
+        setMouseState(TADeviceStateConnected, 0);
+        setStatus("sensor.connected");
+    } else {
+        setMouseState(TADeviceStateBlocked, code);
+    }
+    return code;
+}
+
+/* Reports a mouse that could not be started, and stops what it left registered. */
+static void blockMouse(int32_t code) {
+    stopMouse();
+    statusError = code;
+    setStatus("sensor.blocked");
+}
+
 /* Whether a device chosen beside the mouse delivers frames. */
 static bool othersFlow(void) {
     for (int32_t index = 0; index < slotCount; ++index) {
@@ -460,6 +496,7 @@ int32_t TAStart(TAFrameCallback newClient) {
     statusError = 0;
     slotCount = 0;
     mouseEntry = -1;
+    startClient = newClient;
     if (library == NULL) {
         library = TAOpenLibrary(frameworkPath);
     }
@@ -482,30 +519,18 @@ int32_t TAStart(TAFrameCallback newClient) {
         applyChoice();
         return startResult();
     }
-    mouse = found;
-    mouseEntry = entryOf(found);
-    mouseList = newestList;
-    addListUser(mouseList);
-    atomic_store(&client, newClient);
-    functions.registerHandler(mouse, frame);
-    int32_t code = functions.start(mouse, 0);
-    if (code == 0) {
-        deviceEntryID = TAServiceEntryID(functions.getService(mouse));
-        setMouseState(TADeviceStateConnected, 0);
-        setStatus("sensor.connected");
-        applyChoice();
-        return 1;
-    }
-    setMouseState(TADeviceStateBlocked, code);
-    if (choose == NULL) {
+    const int32_t code = startMouse(found, entryOf(found));
+    if (code != 0 && choose == NULL) {
         /* Only the mouse was ever wanted: end everything, as a failed start always has. */
         TAStop();
-    } else {
-        stopMouse();
-        applyChoice();
+        statusError = code;
+        setStatus("sensor.blocked");
+        return 0;
     }
-    statusError = code;
-    setStatus("sensor.blocked");
+    if (code != 0) {
+        blockMouse(code);
+    }
+    applyChoice();
     return startResult();
 }
 
@@ -525,6 +550,7 @@ void TAStop(void) {
     }
     releaseEveryList();
     mouseList = -1;
+    startClient = NULL;
     running = false;
 }
 
@@ -545,6 +571,59 @@ void TAUseOtherDevices(TADeviceFrameCallback newClient, TADeviceChoice chooser, 
     }
 }
 
+/*
+ * The first Magic Mouse of the newest list that nothing uses yet, and its entry: a mouse chosen
+ * beside the one TAStart takes stays where it is, so that following the mouse never touches
+ * another device.
+ */
+static void* freeMouse(int32_t* entry) {
+    const void* devices = newestList >= 0 ? heldLists[newestList].list : NULL;
+    const int64_t count = devices != NULL ? TADeviceCount(devices) : 0;
+    for (int64_t position = 0; position < count; ++position) {
+        void* candidate = TADeviceAt(devices, position);
+        const uint32_t service = functions.getService(candidate);
+        const int32_t index = presentSlotFor(candidate, TAServiceEntryID(service));
+        const bool inUseBeside = index >= 0 && slots[index].info.state != TADeviceStateOff;
+        if (!inUseBeside && TAIsMouseService(service)) {
+            *entry = index;
+            return candidate;
+        }
+    }
+    return NULL;
+}
+
+/*
+ * While a choice is given the devices beside the mouse keep running whatever the mouse does, so
+ * the refresh that sees it come and go also takes its connection along, where otherwise only
+ * TAStart would: a mouse that left is stopped, and one that arrives while none is TAStart's is
+ * started for TAStart's client. A blocked mouse stays TAStart's, tried again only by TAStart,
+ * like every blocked device. `mouseLeft` tells that the listing found TAStart's mouse gone; the
+ * mouse still holds the list it came from, so its device is valid until stopped here.
+ */
+static bool followMouse(bool mouseLeft) {
+    bool changed = false;
+    if (mouseLeft) {
+        stopMouse();
+        statusError = 0;
+        setStatus("sensor.missing");
+        changed = true;
+    }
+    if (mouseEntry >= 0 || mouse != NULL) {
+        return changed;
+    }
+    int32_t entry = -1;
+    void* found = freeMouse(&entry);
+    if (found == NULL) {
+        return changed;
+    }
+    statusError = 0;
+    const int32_t code = startMouse(found, entry);
+    if (code != 0) {
+        blockMouse(code);
+    }
+    return true;
+}
+
 int32_t TARefreshDevices(void) {
     if (!running) {
         return 0;
@@ -552,11 +631,16 @@ int32_t TARefreshDevices(void) {
     holdNewest(functions.createList());
     bool seen[TA_MAX_DEVICES] = {false};
     bool changed = list(seen);
+    bool mouseLeft = false;
     for (int32_t index = 0; index < slotCount; ++index) {
         if (!seen[index] && slots[index].device != NULL) {
+            mouseLeft = mouseLeft || index == mouseEntry;
             leave(index);
             changed = true;
         }
+    }
+    if (choose != NULL && followMouse(mouseLeft)) {
+        changed = true;
     }
     return applyChoice() || changed ? 1 : 0;
 }

@@ -46,18 +46,23 @@ int32_t TAStart(TAFrameCallback client);
 void TAStop(void);
 
 /*
- * The current status key: "sensor.not_started", "sensor.unavailable", "sensor.incompatible",
- * "sensor.missing", "sensor.blocked" or "sensor.connected". Never null; valid until the next
- * TAStart.
+ * The current status key of the mouse: "sensor.not_started", "sensor.unavailable",
+ * "sensor.incompatible", "sensor.missing", "sensor.blocked" or "sensor.connected". Set by
+ * TAStart and, once a choice was given, by TARefreshDevices as the mouse comes and goes. Never
+ * null; valid until the next TAStart or TARefreshDevices.
  */
 const char* TAStatus(void);
 
-/* The code returned by the device start that failed in the last TAStart, 0 otherwise. */
+/*
+ * The code returned by the mouse's start that failed, in the last TAStart or, once a choice was
+ * given, in the refresh that took a newly arrived mouse; 0 otherwise.
+ */
 int32_t TAStatusError(void);
 
 /*
- * The registry entry id of the device whose frames flow (see DeviceRegistry.h), 0 while none
- * is connected.
+ * The registry entry id of the mouse whose frames flow to TAStart's client (see
+ * DeviceRegistry.h), 0 while none is connected. The devices beside it are listed in
+ * TouchDevices.h.
  */
 uint64_t TAConnectedDevice(void);
 

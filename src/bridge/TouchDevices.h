@@ -8,6 +8,10 @@
  * hands their frames, with the device they came from, to a second client. TAStop ends them all.
  * Until a choice is given nothing but the mouse is ever started.
  *
+ * With a choice given, the devices beside the mouse no longer depend on it: TAStart reports
+ * frames flowing when only they run, and TARefreshDevices follows the mouse as it leaves and
+ * comes back, without stopping them.
+ *
  * The bridge lists every device the framework knows, the Magic Mouse included, with its kind and
  * name. A device is known by the registry entry id of its service for as long as it stays
  * connected. One that leaves stays listed as missing; when a device of the same kind and name
@@ -72,9 +76,17 @@ void TAUseOtherDevices(TADeviceFrameCallback client, TADeviceChoice choose, void
  * Brings the devices beside the mouse up to date after devices came or went, or after the
  * choice changed: new devices are listed, asked and started if chosen, gone ones are stopped and
  * listed as missing, devices no longer chosen are stopped, and a device whose use goes on is not
- * touched at all. A blocked device is tried again only by the next TAStart. Never touches the
- * mouse's connection nor TAStatus; a mouse that left is only listed as missing. Returns 1 when
- * something changed, 0 otherwise (also while nothing runs).
+ * touched at all. A blocked device is tried again only by the next TAStart.
+ *
+ * Without a choice it never touches the mouse's connection nor TAStatus; a mouse that left is
+ * only listed as missing. With a choice it follows the mouse too: when TAStart's mouse has left
+ * it is stopped and listed missing, TAConnectedDevice() becomes 0 and TAStatus
+ * "sensor.missing"; when no mouse is TAStart's (none was found, or it left) and a Magic Mouse
+ * that no choice uses is connected, it is started for TAStart's client, with TAConnectedDevice()
+ * its id and TAStatus "sensor.connected", or "sensor.blocked" with TAStatusError() its code. A
+ * blocked mouse stays TAStart's until it leaves. The devices beside the mouse run on throughout.
+ *
+ * Returns 1 when something changed, 0 otherwise (also while nothing runs).
  */
 int32_t TARefreshDevices(void);
 

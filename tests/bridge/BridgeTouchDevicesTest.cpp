@@ -18,6 +18,7 @@ constexpr std::uint32_t kMouse = 5;
 constexpr std::uint32_t kTrackpad = 6;
 constexpr std::uint32_t kLaptop = 7;
 constexpr std::uint32_t kReturnedTrackpad = 8;
+constexpr std::uint32_t kReturnedMouse = 9;
 
 std::vector<ContactFrame>& received() {
     static std::vector<ContactFrame> frames;
@@ -189,6 +190,52 @@ TEST_F(BridgeTouchDevicesTest, TheSensorStartsWithAChosenTrackpadAlone) {
     EXPECT_EQ(sensor_.statusError(), 0);
     EXPECT_EQ(sensor_.connectedDevice(), 0u);
     EXPECT_EQ(device(kTrackpad).state, TouchDeviceState::connected);
+}
+
+TEST_F(BridgeTouchDevicesTest, TheSensorFollowsTheMouseThroughARefresh) {
+    useOthers({TouchDeviceKind::magicTrackpad});
+    ASSERT_TRUE(startSensor());
+
+    fake_.controls().removeDevice(kMouse);
+    ASSERT_TRUE(devices_.refresh());
+    EXPECT_EQ(sensor_.status(), "sensor.missing");
+    EXPECT_EQ(sensor_.statusError(), 0);
+    EXPECT_EQ(sensor_.connectedDevice(), 0u);
+    EXPECT_EQ(device(kMouse).state, TouchDeviceState::missing);
+    deliver(kTrackpad, RawFrame(touchingContacts(1)));
+
+    fake_.controls().addDescribedDevice(kReturnedMouse, "HIDMouseAcceleration", "Magic Mouse",
+                                        false);
+    ASSERT_TRUE(devices_.refresh());
+    EXPECT_EQ(sensor_.status(), "sensor.connected");
+    EXPECT_EQ(sensor_.connectedDevice(), kReturnedMouse);
+    EXPECT_EQ(device(kReturnedMouse).state, TouchDeviceState::connected);
+    deliver(kTrackpad, RawFrame(touchingContacts(2)));
+    deliver(kReturnedMouse, RawFrame({{6, kTouching, 0.5f, 0.5f}}));
+
+    ASSERT_EQ(received().size(), 2u);
+    EXPECT_EQ(received()[1].device, kTrackpad);
+    EXPECT_EQ(received()[1].count, 2u);
+    ASSERT_EQ(FrameRecorder::received().size(), 1u);
+    EXPECT_EQ(FrameRecorder::received()[0], (std::vector<DeliveredContact>{{6, 0.5f, 0.5f}}));
+}
+
+TEST_F(BridgeTouchDevicesTest, TheSensorReportsAReturningMouseThatCannotStart) {
+    useOthers({TouchDeviceKind::magicTrackpad});
+    ASSERT_TRUE(startSensor());
+    fake_.controls().removeDevice(kMouse);
+    ASSERT_TRUE(devices_.refresh());
+
+    fake_.controls().addDescribedDevice(kReturnedMouse, "HIDMouseAcceleration", "Magic Mouse",
+                                        false);
+    fake_.controls().setDeviceStartResult(kReturnedMouse, 31);
+    ASSERT_TRUE(devices_.refresh());
+
+    EXPECT_EQ(sensor_.status(), "sensor.blocked");
+    EXPECT_EQ(sensor_.statusError(), 31);
+    EXPECT_EQ(sensor_.connectedDevice(), 0u);
+    EXPECT_EQ(device(kReturnedMouse).state, TouchDeviceState::blocked);
+    EXPECT_TRUE(fake_.controls().isStarted(kTrackpad));
 }
 
 TEST_F(BridgeTouchDevicesTest, TellsTheDeviceOfASender) {

@@ -21,6 +21,7 @@ constexpr std::uint32_t kLaptop = 23;
 constexpr std::uint32_t kStrip = 24;
 constexpr std::uint32_t kReturnedTrackpad = 25;
 constexpr std::uint32_t kSecondMouse = 26;
+constexpr std::uint32_t kReturnedMouse = 27;
 
 // The kinds the client has switched on, as a device choice for the bridge, and every device
 // it was asked about.
@@ -306,10 +307,9 @@ TEST_F(TouchDevices, AReturningDeviceTakesItsEntryBackUnderItsNewId) {
     EXPECT_EQ(DeviceFrameRecorder::devices(), (std::vector<std::uint64_t>{kReturnedTrackpad}));
 }
 
-TEST_F(TouchDevices, TheMouseLeavingIsOnlyListedItsConnectionIsStarts) {
+TEST_F(TouchDevices, WithoutAChoiceTheMouseLeavingIsOnlyListedItsConnectionIsStarts) {
     addMouse();
     addTrackpad();
-    useOthers();
     ASSERT_EQ(start(), 1);
 
     fake_.controls().removeDevice(kMouse);
@@ -321,7 +321,20 @@ TEST_F(TouchDevices, TheMouseLeavingIsOnlyListedItsConnectionIsStarts) {
     EXPECT_EQ(fake_.log().unregistrations, 0);
     EXPECT_STREQ(TAStatus(), "sensor.connected");
     EXPECT_EQ(TAConnectedDevice(), kMouse);
-    EXPECT_TRUE(fake_.controls().isStarted(kTrackpad));
+}
+
+TEST_F(TouchDevices, WithoutAChoiceAnArrivingMouseWaitsForStart) {
+    addTrackpad();
+    ASSERT_EQ(start(), 0);
+
+    addMouse();
+    EXPECT_EQ(TARefreshDevices(), 1);
+
+    EXPECT_EQ(device(kMouse).state, TADeviceStateOff);
+    EXPECT_FALSE(fake_.controls().isStarted(kMouse));
+    EXPECT_STREQ(TAStatus(), "sensor.missing");
+    EXPECT_EQ(TAConnectedDevice(), 0u);
+    EXPECT_EQ(fake_.log().starts, 0);
 }
 
 TEST_F(TouchDevices, WithoutAChoiceOnlyTheMouseMakesStartSucceed) {
@@ -354,6 +367,158 @@ TEST_F(TouchDevices, StartFailsWhenTheMouseIsBlockedAndNoChosenDeviceRuns) {
     EXPECT_STREQ(TAStatus(), "sensor.blocked");
     EXPECT_EQ(TAStatusError(), -4);
     EXPECT_EQ(device(kTrackpad).state, TADeviceStateBlocked);
+}
+
+TEST_F(TouchDevices, TheMouseLeavingIsStoppedWhileTheChosenDevicesRunOn) {
+    addMouse();
+    addTrackpad();
+    useOthers();
+    ASSERT_EQ(start(), 1);
+
+    fake_.controls().removeDevice(kMouse);
+    EXPECT_EQ(TARefreshDevices(), 1);
+
+    EXPECT_EQ(device(kMouse).state, TADeviceStateMissing);
+    EXPECT_FALSE(fake_.controls().isStarted(kMouse));
+    EXPECT_EQ(fake_.log().stops, 1);
+    EXPECT_EQ(fake_.log().stoppedService, kMouse);
+    EXPECT_STREQ(TAStatus(), "sensor.missing");
+    EXPECT_EQ(TAStatusError(), 0);
+    EXPECT_EQ(TAConnectedDevice(), 0u);
+    EXPECT_TRUE(fake_.controls().isStarted(kTrackpad));
+    EXPECT_EQ(device(kTrackpad).state, TADeviceStateConnected);
+    // A mouse frame already under way when it stopped reaches no one.
+    deliver(kMouse, RawFrame(touchingContacts(1)));
+    deliver(kTrackpad, RawFrame(touchingContacts(2)));
+    EXPECT_TRUE(FrameRecorder::received().empty());
+    EXPECT_EQ(DeviceFrameRecorder::devices(), (std::vector<std::uint64_t>{kTrackpad}));
+    EXPECT_EQ(TARefreshDevices(), 0);
+}
+
+TEST_F(TouchDevices, AMouseArrivingWhenNoneWasThereIsStartedForStartsClient) {
+    addTrackpad();
+    useOthers();
+    ASSERT_EQ(start(), 1);
+
+    addMouse();
+    EXPECT_EQ(TARefreshDevices(), 1);
+
+    EXPECT_TRUE(fake_.controls().isStarted(kMouse));
+    EXPECT_EQ(device(kMouse).state, TADeviceStateConnected);
+    EXPECT_STREQ(TAStatus(), "sensor.connected");
+    EXPECT_EQ(TAStatusError(), 0);
+    EXPECT_EQ(TAConnectedDevice(), kMouse);
+    EXPECT_FALSE(choice_.asked.contains(kMouse)) << "the mouse is TAStart's, not the choice's";
+    EXPECT_EQ(fake_.log().starts, 2);
+    EXPECT_EQ(fake_.log().stops, 0);
+    EXPECT_EQ(fake_.log().unregistrations, 0);
+    deliver(kMouse, RawFrame({{4, kTouching, 0.5f, 0.75f}}));
+    deliver(kTrackpad, RawFrame(touchingContacts(1)));
+    ASSERT_EQ(FrameRecorder::received().size(), 1u);
+    EXPECT_EQ(FrameRecorder::received()[0], (std::vector<DeliveredContact>{{4, 0.5f, 0.75f}}));
+    EXPECT_EQ(DeviceFrameRecorder::devices(), (std::vector<std::uint64_t>{kTrackpad}));
+    EXPECT_EQ(TARefreshDevices(), 0);
+}
+
+TEST_F(TouchDevices, TheTrackpadsFramesKeepArrivingWhileTheMouseLeavesAndReturns) {
+    addMouse();
+    addTrackpad();
+    useOthers();
+    ASSERT_EQ(start(), 1);
+    deliver(kTrackpad, RawFrame(touchingContacts(1)));
+
+    fake_.controls().removeDevice(kMouse);
+    ASSERT_EQ(TARefreshDevices(), 1);
+    deliver(kTrackpad, RawFrame(touchingContacts(2)));
+
+    addMouse(kReturnedMouse);
+    ASSERT_EQ(TARefreshDevices(), 1);
+    deliver(kTrackpad, RawFrame(touchingContacts(3)));
+    deliver(kReturnedMouse, RawFrame(touchingContacts(1)));
+
+    EXPECT_EQ(DeviceFrameRecorder::devices(),
+              (std::vector<std::uint64_t>{kTrackpad, kTrackpad, kTrackpad}));
+    EXPECT_EQ(DeviceFrameRecorder::received()[2].contacts.size(), 3u);
+    EXPECT_EQ(FrameRecorder::received().size(), 1u);
+    EXPECT_TRUE(fake_.controls().isStarted(kTrackpad));
+    // The trackpad was started once and never stopped; only the mice came and went.
+    EXPECT_EQ(fake_.log().starts, 3);
+    EXPECT_EQ(fake_.log().stops, 1);
+    EXPECT_EQ(fake_.log().stoppedService, kMouse);
+    EXPECT_STREQ(TAStatus(), "sensor.connected");
+    EXPECT_EQ(TAConnectedDevice(), kReturnedMouse);
+    // The returning mouse takes its entry back.
+    const std::vector<TADeviceInfo> devices = known();
+    ASSERT_EQ(devices.size(), 2u);
+    EXPECT_EQ(devices[0].id, kReturnedMouse);
+    EXPECT_EQ(devices[0].state, TADeviceStateConnected);
+}
+
+TEST_F(TouchDevices, AnArrivingMouseThatCannotStartIsReportedBlockedAndLeftAlone) {
+    addTrackpad();
+    useOthers();
+    ASSERT_EQ(start(), 1);
+
+    addMouse();
+    fake_.controls().setDeviceStartResult(kMouse, -9);
+    EXPECT_EQ(TARefreshDevices(), 1);
+
+    EXPECT_STREQ(TAStatus(), "sensor.blocked");
+    EXPECT_EQ(TAStatusError(), -9);
+    EXPECT_EQ(TAConnectedDevice(), 0u);
+    EXPECT_EQ(device(kMouse).state, TADeviceStateBlocked);
+    EXPECT_EQ(device(kMouse).error, -9);
+    EXPECT_FALSE(fake_.controls().isStarted(kMouse));
+    EXPECT_TRUE(fake_.controls().isStarted(kTrackpad));
+
+    // Like every blocked device, tried again only by the next start.
+    fake_.controls().setDeviceStartResult(kMouse, 0);
+    EXPECT_EQ(TARefreshDevices(), 0);
+    EXPECT_STREQ(TAStatus(), "sensor.blocked");
+
+    // Once it leaves, the status says so.
+    fake_.controls().removeDevice(kMouse);
+    EXPECT_EQ(TARefreshDevices(), 1);
+    EXPECT_STREQ(TAStatus(), "sensor.missing");
+    EXPECT_EQ(TAStatusError(), 0);
+    EXPECT_TRUE(fake_.controls().isStarted(kTrackpad));
+}
+
+TEST_F(TouchDevices, AMouseInUseBesideIsNotTakenWhenStartsMouseLeaves) {
+    addMouse();
+    addTrackpad();
+    addMouse(kSecondMouse);
+    choice_.kinds = {TADeviceKindMagicMouse, TADeviceKindMagicTrackpad};
+    useOthers();
+    ASSERT_EQ(start(), 1);
+
+    fake_.controls().removeDevice(kMouse);
+    EXPECT_EQ(TARefreshDevices(), 1);
+
+    EXPECT_STREQ(TAStatus(), "sensor.missing");
+    EXPECT_EQ(TAConnectedDevice(), 0u);
+    EXPECT_EQ(device(kSecondMouse).state, TADeviceStateConnected);
+    EXPECT_TRUE(fake_.controls().isStarted(kSecondMouse));
+    deliver(kSecondMouse, RawFrame(touchingContacts(1)));
+    EXPECT_EQ(DeviceFrameRecorder::devices(), (std::vector<std::uint64_t>{kSecondMouse}));
+    EXPECT_TRUE(FrameRecorder::received().empty());
+}
+
+TEST_F(TouchDevices, StopEndsAMouseTheRefreshTookAndReleasesEveryList) {
+    addTrackpad();
+    useOthers();
+    ASSERT_EQ(start(), 1);
+    addMouse();
+    ASSERT_EQ(TARefreshDevices(), 1);
+
+    TAStop();
+
+    EXPECT_FALSE(fake_.controls().isStarted(kMouse));
+    EXPECT_FALSE(fake_.controls().isStarted(kTrackpad));
+    EXPECT_FALSE(fake_.log().handlerRegistered);
+    EXPECT_EQ(fake_.log().listsCreated, fake_.log().listsReleased);
+    EXPECT_EQ(TAConnectedDevice(), 0u);
+    EXPECT_EQ(device(kMouse).state, TADeviceStateOff);
 }
 
 TEST_F(TouchDevices, NothingChangesWhenNothingCameOrWent) {

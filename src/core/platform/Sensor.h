@@ -23,13 +23,15 @@ class Sensor {
     virtual bool start(FrameCallback callback) = 0;
     virtual void stop() = 0;
 
-    // The status key of the last start ("sensor.connected", "sensor.missing", ...).
+    // The Magic Mouse's status key ("sensor.connected", "sensor.missing", ...), whatever the
+    // devices beside it do: that of the last start or, once TouchDevices::useOthers() gave a
+    // choice, of the last TouchDevices::refresh() that saw the mouse leave or arrive.
     virtual std::string status() const = 0;
-    // The error code of the last failed device start, 0 otherwise.
+    // The error code of the Magic Mouse's failed start behind status(), 0 otherwise.
     virtual std::int32_t statusError() const = 0;
 
-    // The registry entry id of the device whose frames flow (the id a DeviceWatcher reports),
-    // 0 while none is connected.
+    // The registry entry id of the Magic Mouse whose frames flow (the id a DeviceWatcher
+    // reports), 0 while none is connected; kept current by refresh() in the same way.
     virtual std::uint64_t connectedDevice() const = 0;
 
     // Whether the input device with this registry entry id is the Magic Mouse.

@@ -58,8 +58,11 @@ class TouchDevices {
     // refresh() or Sensor::start().
     virtual void useOthers(DeviceFrameCallback callback, Choice choose) = 0;
     // Brings the list up to date after devices came or went or the choice changed: starts the
-    // chosen devices, stops the ones gone or no longer chosen. Never touches the Magic Mouse's
-    // connection, nor a device whose use goes on. True when something changed.
+    // chosen devices, stops the ones gone or no longer chosen, never touching a device whose use
+    // goes on. Once useOthers() gave a choice it follows the Magic Mouse too, which the devices
+    // beside it no longer depend on: the one Sensor::start() took is stopped when it leaves, and
+    // while Sensor has none a Magic Mouse that arrives is started for Sensor's callback (Sensor's
+    // status(), statusError() and connectedDevice() say so). True when something changed.
     virtual bool refresh() = 0;
 
     // Every device seen since the sensor started, the Magic Mouse included, in the order first
