@@ -28,6 +28,7 @@
 #include "app/fakes/FakeSettingsView.h"
 #include "app/fakes/FakeSurfaceView.h"
 #include "app/fakes/FakeTapEvent.h"
+#include "app/fakes/FakeTouchDevices.h"
 #include "app/fakes/FakeTraceSink.h"
 #include "app/fakes/FakeWorkspace.h"
 #include "core/app/ApplicationController.h"
@@ -105,7 +106,9 @@ class ControllerHarness {
     }
 
     // The views of the parts beside the controller.
-    PartViews views() { return {.advanced = &advancedView, .moreSheet = &moreSheet}; }
+    PartViews views() {
+        return {.advanced = &advancedView, .moreSheet = &moreSheet, .touchDevices = &touchDevices};
+    }
 
     // Launches, then ticks the master switch as the user would.
     void launchAndSwitchOn() {
@@ -175,6 +178,8 @@ class ControllerHarness {
     FakePointerDragger dragger;
     FakeAdvancedSheetView advancedView;
     FakeMoreSheetView moreSheet;
+    // Lists nothing unless a test adds devices before launching.
+    FakeTouchDevices touchDevices;
     std::unique_ptr<Tactora> app;
     std::shared_ptr<Controller> controller;
 };

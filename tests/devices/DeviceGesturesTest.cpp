@@ -10,8 +10,8 @@
 #include "../app/fakes/FakeClock.h"
 #include "../app/fakes/FakeMainQueue.h"
 #include "../app/fakes/FakeTapEvent.h"
+#include "../app/fakes/FakeTouchDevices.h"
 #include "FakeGestureRunner.h"
-#include "FakeTouchDevices.h"
 #include "core/app/Controller.h"
 #include "core/profiles/GestureSlot.h"
 #include "core/profiles/MemoryPreferences.h"
@@ -135,13 +135,29 @@ TEST_F(DeviceGesturesTest, TrackpadsAreUnusedUntilTickedAndTheirFramesChangeNoth
     EXPECT_EQ(event(event::leftMouseDown, trackpadSender), std::nullopt);
 }
 
-TEST_F(DeviceGesturesTest, NothingIsStartedOrRecognisedBeforeLaunch) {
+TEST_F(DeviceGesturesTest,
+       TheChoiceIsGivenBeforeTheFirstConnectionButNothingIsDecidedBeforeLaunch) {
     runner.slots.at(slot::forTap(3)).action = action::middle;
     gestures->setUses(devices.listed[1], true);
 
+    // The launch's first connection starts what the choice accepts; the mouse is never asked.
+    ASSERT_NE(devices.callback, nullptr);
+    ASSERT_TRUE(devices.choose);
+    EXPECT_TRUE(devices.choose(devices.listed[1]));
+    EXPECT_FALSE(devices.choose(devices.listed[2]));
+    EXPECT_FALSE(devices.choose(devices.listed[0]));
     EXPECT_EQ(devices.refreshes, 0);
-    EXPECT_EQ(devices.callback, nullptr);
     EXPECT_EQ(event(event::leftMouseDown, trackpadSender), std::nullopt);
+}
+
+TEST_F(DeviceGesturesTest, OthersAreInUseOnlyWhileATrackpadIsConnectedAndTicked) {
+    EXPECT_FALSE(gestures->othersInUse());
+    launchUsing({trackpadID});
+    EXPECT_TRUE(gestures->othersInUse());
+
+    devices.leave(trackpadID);
+
+    EXPECT_FALSE(gestures->othersInUse());
 }
 
 TEST_F(DeviceGesturesTest, FingersOnTwoTrackpadsNeverMakeOneTap) {

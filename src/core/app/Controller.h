@@ -137,6 +137,7 @@ class Controller final : public StatusDisplay,
     void reconnect() override;
     bool sensorReady() const override { return state_.ready; }
     const std::string& sensorText() const override { return sensorText_; }
+    void sensorFollowed() override;
     // The system woke from sleep: pause, then reconnect.
     void woke();
 

@@ -56,6 +56,15 @@ void Controller::reconnect() {
     observers_.reconnected({.ready = state_.ready, .time = services_.clock.uptime()});
 }
 
+void Controller::sensorFollowed() {
+    if (services_.sensor.connectedDevice() == 0) {
+        releasePresses();
+    }
+    sensorText_ = L(services_.sensor.status(), services_.sensor.statusError());
+    services_.view.setStatusText(sensorText_);
+    refresh();
+}
+
 void Controller::woke() {
     observers_.woke({.time = services_.clock.uptime()});
     const ScopedCount program(programActions_);

@@ -13,7 +13,7 @@ class GestureSwitch {
 
     // Whether the sensor started at the last reconnect.
     virtual bool sensorReady() const = 0;
-    // The sensor's status line as the last reconnect wrote it.
+    // The sensor's status line as the last reconnect, or the last change followed, wrote it.
     virtual const std::string& sensorText() const = 0;
     // Whether the program itself is pausing or switching gestures on at this moment.
     virtual bool programActing() const = 0;
@@ -23,6 +23,10 @@ class GestureSwitch {
     virtual bool switchOnAsProgram() = 0;
     virtual void pauseAsProgram() = 0;
     virtual void reconnect() = 0;
+    // The Magic Mouse came or went while other touch devices stay in use, and the sensor
+    // followed it without a restart: shows its status afresh and, when it is gone, lets go of
+    // its held presses. Gestures stay as they are.
+    virtual void sensorFollowed() = 0;
     // Prompts for the permission, then opens its pane of System Settings.
     virtual void access() = 0;
     virtual void monitor() = 0;

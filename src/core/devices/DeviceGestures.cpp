@@ -34,6 +34,12 @@ DeviceGestures::DeviceGestures(DeviceGestureServices services)
     fingers_.reserve(ContactFrame::capacity);
     presses_.reserve(reservedPresses);
     released_.reserve(reservedPresses);
+    // Chosen before the launch's first connection, so that it starts the chosen devices too and
+    // a Mac with a trackpad and no Magic Mouse can switch gestures on.
+    receiver_.store(this);
+    services_.devices.useOthers(&DeviceGestures::frameArrived, [this](const TouchDevice& device) {
+        return device.kind != TouchDeviceKind::magicMouse && choice_.uses(device);
+    });
 }
 
 DeviceGestures::~DeviceGestures() {
@@ -55,6 +61,13 @@ void DeviceGestures::setUses(const TouchDevice& device, bool use) {
     } else if (listChanged_) {
         listChanged_();
     }
+}
+
+bool DeviceGestures::othersInUse() const {
+    return std::ranges::any_of(devices(), [](const TouchDevice& device) {
+        return device.kind != TouchDeviceKind::magicMouse &&
+               device.state == TouchDeviceState::connected;
+    });
 }
 
 bool DeviceGestures::trackpadSeen() const {
@@ -286,11 +299,7 @@ void DeviceGestures::devicesChanged() {
 // --- What the controller tells ----------------------------------------------------------------
 
 void DeviceGestures::launched(double /*time*/) {
-    receiver_.store(this);
     using_ = true;
-    services_.devices.useOthers(&DeviceGestures::frameArrived, [this](const TouchDevice& device) {
-        return device.kind != TouchDeviceKind::magicMouse && choice_.uses(device);
-    });
     devicesChanged();
     services_.devices.watch([weak = weak_from_this()] {
         if (const auto self = weak.lock()) {

@@ -18,6 +18,7 @@
 #include "core/devices/DeviceRecognisers.h"
 #include "core/devices/GestureRunner.h"
 #include "core/gestures/Finger.h"
+#include "core/keepon/OtherSurfaces.h"
 #include "core/platform/Clock.h"
 #include "core/platform/MainQueue.h"
 #include "core/platform/TouchDevices.h"
@@ -41,8 +42,9 @@ struct DeviceGestureServices {
 // rewritten to the mapped button (held through its drags until the physical up) or swallowed
 // and its action carried out on release, exactly as on the mouse.
 //
-// It is the controller's DeviceEvents and one of its observers: it starts using the chosen
-// devices at launch, keeps the list current as devices come and go, and lets go of its held
+// It is the controller's DeviceEvents and one of its observers: the chosen devices start with
+// the sensor, from the launch's first connection on; it keeps the list current as devices come
+// and go (and tells keeping gestures on whether any is in use), and lets go of its held
 // presses and forgets every touch whenever the controller does (switch off, wake, profile
 // change, activation, quit). A device that leaves during a held press gets exactly one up.
 //
@@ -51,6 +53,7 @@ struct DeviceGestureServices {
 // frames; it must stay alive until the process ends, as the controller does.
 class DeviceGestures final : public DeviceEvents,
                              public ControllerObserver,
+                             public OtherSurfaces,
                              public std::enable_shared_from_this<DeviceGestures> {
   public:
     explicit DeviceGestures(DeviceGestureServices services);
@@ -78,6 +81,9 @@ class DeviceGestures final : public DeviceEvents,
     bool trackpadSeen() const;
     // The presses held on the devices now.
     std::size_t heldPresses() const { return presses_.size(); }
+
+    bool othersInUse() const override;
+    void followDevices() override { devicesChanged(); }
 
     // One frame of a device in use, on the main thread: feeds that device's recogniser, and
     // schedules a recognised tap's action the tap's wait later.

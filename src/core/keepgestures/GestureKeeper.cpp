@@ -54,16 +54,23 @@ void GestureKeeper::toggleKeepOn() {
 }
 
 void GestureKeeper::deviceArrived(std::uint64_t /*device*/) {
+    // Beside other devices the sensor may already have followed this mouse when the notice
+    // comes, so every notice is followed.
+    if (followsBesideOthers()) {
+        scheduleDeviceReconnect(false);
+        return;
+    }
     if (!arrivalReconnects(services_.sensor.connectedDevice())) {
         return;
     }
     keepOn_.deviceArrived();
-    scheduleDeviceReconnect();
+    scheduleDeviceReconnect(true);
 }
 
 void GestureKeeper::deviceLeft(std::uint64_t device) {
-    if (departureReconnects(device, services_.sensor.connectedDevice())) {
-        scheduleDeviceReconnect();
+    const bool reconnects = departureReconnects(device, services_.sensor.connectedDevice());
+    if (reconnects || followsBesideOthers()) {
+        scheduleDeviceReconnect(reconnects);
     }
 }
 
@@ -302,7 +309,8 @@ void GestureKeeper::scheduleWakeRetry() {
     });
 }
 
-void GestureKeeper::scheduleDeviceReconnect() {
+void GestureKeeper::scheduleDeviceReconnect(bool reconnect) {
+    deviceReconnectWanted_ = deviceReconnectWanted_ || reconnect;
     if (deviceReconnectPending_) {
         return;
     }
@@ -310,9 +318,20 @@ void GestureKeeper::scheduleDeviceReconnect() {
     services_.queue.after(deviceSettle, [weak = weak_from_this()] {
         if (const auto self = weak.lock()) {
             self->deviceReconnectPending_ = false;
-            self->gestures_.reconnect();
+            const bool wanted = std::exchange(self->deviceReconnectWanted_, false);
+            // Decided when due: the other devices may have come or gone meanwhile.
+            if (self->followsBesideOthers()) {
+                self->services_.otherSurfaces->followDevices();
+                self->gestures_.sensorFollowed();
+            } else if (wanted) {
+                self->gestures_.reconnect();
+            }
         }
     });
+}
+
+bool GestureKeeper::followsBesideOthers() const {
+    return services_.otherSurfaces != nullptr && services_.otherSurfaces->othersInUse();
 }
 
 void GestureKeeper::syncActivity(bool on) {

@@ -11,6 +11,7 @@
 #include "core/app/GestureSwitch.h"
 #include "core/app/StatusDisplay.h"
 #include "core/keepon/KeepOn.h"
+#include "core/keepon/OtherSurfaces.h"
 #include "core/keepon/PermissionMemory.h"
 #include "core/platform/Clock.h"
 #include "core/platform/DeviceWatcher.h"
@@ -59,6 +60,8 @@ class GestureKeeper final : public ControllerObserver,
         ProcessActivity& activity;
         PermissionResetTool& resetTool;
         std::shared_ptr<Preferences> defaults;
+        // The touch devices beside the Magic Mouse; null when there are none.
+        OtherSurfaces* otherSurfaces = nullptr;
     };
 
     static std::shared_ptr<GestureKeeper> create(Services services, GestureSwitch& gestures,
@@ -71,10 +74,12 @@ class GestureKeeper final : public ControllerObserver,
     void toggleKeepOn();
     // A multitouch mouse arrived while none is connected: reconnects deviceSettle seconds later,
     // then retries as after a wake until it is connected. A mouse arriving while another one
-    // works changes nothing.
+    // works changes nothing. While other touch devices are in use the sensor follows it
+    // instead, without pausing them.
     void deviceArrived(std::uint64_t device);
     // The connected mouse left: pauses and reconnects, deviceSettle seconds later. Another
-    // device leaving changes nothing.
+    // device leaving changes nothing. While other touch devices are in use the sensor follows
+    // it instead, without pausing them.
     void deviceLeft(std::uint64_t device);
     // The "Open at login" checkbox's action: registers or unregisters the login item.
     void toggleLoginItem();
@@ -107,7 +112,11 @@ class GestureKeeper final : public ControllerObserver,
     void waitAfterFailedTick();
     void coolDown(double seconds);
     void scheduleWakeRetry();
-    void scheduleDeviceReconnect();
+    // Follows the devices, or reconnects when a notice since the last one wanted it,
+    // deviceSettle seconds from the first notice.
+    void scheduleDeviceReconnect(bool reconnect);
+    // Whether the sensor follows the mouse coming and going without a pause.
+    bool followsBesideOthers() const;
     void syncActivity(bool on);
     // The login item's status is a query to a system service: read only when the window is
     // shown, the application becomes active, at launch, and after registering or unregistering.
@@ -122,6 +131,7 @@ class GestureKeeper final : public ControllerObserver,
     PermissionMemory permissionMemory_;
     bool activityHeld_ = false;
     bool deviceReconnectPending_ = false;
+    bool deviceReconnectWanted_ = false;
     // The user's tick waiting to be applied: a tick that does not take says what it waits for.
     bool tickPending_ = false;
     // What the refresh under way found (accessibility, input monitoring), and what the one

@@ -22,6 +22,9 @@ class FakeTouchDevices final : public TouchDevices {
 
     bool refresh() override {
         ++refreshes;
+        if (onRefresh) {
+            onRefresh();
+        }
         bool anyChanged = false;
         for (TouchDevice& device : listed) {
             if (device.kind == TouchDeviceKind::magicMouse ||
@@ -93,6 +96,8 @@ class FakeTouchDevices final : public TouchDevices {
     DeviceFrameCallback callback = nullptr;
     Choice choose;
     std::function<void()> changed;
+    // What else a refresh brings up to date, as the sensor's Magic Mouse does in the program.
+    std::function<void()> onRefresh;
     int refreshes = 0;
     int senderQuestions = 0;
 };
