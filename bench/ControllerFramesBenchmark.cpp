@@ -85,5 +85,43 @@ void controllerSwipes(benchmark::State& state) {
 }
 BENCHMARK(controllerSwipes)->ArgsProduct({{2}, {0, 1}})->ArgNames({"fingers", "mode"});
 
+// The Magic Mouse's resting fingers with a trackpad beside it: none (mode 0), a trackpad in use
+// with three fingers resting (mode 1), or that trackpad sending a frame after each of the
+// mouse's (mode 2; each iteration is then one frame of each device, so compare half its time).
+void controllerMouseFramesBesideATrackpad(benchmark::State& state) {
+    constexpr std::uint64_t trackpad = 77;
+    ControllerHarness h;
+    const std::int64_t mode = state.range(0);
+    state.SetLabel(mode == 0 ? "mouse alone" : mode == 1 ? "trackpad resting" : "interleaved");
+    h.touchDevices.listed = {{.id = trackpad,
+                              .kind = TouchDeviceKind::magicTrackpad,
+                              .state = TouchDeviceState::off,
+                              .name = "Magic Trackpad"}};
+    if (mode > 0) {
+        h.app->deviceGestures().setUses(h.touchDevices.listed[0], true);
+    }
+    h.launchAndSwitchOn();
+    const std::vector<std::pair<float, float>> resting = {{0.3F, 0.5F}, {0.4F, 0.5F}, {0.5F, 0.5F}};
+    h.touchDevices.send(trackpad, resting);
+    h.queue.runReady();
+    const std::vector<std::int32_t> ids = {1, 2};
+    const std::vector<float> even = {0.3F, 0.35F};
+    const std::vector<float> odd = {0.301F, 0.351F};
+    const std::vector<float> ys = {0.5F, 0.5F};
+    bool flip = false;
+    for (auto _ : state) {
+        flip = !flip;
+        Controller::frameCallback(2, ids.data(), flip ? odd.data() : even.data(), ys.data(),
+                                  nullptr);
+        if (mode == 2) {
+            h.touchDevices.send(trackpad, resting);
+        }
+        h.queue.runReady();
+        h.queue.advance(0.008);
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(controllerMouseFramesBesideATrackpad)->Arg(0)->Arg(1)->Arg(2)->ArgName("mode");
+
 }  // namespace
 }  // namespace tactora::testing
