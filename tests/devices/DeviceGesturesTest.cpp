@@ -43,6 +43,38 @@ class RecordingWatcher final : public DeviceGestureWatcher {
     std::vector<std::string> lines;
 };
 
+// Writes down, besides, the frames, the choices and the actions carried out for a device, and
+// how many actions the runner had carried out when each action began and ended.
+class FullWatcher final : public DeviceGestureWatcher {
+  public:
+    explicit FullWatcher(const FakeGestureRunner& runner) : runner_(runner) {}
+
+    void recognised(std::uint64_t /*device*/, GestureKind /*kind*/,
+                    std::int64_t /*fingers*/) override {}
+    void rewritten(std::uint64_t /*device*/, ActionIndex /*action*/,
+                   MouseButton /*button*/) override {}
+    void frameReceived(const ContactFrame& frame, double time) override {
+        lines.push_back("frame " + std::to_string(frame.count) + " @" +
+                        std::to_string(frame.device) + " at " + std::to_string(time));
+    }
+    void useChosen(const TouchDevice& device, bool use, double time) override {
+        lines.push_back(std::string("use ") + (use ? "on" : "off") + " @" +
+                        std::to_string(device.id) + " at " + std::to_string(time));
+    }
+    void actionBegins(std::uint64_t device) override {
+        lines.push_back("begins @" + std::to_string(device) + " after " +
+                        std::to_string(runner_.performed.size()));
+    }
+    void actionEnded() override {
+        lines.push_back("ended after " + std::to_string(runner_.performed.size()));
+    }
+
+    std::vector<std::string> lines;
+
+  private:
+    const FakeGestureRunner& runner_;
+};
+
 Contacts fingers(int count) {
     Contacts contacts;
     for (int i = 0; i < count; ++i) {
@@ -444,6 +476,72 @@ TEST_F(DeviceGesturesTest, TheWindowIsToldWhenDevicesComeAndGoOrAreTicked) {
     EXPECT_EQ(told, 3);
     gestures->setUses(devices.listed[1], true);
     EXPECT_EQ(told, 4);
+}
+
+TEST_F(DeviceGesturesTest, TheWatcherHearsEveryFrameOfADeviceInUseWithItsDeviceAndTime) {
+    launchUsing({trackpadID});
+    FullWatcher watcher(runner);
+    gestures->watch(&watcher);
+
+    frame(trackpadID, 3);
+    queue.advance(0.25);
+    frame(builtInID, 2);  // not in use: never delivered
+    frame(trackpadID, 0);
+
+    EXPECT_EQ(watcher.lines,
+              (std::vector<std::string>{"frame 3 @20 at " + std::to_string(clock.now - 0.25),
+                                        "frame 0 @20 at " + std::to_string(clock.now)}));
+    gestures->watch(nullptr);
+}
+
+TEST_F(DeviceGesturesTest, TheWatcherHearsTheUsersChoiceOfATrackpadButNotOfTheMouse) {
+    FullWatcher watcher(runner);
+    gestures->watch(&watcher);
+    launchUsing({});
+
+    gestures->setUses(devices.listed[1], true);
+    gestures->setUses(devices.listed[0], false);
+    gestures->setUses(devices.listed[1], false);
+
+    const std::string at = " at " + std::to_string(clock.now);
+    EXPECT_EQ(watcher.lines, (std::vector<std::string>{"use on @20" + at, "use off @20" + at}));
+    gestures->watch(nullptr);
+}
+
+TEST_F(DeviceGesturesTest, TheWatcherKnowsWhichDevicesGestureAnActionIsCarriedOutFor) {
+    runner.slots.at(slot::forTap(3)).action = action::middle;
+    runner.slots.at(slot::forClick(4)).action = action::copy;
+    launchUsing({trackpadID, builtInID});
+    FullWatcher watcher(runner);
+    gestures->watch(&watcher);
+    watcher.lines.clear();
+
+    devices.send(builtInID, fingers(3));
+    queue.runReady();
+    queue.advance(0.1);
+    devices.send(builtInID, {});
+    queue.runReady();
+    queue.advance(0.5);
+    devices.send(trackpadID, fingers(4));
+    queue.runReady();
+    event(event::leftMouseDown, trackpadSender);
+    event(event::leftMouseUp, trackpadSender);
+    queue.runReady();
+
+    std::erase_if(watcher.lines, [](const std::string& line) { return line.starts_with("frame"); });
+    EXPECT_EQ(watcher.lines, (std::vector<std::string>{"begins @30 after 0", "ended after 1",
+                                                       "begins @20 after 1", "ended after 2"}));
+    gestures->watch(nullptr);
+}
+
+TEST_F(DeviceGesturesTest, TellsWhichDeviceInUseASenderIsOnceLaunched) {
+    EXPECT_EQ(gestures->deviceOfSender(trackpadSender), 0u);
+    launchUsing({trackpadID});
+
+    EXPECT_EQ(gestures->deviceOfSender(trackpadSender), trackpadID);
+    EXPECT_EQ(gestures->deviceOfSender(builtInSender), 0u);  // not in use
+    EXPECT_EQ(gestures->deviceOfSender(mouseSender), 0u);
+    EXPECT_EQ(gestures->deviceOfSender(999), 0u);
 }
 
 }  // namespace

@@ -46,5 +46,13 @@ TEST(DecisionWordsTest, AMouseEventIsWrittenAsATraceWritesItThenItsFate) {
     EXPECT_EQ(explain::mouseEventWords({.type = 25, .button = 3}), "event-25 3 other passed");
 }
 
+TEST(DecisionWordsTest, ASenderNamedBesideTheMouseReplacesOtherButNeverTheMouse) {
+    MouseEventNote note{.type = event::leftMouseDown, .button = 0, .fromMouse = false};
+    EXPECT_EQ(explain::mouseEventWords(note, "@7"), "left-down 0 @7 passed");
+    EXPECT_EQ(explain::mouseEventWords(note, ""), "left-down 0 other passed");
+    note.fromMouse = true;
+    EXPECT_EQ(explain::mouseEventWords(note, "@7"), "left-down 0 mouse passed");
+}
+
 }  // namespace
 }  // namespace tactora

@@ -54,7 +54,7 @@ TEST_F(ControllerTracesTest, StartingWritesTheHeaderAndTheStateAReplayStartsFrom
     h.a().recorder().recordTouches();
     EXPECT_TRUE(h.a().recorder().isRecording());
     EXPECT_TRUE(h.traceSink.open);
-    EXPECT_EQ(traced(), (std::vector<std::string>{"tactora-trace 2", "1000.0 gestures on",
+    EXPECT_EQ(traced(), (std::vector<std::string>{"tactora-trace 3", "1000.0 gestures on",
                                                   "1000.0 active off", "1000.0 " + profileLine(),
                                                   "1000.0 front 42 com.example.Editor"}));
     EXPECT_EQ(h.shell.statusMenu.at(3),

@@ -8,12 +8,16 @@
 
 #include "app/fakes/CallLog.h"
 #include "app/fakes/FakeClock.h"
+#include "app/fakes/FakeMainQueue.h"
 #include "app/fakes/FakeSettingsView.h"
 #include "app/fakes/FakeTraceSink.h"
 #include "app/fakes/FakeWorkspace.h"
 #include "core/app/ProfileSwitcher.h"
+#include "core/devices/DeviceGestures.h"
 #include "core/profiles/MemoryPreferences.h"
 #include "core/recording/TouchRecorder.h"
+#include "devices/FakeGestureRunner.h"
+#include "devices/FakeTouchDevices.h"
 #include "support/RecordedStatusDisplay.h"
 
 namespace tactora::testing {
@@ -89,6 +93,158 @@ TEST_F(TouchRecorderTest, StopsAtItsTimeLimitWhenRefreshed) {
     EXPECT_TRUE(recorder.isRecording());
     recorder.refreshed(clock.now + TraceRecorder::longest);
     EXPECT_FALSE(recorder.isRecording());
+}
+
+constexpr std::uint64_t trackpadID = 20;
+constexpr std::uint64_t trackpadSender = 120;
+
+// The recorder beside the gestures of a Magic Trackpad in use.
+class TouchRecorderDevicesTest : public TouchRecorderTest {
+  protected:
+    void SetUp() override {
+        devices.listed = {
+            {.id = 10,
+             .kind = TouchDeviceKind::magicMouse,
+             .state = TouchDeviceState::connected,
+             .error = 0,
+             .name = "Magic Mouse"},
+            {.id = trackpadID,
+             .kind = TouchDeviceKind::magicTrackpad,
+             .state = TouchDeviceState::off,
+             .error = 0,
+             .name = "Magic Trackpad"},
+        };
+        devices.senders = {{trackpadSender, trackpadID}};
+        gestures->runThrough(runner);
+        gestures->setUses(devices.listed[1], true);
+        gestures->launched(clock.now);
+        recorder.followDevices(gestures.get());
+    }
+    void TearDown() override { recorder.followDevices(nullptr); }
+
+    // What the recording wrote after its opening lines.
+    std::vector<std::string> written() const {
+        std::vector<std::string> all = lines();
+        all.erase(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(opening_));
+        return all;
+    }
+    void startRecording() {
+        recorder.recordTouches();
+        opening_ = lines().size();
+    }
+    void trackpadFrame(std::vector<std::pair<float, float>> contacts) {
+        devices.send(trackpadID, std::move(contacts));
+        queue.runReady();
+    }
+
+    FakeMainQueue queue{clock};
+    FakeTouchDevices devices;
+    FakeGestureRunner runner;
+    std::shared_ptr<DeviceGestures> gestures = std::make_shared<DeviceGestures>(
+        DeviceGestureServices{.devices = devices,
+                              .queue = queue,
+                              .clock = clock,
+                              .defaults = std::make_shared<MemoryPreferences>()});
+
+  private:
+    std::size_t opening_ = 0;
+};
+
+TEST_F(TouchRecorderDevicesTest, WritesATrackpadsFramesWithItsDeviceDeclaredFirst) {
+    trackpadFrame({{0.5f, 0.25f}});  // before the recording: not written
+    startRecording();
+    trackpadFrame({{0.5f, 0.25f}, {0.75f, 0.5f}});
+    clock.now += 0.5;
+    trackpadFrame({});
+
+    EXPECT_EQ(written(), (std::vector<std::string>{"1000.0 device 20 magic-trackpad Magic Trackpad",
+                                                   "1000.0 frame @20 1:0.5,0.25 2:0.75,0.5",
+                                                   "1000.5 frame @20"}));
+}
+
+TEST_F(TouchRecorderDevicesTest, WritesATrackpadsEventsWithItsDeviceAndOtherSendersAsBefore) {
+    startRecording();
+    recorder.mouseEventDecided({.type = event::leftMouseDown,
+                                .button = 0,
+                                .fromMouse = false,
+                                .fate = MouseEventFate::rewritten,
+                                .rewrittenTo = MouseButton::centre,
+                                .time = clock.now,
+                                .sender = trackpadSender});
+    recorder.mouseEventDecided({.type = event::scrollWheel,
+                                .button = 0,
+                                .fromMouse = false,
+                                .fate = MouseEventFate::passed,
+                                .rewrittenTo = MouseButton::left,
+                                .time = clock.now,
+                                .sender = trackpadSender});
+    recorder.mouseEventDecided({.type = event::leftMouseUp,
+                                .button = 0,
+                                .fromMouse = false,
+                                .fate = MouseEventFate::passed,
+                                .rewrittenTo = MouseButton::left,
+                                .time = clock.now,
+                                .sender = 999});
+    recorder.mouseEventDecided({.type = event::rightMouseDown,
+                                .button = 1,
+                                .fromMouse = true,
+                                .fate = MouseEventFate::passed,
+                                .rewrittenTo = MouseButton::left,
+                                .time = clock.now,
+                                .sender = 1});
+
+    EXPECT_EQ(written(),
+              (std::vector<std::string>{"1000.0 device 20 magic-trackpad Magic Trackpad",
+                                        "1000.0 left-down 0 @20", "1000.0 scroll @20",
+                                        "1000.0 left-up 0 other", "1000.0 right-down 1 mouse"}));
+}
+
+TEST_F(TouchRecorderDevicesTest, WritesTheUsersChoiceOfATrackpadAndNothingOfItOnceOff) {
+    startRecording();
+    clock.now += 1;
+    gestures->setUses(devices.listed[1], false);
+    trackpadFrame({{0.5f, 0.5f}});
+    recorder.mouseEventDecided({.type = event::leftMouseDown,
+                                .button = 0,
+                                .fromMouse = false,
+                                .fate = MouseEventFate::passed,
+                                .rewrittenTo = MouseButton::left,
+                                .time = clock.now,
+                                .sender = trackpadSender});
+    clock.now += 1;
+    gestures->setUses(devices.listed[1], true);
+
+    EXPECT_EQ(written(), (std::vector<std::string>{"1001.0 device 20 magic-trackpad Magic Trackpad",
+                                                   "1001.0 use @20 off", "1001.0 left-down 0 other",
+                                                   "1002.0 use @20 on"}));
+}
+
+TEST_F(TouchRecorderDevicesTest, ARecordingOfTheMouseAloneNamesNoDevice) {
+    startRecording();
+    const std::vector<Finger> fingers = {Finger(1, 0.5, 0.5)};
+    recorder.frameReceived({.fingers = fingers, .shapes = {}, .time = clock.now});
+    recorder.mouseEventDecided({.type = event::leftMouseDown,
+                                .button = 0,
+                                .fromMouse = true,
+                                .fate = MouseEventFate::passed,
+                                .rewrittenTo = MouseButton::left,
+                                .time = clock.now,
+                                .sender = 1});
+    recorder.frameReceived({.fingers = {}, .shapes = {}, .time = clock.now});
+
+    EXPECT_EQ(written(), (std::vector<std::string>{"1000.0 frame 1:0.5,0.5",
+                                                   "1000.0 left-down 0 mouse", "1000.0 frame"}));
+}
+
+TEST_F(TouchRecorderDevicesTest, EachRecordingDeclaresItsDevicesAgain) {
+    startRecording();
+    trackpadFrame({{0.5f, 0.5f}});
+    recorder.recordTouches();
+    startRecording();
+    trackpadFrame({});
+
+    EXPECT_EQ(written(), (std::vector<std::string>{"1000.0 device 20 magic-trackpad Magic Trackpad",
+                                                   "1000.0 frame @20"}));
 }
 
 }  // namespace

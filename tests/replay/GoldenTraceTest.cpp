@@ -172,7 +172,7 @@ INSTANTIATE_TEST_SUITE_P(Traces, GoldenTrace, ::testing::ValuesIn(traceNames()),
                              return name;
                          });
 
-TEST(GoldenTraces, CoverTheSelfCheckTheFlowsRealisticSequencesAndTheFurtherGestures) {
+TEST(GoldenTraces, CoverTheSelfCheckTheFlowsRealisticSequencesTheFurtherGesturesAndTrackpads) {
     const std::vector<std::string> names = traceNames();
     const auto count = [&](const std::string& prefix) {
         return std::ranges::count_if(
@@ -182,6 +182,7 @@ TEST(GoldenTraces, CoverTheSelfCheckTheFlowsRealisticSequencesAndTheFurtherGestu
     EXPECT_EQ(count("flow-"), 4);
     EXPECT_GE(count("real-"), 4);
     EXPECT_GE(count("more-"), 5);
+    EXPECT_GE(count("trackpad-"), 4);
 }
 
 }  // namespace

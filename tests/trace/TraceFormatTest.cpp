@@ -25,7 +25,7 @@ TraceError errorOf(const std::string& body) {
 }
 
 TEST(TraceFormat, WritesEveryEventAsDocumented) {
-    EXPECT_EQ(trace::header(), "tactora-trace 2");
+    EXPECT_EQ(trace::header(), "tactora-trace 3");
     EXPECT_EQ(trace::formatLine({1042.5, TraceFrame{{Finger(3, 0.5, 0.25), Finger(-1, 1, 0)}}}),
               "1042.5 frame 3:0.5,0.25 -1:1,0");
     EXPECT_EQ(trace::formatLine({1.0, TraceFrame{}}), "1.0 frame");
@@ -42,6 +42,8 @@ TEST(TraceFormat, WritesEveryEventAsDocumented) {
     EXPECT_EQ(trace::formatLine({4.0, TraceFrontApplication{}}), "4.0 front none");
     EXPECT_EQ(trace::formatLine({5.0, TraceGestures{true}}), "5.0 gestures on");
     EXPECT_EQ(trace::formatLine({5.0, TraceActive{false}}), "5.0 active off");
+    EXPECT_EQ(trace::formatLine({6.0, TraceDeviceUse{9, false}}), "6.0 use @9 off");
+    EXPECT_EQ(trace::formatLine({6.0, TraceDeviceUse{9, true}}), "6.0 use @9 on");
 }
 
 TEST(TraceFormat, TimesAndPositionsReadBackExactly) {
@@ -121,8 +123,49 @@ TEST(TraceReader, NamesTheHeaderWhenItIsMissingOrWrong) {
 }
 
 TEST(TraceReader, RefusesAVersionNewerThanItKnows) {
-    EXPECT_EQ(readTrace("tactora-trace 3\n1.0 frame\n").error,
+    EXPECT_EQ(readTrace("tactora-trace 4\n1.0 frame\n").error,
               (TraceError{1, TraceProblem::version}));
+}
+
+TEST(TraceReader, ReadsTheUseOfADeviceBackAsWritten) {
+    const std::vector<TraceLine> lines = {
+        {1.0, TraceDevice{9, TraceDeviceKind::magicTrackpad, "Magic Trackpad"}},
+        {2.0, TraceDeviceUse{9, false}},
+        {2.5, TraceFrame{{Finger(1, 0.5, 0.5)}, {}, 9}},
+        {3.0, TraceDeviceUse{9, true}},
+    };
+    std::string text = trace::header() + "\n";
+    for (const TraceLine& line : lines) {
+        text += trace::formatLine(line) + "\n";
+    }
+    const TraceReading reading = readTrace(text);
+    ASSERT_FALSE(reading.error) << describeTraceError(*reading.error);
+    EXPECT_EQ(reading.lines, lines);
+}
+
+TEST(TraceReader, TakesUseLinesFromTheThirdVersionOnAndReadsEarlierOnesAsBefore) {
+    const std::string body = "1.0 device 9 magic-trackpad T\n2.0 use @9 off\n";
+    EXPECT_FALSE(readTrace("tactora-trace 3\n" + body).error);
+    EXPECT_EQ(readTrace("tactora-trace 2\n" + body).error, (TraceError{3, TraceProblem::event}));
+    EXPECT_EQ(readTrace("tactora-trace 1\n" + body).error, (TraceError{3, TraceProblem::event}));
+    const TraceReading earlier = readTrace(
+        "tactora-trace 2\n1.0 device 9 magic-trackpad T\n"
+        "1.5 frame @9 1:0.5,0.5\n1.6 left-down 0 @9\n");
+    ASSERT_FALSE(earlier.error);
+    EXPECT_EQ(std::get<TraceFrame>(earlier.lines.at(1).event).device, 9U);
+    EXPECT_EQ(std::get<TraceMouseEvent>(earlier.lines.at(2).event).device, 9U);
+}
+
+TEST(TraceReader, NamesWhatIsWrongWithAUseLine) {
+    const auto errorIn = [](const std::string& body) {
+        return readTrace("tactora-trace 3\n1.0 device 9 magic-trackpad T\n" + body).error;
+    };
+    EXPECT_EQ(errorIn("2.0 use\n"), (TraceError{3, TraceProblem::unknownDevice}));
+    EXPECT_EQ(errorIn("2.0 use @8 off\n"), (TraceError{3, TraceProblem::unknownDevice}));
+    EXPECT_EQ(errorIn("2.0 use 9 off\n"), (TraceError{3, TraceProblem::unknownDevice}));
+    EXPECT_EQ(errorIn("2.0 use @9\n"), (TraceError{3, TraceProblem::onOff}));
+    EXPECT_EQ(errorIn("2.0 use @9 maybe\n"), (TraceError{3, TraceProblem::onOff}));
+    EXPECT_EQ(errorIn("2.0 use @9 on now\n"), (TraceError{3, TraceProblem::extra}));
 }
 
 TEST(TraceReader, NamesTheLineAndTheProblem) {

@@ -45,7 +45,7 @@ TEST(TraceRecorder, WritesTheHeaderThenOneLineAtATime) {
     CountingSink sink;
     TraceRecorder recorder;
     recorder.start(sink, 5.0);
-    EXPECT_EQ(sink.last, "tactora-trace 2\n");
+    EXPECT_EQ(sink.last, "tactora-trace 3\n");
     EXPECT_TRUE(recorder.note({5.5, TraceGestures{true}}));
     EXPECT_EQ(sink.last, "5.5 gestures on\n");
     EXPECT_EQ(recorder.size(), sink.bytes);

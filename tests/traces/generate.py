@@ -25,6 +25,11 @@ forward, and everything else to the system's own behaviour; and "More gestures" 
                     three fingers down Show Desktop
     tap and hold:   the middle button
 The more-* traces select it first.
+
+"Every gesture" also maps two of the trackpads' eight: the three-finger click and the
+three-finger tap to the middle button. The trackpad-* traces name their devices (format
+version 3): the Magic Mouse's lines stay as they are, and a trackpad's frames and events carry
+"@<id>".
 """
 
 import os
@@ -45,17 +50,25 @@ def position(v):
 
 
 class Trace:
-    def __init__(self, name, *comments):
+    def __init__(self, name, *comments, version=1):
         self.name = name
         self.comments = comments
+        self.version = version
         self.lines = []
 
     def add(self, t, text):
         self.lines.append((round(t, 4), len(self.lines), text))
 
-    def frame(self, t, contacts=()):
+    def frame(self, t, contacts=(), device=None):
         words = " ".join(f"{i}:{position(x)},{position(y)}" for i, x, y in contacts)
-        self.add(t, ("frame " + words).rstrip())
+        at = f"@{device} " if device is not None else ""
+        self.add(t, ("frame " + at + words).rstrip())
+
+    def device(self, t, ident, kind, name):
+        self.add(t, f"device {ident} {kind} {name}")
+
+    def use(self, t, ident, on):
+        self.add(t, f"use @{ident} {'on' if on else 'off'}")
 
     def mouse(self, t, kind, button=0, source="mouse"):
         if kind == "scroll":
@@ -68,7 +81,7 @@ class Trace:
 
     def write(self):
         with open(os.path.join(HERE, self.name + ".trace"), "w", encoding="utf-8") as out:
-            out.write("tactora-trace 1\n")
+            out.write(f"tactora-trace {self.version}\n")
             for comment in self.comments:
                 out.write(f"# {comment}\n")
             for t, _, text in sorted(self.lines):
@@ -436,9 +449,88 @@ def more_gestures():
     clicked.write()
 
 
+# --- Trackpads beside the Magic Mouse, each with a recogniser of its own -------------------------
+
+
+TRACKPAD = 5
+
+
+def trackpad_fingers(n, x=0.4):
+    """n fingers side by side on the trackpad."""
+    return [(i, x + 0.08 * (i - 1), 0.5) for i in range(1, n + 1)]
+
+
+def trackpads():
+    tap = Trace("trackpad-1-three-finger-tap",
+                "A three-finger tap on a Magic Trackpad. Its recogniser is its own: the tap is",
+                "recognised when the fingers lift, and the trackpad's three-finger tap slot",
+                "(middle) runs 0.08 s after the release, as a tap on the mouse would.",
+                version=3)
+    tap.device(1.0, TRACKPAD, "magic-trackpad", "Magic Trackpad")
+    tap.frame(1.5, trackpad_fingers(3), TRACKPAD)
+    tap.frame(1.55, trackpad_fingers(3), TRACKPAD)
+    tap.frame(1.6, trackpad_fingers(3), TRACKPAD)
+    tap.frame(1.65, device=TRACKPAD)
+    tap.write()
+
+    drag = Trace("trackpad-2-click-and-drag",
+                 "A three-finger click and drag on a Magic Trackpad. Three fingers rest; the",
+                 "trackpad's button goes down, drags and comes up. The trackpad's three-finger",
+                 "click slot maps it to the middle button, so the down, every drag and the up",
+                 "all become the middle button's (button 2) through to the up; the touch that",
+                 "held the click gives no tap when the fingers lift.",
+                 version=3)
+    drag.device(2.0, TRACKPAD, "magic-trackpad", "Magic Trackpad")
+    t = 2.5
+    while t < 3.2:
+        drag.frame(t, trackpad_fingers(3), TRACKPAD)
+        t += 0.02
+    drag.mouse(2.7, "left-down", source=f"@{TRACKPAD}")
+    for k in range(1, 5):
+        drag.mouse(2.7 + 0.06 * k, "left-drag", source=f"@{TRACKPAD}")
+    drag.mouse(3.05, "left-up", source=f"@{TRACKPAD}")
+    drag.frame(3.2, device=TRACKPAD)
+    drag.write()
+
+    both = Trace("trackpad-3-mouse-and-trackpad-taps",
+                 "A one-finger tap on the mouse and a three-finger tap on the trackpad, landing",
+                 "and lifting within a few milliseconds of each other. Each device's frames go",
+                 "to its own recogniser, so they are two gestures, not one of four fingers: the",
+                 "mouse's tap (slot 4, left) and the trackpad's (its three-finger tap, middle).",
+                 version=3)
+    both.device(3.0, TRACKPAD, "magic-trackpad", "Magic Trackpad")
+    for k in range(7):
+        t = 3.5 + 0.02 * k
+        both.frame(t, fingers(1))
+        both.frame(t + 0.004, trackpad_fingers(3), TRACKPAD)
+    both.frame(3.64)
+    both.frame(3.646, device=TRACKPAD)
+    both.write()
+
+    off = Trace("trackpad-4-switched-off",
+                "A trackpad the user switches off. A three-finger tap runs the middle button;",
+                "then the trackpad is switched off, and the same tap and a click on it change",
+                "nothing (the program no longer listens to it). Switched on again, its next",
+                "tap runs the middle button again.",
+                version=3)
+    off.device(4.0, TRACKPAD, "built-in-trackpad", "Apple Internal Keyboard / Trackpad")
+    for start in (4.5, 5.5, 6.5):
+        off.frame(start, trackpad_fingers(3), TRACKPAD)
+        off.frame(start + 0.05, trackpad_fingers(3), TRACKPAD)
+        if start == 5.5:
+            off.mouse(start + 0.06, "left-down", source=f"@{TRACKPAD}")
+            off.mouse(start + 0.08, "left-up", source=f"@{TRACKPAD}")
+        off.frame(start + 0.1, trackpad_fingers(3), TRACKPAD)
+        off.frame(start + 0.15, device=TRACKPAD)
+    off.use(5.0, TRACKPAD, False)
+    off.use(6.0, TRACKPAD, True)
+    off.write()
+
+
 if __name__ == "__main__":
     self_check()
     flows()
     realistic()
     session()
     more_gestures()
+    trackpads()

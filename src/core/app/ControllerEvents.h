@@ -105,6 +105,9 @@ struct MouseEventNote {
     MouseEventFate fate = MouseEventFate::passed;
     MouseButton rewrittenTo = MouseButton::left;  // meaningful when rewritten
     double time = 0;
+    // The device service that sent it (the event's sender id), so that the device beside the
+    // Magic Mouse it came from can be told.
+    std::uint64_t sender = 0;
 };
 
 // Held presses were let go of by a change of state: the buttons whose up was posted.

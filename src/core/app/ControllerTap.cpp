@@ -93,7 +93,8 @@ EventDisposition Controller::decideNoted(EventType type, TapEvent& event, MouseE
             .fromMouse = isFromMouse(event),
             .fate = MouseEventFate::passed,
             .rewrittenTo = MouseButton::left,
-            .time = services_.clock.uptime()};
+            .time = services_.clock.uptime(),
+            .sender = static_cast<std::uint64_t>(event.integerField(event::senderID))};
     if (!canRunGestures()) {
         return EventDisposition::pass;
     }

@@ -112,6 +112,7 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
     controller_->addObserver(moreSheet_);
     devices_->runThrough(runner_);
     controller_->addObserver(*devices_);
+    recorder_.followDevices(devices_.get());
     // What the sheet stores is recognised from the next touch on, not only after a refresh.
     moreSheet_.setMappingChanged(
         [this, &clock = services.clock] { more_->refreshed(clock.uptime()); });
@@ -132,6 +133,7 @@ Tactora::~Tactora() {
         // The further actions may outlive the program's parts through the controller.
         extras_->setRowsChanged({});
     }
+    recorder_.followDevices(nullptr);
     controller_->removeObserver(*devices_);
     controller_->removeObserver(moreSheet_);
     controller_->removeObserver(advanced_);

@@ -56,6 +56,9 @@ void DeviceGestures::setUses(const TouchDevice& device, bool use) {
         return;
     }
     choice_.setUses(device, use);
+    if (watcher_ != nullptr) {
+        watcher_->useChosen(device, use, services_.clock.uptime());
+    }
     if (using_) {
         devicesChanged();
     } else if (listChanged_) {
@@ -90,11 +93,14 @@ void DeviceGestures::receiveFrame(const ContactFrame& frame) {
 }
 
 void DeviceGestures::receive(const ContactFrame& frame) {
+    const double now = services_.clock.uptime();
+    if (watcher_ != nullptr) {
+        watcher_->frameReceived(frame, now);
+    }
     fingers_.clear();
     for (std::size_t i = 0; i < std::min(frame.count, ContactFrame::capacity); ++i) {
         fingers_.emplace_back(frame.ids.at(i), frame.xs.at(i), frame.ys.at(i));
     }
-    const double now = services_.clock.uptime();
     const std::optional<std::int64_t> tap = recognisers_.update(frame.device, fingers_, now);
     if (!tap || runner_ == nullptr) {
         return;
@@ -134,8 +140,14 @@ void DeviceGestures::performTap(std::uint64_t device, const PendingTap& tap) {
     if (touch != nullptr && touch->lastClick >= tap.recognisedAt - Controller::tapDelay) {
         return;
     }
+    if (watcher_ != nullptr) {
+        watcher_->actionBegins(device);
+    }
     runner_->perform({.action = tap.action, .shortcut = tap.shortcut, .value = tap.value},
                      ActionOrigin::tap, tap.fingers);
+    if (watcher_ != nullptr) {
+        watcher_->actionEnded();
+    }
 }
 
 // --- Events of the tap ----------------------------------------------------------------------
@@ -158,10 +170,13 @@ std::optional<EventDisposition> DeviceGestures::decide(EventType type, TapEvent&
 }
 
 std::uint64_t DeviceGestures::deviceFor(const TapEvent& event) {
+    return deviceOfSender(static_cast<std::uint64_t>(event.integerField(event::senderID)));
+}
+
+std::uint64_t DeviceGestures::deviceOfSender(std::uint64_t sender) {
     if (!using_) {
         return 0;
     }
-    const auto sender = static_cast<std::uint64_t>(event.integerField(event::senderID));
     if (sender != lastSender_) {
         lastSender_ = sender;
         senderDevice_ = services_.devices.deviceForSender(sender);
@@ -232,7 +247,7 @@ EventDisposition DeviceGestures::pressContinues(std::uint64_t device, EventType 
         rewritePress(event, press, false, false);
         return EventDisposition::pass;
     }
-    released_.push_back(std::move(press));
+    released_.push_back({.device = device, .button = button, .press = std::move(press)});
     if (!handOffPosted_) {
         handOffPosted_ = true;
         services_.queue.async([weak = weak_from_this()] {
@@ -247,11 +262,18 @@ EventDisposition DeviceGestures::pressContinues(std::uint64_t device, EventType 
 
 void DeviceGestures::performReleased() {
     // What an action does never reaches the tap, so nothing is added meanwhile.
-    for (const Press& press : released_) {
-        if (runner_ != nullptr && runner_->mayDispatch(press.context)) {
-            runner_->perform(
-                {.action = press.action, .shortcut = press.shortcut, .value = press.value},
-                ActionOrigin::click, press.fingers);
+    for (const HeldPress& held : released_) {
+        const Press& press = held.press;
+        if (runner_ == nullptr || !runner_->mayDispatch(press.context)) {
+            continue;
+        }
+        if (watcher_ != nullptr) {
+            watcher_->actionBegins(held.device);
+        }
+        runner_->perform({.action = press.action, .shortcut = press.shortcut, .value = press.value},
+                         ActionOrigin::click, press.fingers);
+        if (watcher_ != nullptr) {
+            watcher_->actionEnded();
         }
     }
     released_.clear();

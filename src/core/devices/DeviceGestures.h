@@ -79,6 +79,10 @@ class DeviceGestures final : public DeviceEvents,
     void setUses(const TouchDevice& device, bool use);
     // Whether a trackpad has been seen since launch.
     bool trackpadSeen() const;
+    // The device in use that sent input with this sender id (an event's sender), or 0 when
+    // none did or before launch.
+    std::uint64_t deviceOfSender(std::uint64_t sender);
+
     // The presses held on the devices now.
     std::size_t heldPresses() const { return presses_.size(); }
 
@@ -139,7 +143,7 @@ class DeviceGestures final : public DeviceEvents,
     std::vector<Finger> fingers_;
     std::vector<HeldPress> presses_;
     // Presses swallowed at release whose action waits for the tap's callback to return.
-    std::vector<Press> released_;
+    std::vector<HeldPress> released_;
     bool handOffPosted_ = false;
     // The sender of the last event asked about, and the device it stands for (0: none).
     std::optional<std::uint64_t> lastSender_;

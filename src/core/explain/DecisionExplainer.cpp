@@ -22,7 +22,9 @@ void DecisionExplainer::actionDropped(const ActionDropNote& note) {
 }
 
 void DecisionExplainer::mouseEventDecided(const MouseEventNote& note) {
-    line_(note.time, explain::mouseEventWords(note));
+    const std::string sender =
+        note.fromMouse || !senderName_ ? std::string() : senderName_(note.sender);
+    line_(note.time, explain::mouseEventWords(note, sender));
 }
 
 void DecisionExplainer::pressesReleased(const PressesReleasedNote& note) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "core/app/ControllerObserver.h"
 
@@ -15,7 +17,8 @@ namespace tactora {
 //   dropped <reason> <fingers>          a touch of that many fingers became no gesture, or its
 //                                       gesture was recognised while gestures could not run
 //   action-dropped <action> <reason>    a gesture's action was not carried out
-//   <event> <button> mouse|other <fate> a mouse event: passed, swallowed, rewritten button B
+//   <event> <button> <sender> <fate>    a mouse event: passed, swallowed, rewritten button B;
+//                                       its sender "mouse", "other", or as nameSenders() says
 //   up-sent button <B>                  a held press was let go of by a change of state
 //
 // Reasons and events are written with the words of DecisionWords.h. Main thread, as every
@@ -26,6 +29,10 @@ class DecisionExplainer final : public ControllerObserver {
 
     explicit DecisionExplainer(Line line);
 
+    // The name of a sender that is not the Magic Mouse ("@7"), or "" for "other".
+    using SenderName = std::function<std::string(std::uint64_t sender)>;
+    void nameSenders(SenderName name) { senderName_ = std::move(name); }
+
     void touchDropped(const TouchDropNote& note) override;
     void actionDropped(const ActionDropNote& note) override;
     void mouseEventDecided(const MouseEventNote& note) override;
@@ -33,6 +40,7 @@ class DecisionExplainer final : public ControllerObserver {
 
   private:
     Line line_;
+    SenderName senderName_;
 };
 
 }  // namespace tactora

@@ -71,13 +71,19 @@ std::string fateWords(const MouseEventNote& note) {
     return "unknown";
 }
 
-std::string mouseEventWords(const MouseEventNote& note) {
+std::string mouseEventWords(const MouseEventNote& note, std::string_view sender) {
     const std::string_view type = trace::mouseEventWord(note.type);
     std::string words = type.empty() ? "event-" + std::to_string(note.type) : std::string(type);
     if (note.type != event::scrollWheel) {
         words += ' ' + std::to_string(note.button);
     }
-    words += note.fromMouse ? " mouse " : " other ";
+    if (note.fromMouse) {
+        words += " mouse ";
+    } else {
+        words += ' ';
+        words += sender.empty() ? std::string_view("other") : sender;
+        words += ' ';
+    }
     return words + fateWords(note);
 }
 

@@ -20,7 +20,8 @@ std::string actionWord(ActionIndex action);
 // "passed", "swallowed", or "rewritten button B".
 std::string fateWords(const MouseEventNote& note);
 
-// The event as a trace writes it ("left-down 0 mouse"), then its fate.
-std::string mouseEventWords(const MouseEventNote& note);
+// The event as a trace writes it ("left-down 0 mouse"), then its fate. `sender`, when not
+// empty, names a sender that is not the Magic Mouse instead of "other" ("@7").
+std::string mouseEventWords(const MouseEventNote& note, std::string_view sender = {});
 
 }  // namespace tactora::explain

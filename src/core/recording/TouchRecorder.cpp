@@ -1,12 +1,32 @@
 #include "core/recording/TouchRecorder.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "core/localization/Localizer.h"
 #include "core/trace/TraceFiles.h"
 #include "core/trace/TraceFormat.h"
 
 namespace tactora {
+
+namespace {
+
+TraceDeviceKind traceKind(TouchDeviceKind kind) {
+    switch (kind) {
+        case TouchDeviceKind::magicMouse:
+            return TraceDeviceKind::magicMouse;
+        case TouchDeviceKind::magicTrackpad:
+            return TraceDeviceKind::magicTrackpad;
+        case TouchDeviceKind::builtInTrackpad:
+            return TraceDeviceKind::builtInTrackpad;
+        case TouchDeviceKind::other:
+            break;
+    }
+    return TraceDeviceKind::other;
+}
+
+}  // namespace
 
 TouchRecorder::TouchRecorder(TraceSink& sink, Clock& clock, Workspace& workspace,
                              SettingsView& view, StatusDisplay& display, ProfileSwitcher& profiles)
@@ -17,6 +37,16 @@ TouchRecorder::TouchRecorder(TraceSink& sink, Clock& clock, Workspace& workspace
       display_(display),
       profiles_(profiles) {
     showMenuEntry();
+}
+
+void TouchRecorder::followDevices(DeviceGestures* devices) {
+    if (devices_ != nullptr) {
+        devices_->watch(nullptr);
+    }
+    devices_ = devices;
+    if (devices_ != nullptr) {
+        devices_->watch(this);
+    }
 }
 
 void TouchRecorder::recordTouches() {
@@ -40,6 +70,7 @@ void TouchRecorder::start() {
     // The state a replay must start from, so that it decides as this program does.
     front_.reset();
     gestures_.reset();
+    declared_.clear();
     noteGestures(view_.isEnabledOn(), now);
     note(now, TraceActive{workspace_.isActive()});
     note(now, TraceProfileSelected{profiles_.profiles().activeID().text()});
@@ -83,7 +114,47 @@ void TouchRecorder::mouseEventDecided(const MouseEventNote& note) {
     if (!trace_.isRecording() || trace::mouseEventWord(note.type).empty()) {
         return;
     }
-    this->note(note.time, TraceMouseEvent{note.type, note.button, note.fromMouse});
+    // A trackpad in use is named; any other sender beside the Magic Mouse stays "other".
+    const std::uint64_t device =
+        note.fromMouse || devices_ == nullptr ? 0 : devices_->deviceOfSender(note.sender);
+    if (device == 0) {
+        this->note(note.time, TraceMouseEvent{note.type, note.button, note.fromMouse});
+        return;
+    }
+    declare(device, note.time);
+    this->note(note.time, TraceMouseEvent{note.type, note.button, true, device});
+}
+
+void TouchRecorder::recognised(std::uint64_t /*device*/, GestureKind /*kind*/,
+                               std::int64_t /*fingers*/) {}
+
+void TouchRecorder::rewritten(std::uint64_t /*device*/, ActionIndex /*action*/,
+                              MouseButton /*button*/) {}
+
+void TouchRecorder::frameReceived(const ContactFrame& frame, double time) {
+    if (!trace_.isRecording()) {
+        return;
+    }
+    declare(frame.device, time);
+    const std::size_t count = std::min(frame.count, ContactFrame::capacity);
+    std::vector<Finger> fingers;
+    fingers.reserve(count);
+    std::vector<std::optional<ContactShape>> shapes;
+    for (std::size_t i = 0; i < count; ++i) {
+        fingers.emplace_back(frame.ids.at(i), frame.xs.at(i), frame.ys.at(i));
+        if (frame.hasShapes) {
+            shapes.emplace_back(frame.shapes.at(i));
+        }
+    }
+    note(time, TraceFrame{std::move(fingers), std::move(shapes), frame.device});
+}
+
+void TouchRecorder::useChosen(const TouchDevice& device, bool use, double time) {
+    if (!trace_.isRecording()) {
+        return;
+    }
+    declare(device, time);
+    note(time, TraceDeviceUse{device.id, use});
 }
 
 void TouchRecorder::switchChanged(const SwitchNote& note) {
@@ -136,6 +207,30 @@ void TouchRecorder::noteFrontApplication(TraceFrontApplication front, double tim
     }
     front_ = front;
     note(time, std::move(front));
+}
+
+void TouchRecorder::declare(std::uint64_t device, double time) {
+    if (declared_.contains(device)) {
+        return;
+    }
+    const std::vector<TouchDevice> devices =
+        devices_ != nullptr ? devices_->devices() : std::vector<TouchDevice>();
+    const auto found = std::ranges::find(devices, device, &TouchDevice::id);
+    // A device no longer listed is still told apart from the others, by its id alone.
+    declare(found != devices.end() ? *found
+                                   : TouchDevice{.id = device,
+                                                 .kind = TouchDeviceKind::other,
+                                                 .state = TouchDeviceState::missing,
+                                                 .error = 0,
+                                                 .name = {}},
+            time);
+}
+
+void TouchRecorder::declare(const TouchDevice& device, double time) {
+    if (!declared_.insert(device.id).second) {
+        return;
+    }
+    note(time, TraceDevice{device.id, traceKind(device.kind), device.name});
 }
 
 void TouchRecorder::noteGestures(bool on, double time) {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/platform/AppShell.h"
@@ -22,6 +24,7 @@
 #include "core/platform/SettingsView.h"
 #include "core/platform/SurfaceView.h"
 #include "core/platform/TapEvent.h"
+#include "core/platform/TouchDevices.h"
 #include "core/platform/TraceSink.h"
 #include "core/platform/Workspace.h"
 
@@ -31,9 +34,11 @@
 // Kept together because each is a few lines and none is used apart from the others.
 namespace tactora::replay {
 
-// The sender ids that stand for the touch mouse and for every other pointing device.
+// The sender ids that stand for the touch mouse and for every other pointing device; a touch
+// device beside the mouse sends as firstDeviceSender plus its id.
 inline constexpr std::uint64_t mouseSender = 1;
 inline constexpr std::uint64_t otherSender = 2;
+inline constexpr std::uint64_t firstDeviceSender = 16;
 
 class Workspace final : public tactora::Workspace {
   public:
@@ -191,6 +196,60 @@ class ProfileFiles final : public tactora::ProfileFiles {
 class DeviceWatcher final : public tactora::DeviceWatcher {
   public:
     bool watch(Change /*arrived*/, Change /*left*/) override { return false; }
+};
+
+// The touch devices beside the Magic Mouse that the trace declares, each in use while the
+// gestures' choice accepts it. Their frames reach the gestures from the replay itself, on its
+// one thread, so the sensor's callback is never called; no device comes or goes by itself.
+class TouchDevices final : public tactora::TouchDevices {
+  public:
+    static std::uint64_t senderOf(std::uint64_t device) { return firstDeviceSender + device; }
+
+    void useOthers(DeviceFrameCallback /*callback*/, Choice choose) override {
+        choose_ = std::move(choose);
+    }
+    bool refresh() override {
+        bool changed = false;
+        for (TouchDevice& device : listed_) {
+            const TouchDeviceState wanted =
+                choose_ && choose_(device) ? TouchDeviceState::connected : TouchDeviceState::off;
+            changed = changed || wanted != device.state;
+            device.state = wanted;
+        }
+        return changed;
+    }
+    std::vector<TouchDevice> devices() const override { return listed_; }
+    std::uint64_t deviceForSender(std::uint64_t senderID) override {
+        const auto found = std::ranges::find_if(listed_, [senderID](const TouchDevice& device) {
+            return senderOf(device.id) == senderID;
+        });
+        return found != listed_.end() && found->state == TouchDeviceState::connected ? found->id
+                                                                                     : 0;
+    }
+    bool watch(std::function<void()> /*changed*/) override { return false; }
+
+    // Lists `device`, or describes it anew when it is listed; off until the next refresh().
+    void declare(TouchDevice device) {
+        device.state = TouchDeviceState::off;
+        const auto found = std::ranges::find(listed_, device.id, &TouchDevice::id);
+        if (found == listed_.end()) {
+            listed_.push_back(std::move(device));
+        } else {
+            *found = std::move(device);
+        }
+    }
+    std::optional<TouchDevice> find(std::uint64_t id) const {
+        const auto found = std::ranges::find(listed_, id, &TouchDevice::id);
+        return found == listed_.end() ? std::nullopt : std::optional<TouchDevice>(*found);
+    }
+    bool inUse(std::uint64_t id) const {
+        const std::optional<TouchDevice> device = find(id);
+        return device && device->state == TouchDeviceState::connected;
+    }
+
+  private:
+    Choice choose_;
+    std::vector<TouchDevice> listed_;
 };
 
 class LoginItem final : public tactora::LoginItem {

@@ -113,6 +113,10 @@ std::string describe(const TraceDevice& device) {
            ' ' + deviceName(device.name);
 }
 
+std::string describe(const TraceDeviceUse& use) {
+    return "use " + deviceReference(use.device) + ' ' + std::string(onOff(use.on));
+}
+
 std::string describe(const TraceProfileSelected& profile) {
     return "profile " + word(profile.id);
 }

@@ -67,6 +67,15 @@ struct TraceDevice {
     bool operator==(const TraceDevice&) const = default;
 };
 
+// The user chose whether gestures use a touch device beside the Magic Mouse, named by a device
+// line; from this line on its frames and events count for gestures only while it is used.
+struct TraceDeviceUse {
+    std::uint64_t device = 0;
+    bool on = true;
+
+    bool operator==(const TraceDeviceUse&) const = default;
+};
+
 // The user selected the work profile with this id (the canonical UUID text).
 struct TraceProfileSelected {
     std::string id;
@@ -96,8 +105,9 @@ struct TraceActive {
     bool operator==(const TraceActive&) const = default;
 };
 
-using TraceEvent = std::variant<TraceFrame, TraceMouseEvent, TraceProfileSelected,
-                                TraceFrontApplication, TraceGestures, TraceActive, TraceDevice>;
+using TraceEvent =
+    std::variant<TraceFrame, TraceMouseEvent, TraceProfileSelected, TraceFrontApplication,
+                 TraceGestures, TraceActive, TraceDevice, TraceDeviceUse>;
 
 // One line of a trace: when (seconds of system uptime) and what.
 struct TraceLine {

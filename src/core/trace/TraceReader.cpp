@@ -278,6 +278,20 @@ Parsed parseDevice(Words& words, Devices& devices) {
     return {std::move(device)};
 }
 
+Parsed parseDeviceUse(Words& words, const Devices& devices) {
+    const auto word = words.next();
+    const std::optional<std::uint64_t> device =
+        word ? parseDeviceReference(*word, devices) : std::nullopt;
+    if (!device) {
+        return failed(TraceProblem::unknownDevice);
+    }
+    const std::optional<bool> on = parseOnOff(words.next());
+    if (!on) {
+        return failed(TraceProblem::onOff);
+    }
+    return {TraceDeviceUse{*device, *on}};
+}
+
 Parsed parseProfile(Words& words) {
     const auto word = words.next();
     const std::optional<Uuid> id = word ? Uuid::parse(std::string(*word)) : std::nullopt;
@@ -312,7 +326,10 @@ Parsed parseSwitch(std::string_view name, Words& words) {
     return {TraceActive{*on}};
 }
 
-Parsed parseEvent(Words& words, Devices& devices) {
+// The first version whose traces may hold "use" lines.
+constexpr int firstVersionWithUse = 3;
+
+Parsed parseEvent(Words& words, Devices& devices, int version) {
     const auto name = words.next();
     if (!name) {
         return failed(TraceProblem::event);
@@ -324,6 +341,8 @@ Parsed parseEvent(Words& words, Devices& devices) {
         parsed = parseMouseEvent(*type, words, devices);
     } else if (*name == "device") {
         parsed = parseDevice(words, devices);
+    } else if (*name == "use" && version >= firstVersionWithUse) {
+        parsed = parseDeviceUse(words, devices);
     } else if (*name == "profile") {
         parsed = parseProfile(words);
     } else if (*name == "front") {
@@ -417,7 +436,7 @@ TraceReading readTrace(std::string_view text) {
             return failure(number, TraceProblem::timeBack);
         }
         previous = *time;
-        Parsed parsed = parseEvent(words, devices);
+        Parsed parsed = parseEvent(words, devices, *version);
         if (!parsed.event) {
             return failure(number, parsed.problem);
         }
