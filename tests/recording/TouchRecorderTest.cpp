@@ -17,7 +17,7 @@
 #include "core/profiles/MemoryPreferences.h"
 #include "core/recording/TouchRecorder.h"
 #include "devices/FakeGestureRunner.h"
-#include "devices/FakeTouchDevices.h"
+#include "app/fakes/FakeTouchDevices.h"
 #include "support/RecordedStatusDisplay.h"
 
 namespace tactora::testing {

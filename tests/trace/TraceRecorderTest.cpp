@@ -54,6 +54,19 @@ TEST(TraceRecorder, WritesTheHeaderThenOneLineAtATime) {
     EXPECT_FALSE(recorder.isRecording());
 }
 
+TEST(TraceRecorder, ALineStampedBeforeTheLastIsWrittenAtTheLastOnesTime) {
+    CountingSink sink;
+    TraceRecorder recorder;
+    recorder.start(sink, 5.0);
+    EXPECT_TRUE(recorder.note({6.25, TraceGestures{true}}));
+
+    // The event tap's decision, stamped when it was made, told after a later frame.
+    EXPECT_TRUE(recorder.note({6.0, TraceGestures{false}}));
+    EXPECT_EQ(sink.last, "6.25 gestures off\n");
+    EXPECT_TRUE(recorder.note({6.5, TraceGestures{true}}));
+    EXPECT_EQ(sink.last, "6.5 gestures on\n");
+}
+
 TEST(TraceRecorder, RefusesLinesFromTenMinutesOn) {
     CountingSink sink;
     TraceRecorder recorder;

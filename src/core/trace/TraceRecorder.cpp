@@ -10,6 +10,7 @@ namespace tactora {
 void TraceRecorder::start(TraceSink& sink, double now) {
     sink_ = &sink;
     start_ = now;
+    last_ = now;
     size_ = 0;
     write(trace::header() + '\n');
 }
@@ -18,7 +19,13 @@ bool TraceRecorder::note(const TraceLine& line) {
     if (!isRecording() || expired(line.time)) {
         return false;
     }
-    return write(trace::formatLine(line) + '\n');
+    if (line.time >= last_) {
+        last_ = line.time;
+        return write(trace::formatLine(line) + '\n');
+    }
+    TraceLine inOrder = line;
+    inOrder.time = last_;
+    return write(trace::formatLine(inOrder) + '\n');
 }
 
 bool TraceRecorder::expired(double now) const {

@@ -22,7 +22,9 @@ class TraceRecorder {
     void start(TraceSink& sink, double now);
 
     // Writes `line`. False, and nothing written, when the line would pass either limit or no
-    // recording is under way; the caller then stops the recording.
+    // recording is under way; the caller then stops the recording. A line stamped earlier than
+    // the one before it is written at that one's time: what the event tap decided reaches the
+    // recorder after the frames that came in meanwhile, and a trace's times never go back.
     bool note(const TraceLine& line);
 
     // Whether the recording begun at start() has run for `longest` seconds by `now`.
@@ -39,6 +41,7 @@ class TraceRecorder {
 
     TraceSink* sink_ = nullptr;  // not owned; set while recording
     double start_ = 0;
+    double last_ = 0;  // the time of the last line written
     std::size_t size_ = 0;
 };
 
