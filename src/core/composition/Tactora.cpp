@@ -95,7 +95,16 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
       advanced_(*guard_, services.defaults,
                 views.advanced != nullptr ? *views.advanced : noAdvancedSheet_),
       moreSheet_(*controller_, services.dialogs,
-                 views.moreSheet != nullptr ? *views.moreSheet : noMoreSheet_, extras_.get()) {
+                 views.moreSheet != nullptr ? *views.moreSheet : noMoreSheet_, extras_.get()),
+      deviceTable_({.switcher = *controller_,
+                    .devices = *devices_,
+                    .dialogs = services.dialogs,
+                    .workspace = services.workspace,
+                    .systemPreferences = views.systemPreferences != nullptr
+                                             ? *views.systemPreferences
+                                             : noSystemPreferences_,
+                    .view = views.deviceTable != nullptr ? *views.deviceTable : noDeviceTable_,
+                    .extras = extras_.get()}) {
     // The recorder comes first, so that it writes what comes in before the others act on it.
     controller_->addObserver(recorder_);
     // Next, so that gestures it switches on or off are what the others see.
@@ -113,6 +122,9 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
     devices_->runThrough(runner_);
     controller_->addObserver(*devices_);
     recorder_.followDevices(devices_.get());
+    // After the devices' gestures, so that the list it shows at launch is the one they keep.
+    controller_->addObserver(deviceTable_);
+    devices_->setListChanged([this] { deviceTable_.devicesChanged(); });
     // What the sheet stores is recognised from the next touch on, not only after a refresh.
     moreSheet_.setMappingChanged(
         [this, &clock = services.clock] { more_->refreshed(clock.uptime()); });
@@ -123,6 +135,7 @@ Tactora::Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extr
             if (const auto controller = weak.lock()) {
                 controller->refreshProfileUI();
                 moreSheet_.valuesChanged();
+                deviceTable_.valuesChanged();
             }
         });
     }
@@ -134,6 +147,8 @@ Tactora::~Tactora() {
         extras_->setRowsChanged({});
     }
     recorder_.followDevices(nullptr);
+    devices_->setListChanged({});
+    controller_->removeObserver(deviceTable_);
     controller_->removeObserver(*devices_);
     controller_->removeObserver(moreSheet_);
     controller_->removeObserver(advanced_);

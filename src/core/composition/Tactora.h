@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/advanced/AdvancedSettings.h"
@@ -9,6 +12,7 @@
 #include "core/app/ControllerServices.h"
 #include "core/devices/ControllerGestureRunner.h"
 #include "core/devices/DeviceGestures.h"
+#include "core/devicetable/DeviceTable.h"
 #include "core/feedback/MenuBarFeedback.h"
 #include "core/frontmost/FrontmostProfiles.h"
 #include "core/keepgestures/GestureKeeper.h"
@@ -18,7 +22,9 @@
 #include "core/moregestures/MoreGesturesExtension.h"
 #include "core/moresheet/MoreSheet.h"
 #include "core/platform/AdvancedSheetView.h"
+#include "core/platform/DeviceTableView.h"
 #include "core/platform/MoreSheetView.h"
+#include "core/platform/SystemPreferences.h"
 #include "core/profilefiles/ProfileFileControls.h"
 #include "core/recording/TouchRecorder.h"
 
@@ -26,11 +32,14 @@ namespace tactora {
 
 // The views of the parts beside the controller that the controller itself never touches, and
 // what only those parts reach: not owned, each must outlive the program. A part without its
-// view never shows it; without touch devices, nothing but the Magic Mouse is used.
+// view never shows it; without touch devices, nothing but the Magic Mouse is used; without the
+// system's preferences, its trackpad settings read as their defaults.
 struct PartViews {
     AdvancedSheetView* advanced = nullptr;
     MoreSheetView* moreSheet = nullptr;
     TouchDevices* touchDevices = nullptr;
+    DeviceTableView* deviceTable = nullptr;
+    const SystemPreferences* systemPreferences = nullptr;
 };
 
 // The running program: the controller and the parts beside it, wired together. The controller
@@ -54,6 +63,8 @@ struct PartViews {
 //   advanced/    the Advanced sheet, which edits those options and limits, and its try area
 //   devices/     the trackpads beside the Magic Mouse: which are used, and their taps and
 //                clicks, whose events the controller hands on through DeviceEvents
+//   devicetable/ the devices in the settings window, the trackpads' gesture rows in place of
+//                the mouse's, and their conflicts with the system's own gestures
 //
 // The shell sends each menu item and control to the part that owns it. Main thread only, like
 // everything it holds; made once the string table is installed.
@@ -84,6 +95,7 @@ class Tactora {
     AdvancedSettings& advanced() { return advanced_; }
     MoreSheet& moreSheet() { return moreSheet_; }
     DeviceGestures& deviceGestures() { return *devices_; }
+    DeviceTable& deviceTable() { return deviceTable_; }
 
   private:
     // Stands in for the Advanced sheet when there is none: shows nothing.
@@ -109,6 +121,20 @@ class Tactora {
         bool watch(std::function<void()> /*changed*/) override { return false; }
     };
 
+    // Stands in for the devices' part of the window when there is none: shows nothing.
+    class NoDeviceTable final : public DeviceTableView {
+      public:
+        void showDeviceTable(const DeviceTableContent& /*content*/) override {}
+    };
+    // Stands in for the system's preferences when there are none: holds nothing.
+    class NoSystemPreferences final : public SystemPreferences {
+      public:
+        std::optional<std::int64_t> integer(std::string_view /*domain*/,
+                                            std::string_view /*key*/) const override {
+            return std::nullopt;
+        }
+    };
+
     Tactora(ControllerServices services, std::shared_ptr<ExtraActions> extras, PartViews views);
 
     std::shared_ptr<ExtraActions> extras_;
@@ -128,6 +154,9 @@ class Tactora {
     NoMoreSheet noMoreSheet_;
     AdvancedSettings advanced_;
     MoreSheet moreSheet_;
+    NoDeviceTable noDeviceTable_;
+    NoSystemPreferences noSystemPreferences_;
+    DeviceTable deviceTable_;
 };
 
 }  // namespace tactora
