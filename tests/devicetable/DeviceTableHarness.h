@@ -5,7 +5,7 @@
 #include "app/ControllerHarness.h"
 #include "app/fakes/FakeDeviceTableView.h"
 #include "devices/FakeSystemPreferences.h"
-#include "devices/FakeTouchDevices.h"
+#include "app/fakes/FakeTouchDevices.h"
 
 namespace tactora::testing {
 
