@@ -4,8 +4,8 @@
 
 #include "app/ControllerHarness.h"
 #include "app/fakes/FakeDeviceTableView.h"
-#include "devices/FakeSystemPreferences.h"
 #include "app/fakes/FakeTouchDevices.h"
+#include "devices/FakeSystemPreferences.h"
 
 namespace tactora::testing {
 

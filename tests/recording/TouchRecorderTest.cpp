@@ -10,6 +10,7 @@
 #include "app/fakes/FakeClock.h"
 #include "app/fakes/FakeMainQueue.h"
 #include "app/fakes/FakeSettingsView.h"
+#include "app/fakes/FakeTouchDevices.h"
 #include "app/fakes/FakeTraceSink.h"
 #include "app/fakes/FakeWorkspace.h"
 #include "core/app/ProfileSwitcher.h"
@@ -17,7 +18,6 @@
 #include "core/profiles/MemoryPreferences.h"
 #include "core/recording/TouchRecorder.h"
 #include "devices/FakeGestureRunner.h"
-#include "app/fakes/FakeTouchDevices.h"
 #include "support/RecordedStatusDisplay.h"
 
 namespace tactora::testing {
