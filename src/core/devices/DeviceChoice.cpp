@@ -35,12 +35,14 @@ std::optional<std::pair<TouchDeviceKind, std::string>> readEntry(const nlohmann:
 }  // namespace
 
 std::string_view storedKindName(TouchDeviceKind kind) {
-    const auto found = std::ranges::find(kindNames, kind, &decltype(kindNames)::value_type::first);
+    const auto* const found =
+        std::ranges::find(kindNames, kind, &decltype(kindNames)::value_type::first);
     return found == kindNames.end() ? "other" : found->second;
 }
 
 std::optional<TouchDeviceKind> storedKind(std::string_view name) {
-    const auto found = std::ranges::find(kindNames, name, &decltype(kindNames)::value_type::second);
+    const auto* const found =
+        std::ranges::find(kindNames, name, &decltype(kindNames)::value_type::second);
     if (found == kindNames.end()) {
         return std::nullopt;
     }
