@@ -12,19 +12,7 @@ void sanitizeExtras(const std::vector<ActionIndex>& actions,
                     std::vector<std::optional<SlotExtra>>& extras) {
     extras.resize(slot::count, std::nullopt);
     for (std::size_t i = 0; i < slot::count; ++i) {
-        std::optional<SlotExtra>& extra = extras[i];
-        if (!extra) {
-            continue;
-        }
-        const ActionValueKind kind = catalogue::info(extra->action).value;
-        if (kind == ActionValueKind::none) {
-            extra->value.clear();
-        }
-        // A slot that an older copy gave another action keeps that action in both copies.
-        if (actions[i] != action::defaultAction ||
-            (kind != ActionValueKind::none && extra->value.empty())) {
-            extra.reset();
-        }
+        sanitizeSlotExtra(actions[i], extras[i]);
     }
     if (std::ranges::none_of(extras, [](const auto& extra) { return extra.has_value(); })) {
         extras.clear();
@@ -32,6 +20,21 @@ void sanitizeExtras(const std::vector<ActionIndex>& actions,
 }
 
 }  // namespace
+
+void sanitizeSlotExtra(ActionIndex action, std::optional<SlotExtra>& extra) {
+    if (!extra) {
+        return;
+    }
+    const ActionValueKind kind = catalogue::info(extra->action).value;
+    if (kind == ActionValueKind::none) {
+        extra->value.clear();
+    }
+    // A slot that an older copy gave another action keeps that action in both copies.
+    if (action != action::defaultAction ||
+        (kind != ActionValueKind::none && extra->value.empty())) {
+        extra.reset();
+    }
+}
 
 GestureSlots::GestureSlots() : actions(slot::count), shortcuts(slot::count) {}
 

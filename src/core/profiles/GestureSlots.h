@@ -46,6 +46,10 @@ void sanitizeGestureSlots(std::vector<ActionIndex>& actions,
                           std::vector<std::optional<SavedShortcut>>& shortcuts,
                           std::vector<std::optional<SlotExtra>>& extras);
 
+// One slot's extra, repaired: it is kept only while the slot's `action` is the default, and one
+// that needs a value only with one; an extra that needs none keeps none.
+void sanitizeSlotExtra(ActionIndex action, std::optional<SlotExtra>& extra);
+
 // The extra action of a slot in `extras`, if it holds one; nothing past the list's end.
 std::optional<SlotExtra> extraInSlot(const std::vector<std::optional<SlotExtra>>& extras,
                                      std::size_t slot);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/actions/ExtraActionInfo.h"
+#include "core/profiles/GestureSlots.h"
 
 namespace tactora {
 
@@ -16,26 +16,10 @@ void MoreGestureMap::sanitize() {
         if (!action::isValid(actions[i]) || orphanedCustom) {
             actions[i] = action::defaultAction;
         }
-        sanitizeExtra(i);
+        sanitizeSlotExtra(actions[i], extras[i]);
     }
     topBand =
         std::isnan(topBand) ? defaultTopBand : std::clamp(topBand, smallestTopBand, largestTopBand);
-}
-
-void MoreGestureMap::sanitizeExtra(std::size_t i) {
-    std::optional<SlotExtra>& extra = extras[i];
-    if (!extra) {
-        return;
-    }
-    const ActionValueKind kind = catalogue::info(extra->action).value;
-    if (kind == ActionValueKind::none) {
-        extra->value.clear();
-    }
-    // A slot that an older copy gave another action keeps that action in both copies.
-    if (actions[i] != action::defaultAction ||
-        (kind != ActionValueKind::none && extra->value.empty())) {
-        extra.reset();
-    }
 }
 
 bool MoreGestureMap::isDefault() const {

@@ -57,9 +57,6 @@ struct MoreGestureMap {
     bool isDefault() const;
 
     bool operator==(const MoreGestureMap&) const = default;
-
-  private:
-    void sanitizeExtra(std::size_t i);
 };
 
 }  // namespace tactora
