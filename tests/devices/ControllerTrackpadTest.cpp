@@ -280,6 +280,20 @@ TEST_F(ControllerTrackpadMouseTest, ANoticeThatComesAfterTheSensorFollowedTheMou
     EXPECT_TRUE(h.view.enabled);
 }
 
+TEST_F(ControllerTrackpadMouseTest, AMouseAloneStillPausesAndReconnectsWhenTheSensorLetItGoFirst) {
+    h.launchAndSwitchOn();
+    const auto starts = h.log.count("sensor.start");
+    // The devices' own notice came first and the sensor already let go of the mouse.
+    mousePresent = false;
+    h.touchDevices.changed();
+
+    h.devices.leave(42);
+    h.queue.advance(GestureKeeper::deviceSettle + 0.01);
+
+    EXPECT_EQ(h.log.count("sensor.start"), starts + 1);
+    EXPECT_FALSE(h.view.enabled);
+}
+
 TEST_F(ControllerTrackpadMouseTest, WithoutATrackpadInUseTheMouseLeavingStillReconnects) {
     h.launchAndSwitchOn();
     const auto starts = h.log.count("sensor.start");

@@ -60,7 +60,7 @@ void GestureKeeper::deviceArrived(std::uint64_t /*device*/) {
         scheduleDeviceReconnect(false);
         return;
     }
-    if (!arrivalReconnects(services_.sensor.connectedDevice())) {
+    if (!arrivalReconnects(mouse_)) {
         return;
     }
     keepOn_.deviceArrived();
@@ -68,7 +68,7 @@ void GestureKeeper::deviceArrived(std::uint64_t /*device*/) {
 }
 
 void GestureKeeper::deviceLeft(std::uint64_t device) {
-    const bool reconnects = departureReconnects(device, services_.sensor.connectedDevice());
+    const bool reconnects = departureReconnects(device, mouse_);
     if (reconnects || followsBesideOthers()) {
         scheduleDeviceReconnect(reconnects);
     }
@@ -195,6 +195,7 @@ void GestureKeeper::woke(const MomentNote& /*note*/) {
 // After every reconnect, which always ends paused: a wake that did not find the mouse tries
 // again, and gestures the user wants come back on.
 void GestureKeeper::reconnected(const ReconnectNote& note) {
+    mouse_ = services_.sensor.connectedDevice();
     if (note.ready) {
         keepOn_.sensorConnected();
     } else {
@@ -323,6 +324,7 @@ void GestureKeeper::scheduleDeviceReconnect(bool reconnect) {
             if (self->followsBesideOthers()) {
                 self->services_.otherSurfaces->followDevices();
                 self->gestures_.sensorFollowed();
+                self->mouse_ = self->services_.sensor.connectedDevice();
             } else if (wanted) {
                 self->gestures_.reconnect();
             }

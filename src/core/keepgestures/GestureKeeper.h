@@ -132,6 +132,10 @@ class GestureKeeper final : public ControllerObserver,
     bool activityHeld_ = false;
     bool deviceReconnectPending_ = false;
     bool deviceReconnectWanted_ = false;
+    // The mouse the sensor connected at the last reconnect (or follow), 0 for none. Notices are
+    // judged by it rather than by what the sensor says now: keeping the other devices' list
+    // current may already have let go of a mouse that left.
+    std::uint64_t mouse_ = 0;
     // The user's tick waiting to be applied: a tick that does not take says what it waits for.
     bool tickPending_ = false;
     // What the refresh under way found (accessibility, input monitoring), and what the one
