@@ -90,6 +90,18 @@ TEST(DeviceChoice, EntriesThisVersionCannotReadAreKeptWhenTheChoiceChanges) {
         R"([{"kind":"magicTrackpad","name":"Magic Trackpad"},{"kind":"builtInTrackpad","name":"Apple Internal Keyboard / Trackpad"},{"kind":"visionSurface","name":"Future"},7,{"kind":"magicTrackpad"}])");
 }
 
+TEST(DeviceChoice, ANameThatIsNotUtf8IsUsedAndStoredWithReplacementCharacters) {
+    auto defaults = std::make_shared<MemoryPreferences>();
+    DeviceChoice choice(defaults);
+    TouchDevice odd = magicTrackpad;
+    odd.name = "Pad \xff";
+
+    choice.setUses(odd, true);
+
+    EXPECT_TRUE(choice.uses(odd));
+    EXPECT_EQ(stored(*defaults), "[{\"kind\":\"magicTrackpad\",\"name\":\"Pad \xef\xbf\xbd\"}]");
+}
+
 TEST(DeviceChoice, EveryKindHasAStoredNameThatReadsBack) {
     for (const TouchDeviceKind kind :
          {TouchDeviceKind::other, TouchDeviceKind::magicMouse, TouchDeviceKind::magicTrackpad,

@@ -94,7 +94,9 @@ void DeviceChoice::save() const {
     for (const std::string& entry : unread_) {
         array.push_back(nlohmann::json::parse(entry));
     }
-    defaults_->setString(std::string(key), array.dump());
+    // A name that is not UTF-8 is stored with replacement characters rather than not at all.
+    defaults_->setString(std::string(key),
+                         array.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
 }
 
 }  // namespace tactora
