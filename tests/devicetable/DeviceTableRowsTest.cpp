@@ -183,8 +183,32 @@ TEST_F(DeviceTableRowsTest, AConflictNamesTheGestureAndTheSystemsAndOpensItsSett
                                    devicetable::systemGestureName(conflicts[i].with)));
         EXPECT_EQ(lines[i].buttonTitle, L("devices.conflict.open"));
         EXPECT_EQ(lines[i].tag, static_cast<std::int64_t>(conflicts[i].with));
+        EXPECT_EQ(lines[i].slot, slot);
     }
     EXPECT_TRUE(devicetable::conflictLines(GestureSlots(), all).empty());
+}
+
+TEST_F(DeviceTableRowsTest, ARowShowsEachOfItsSlotsConflictsOnALineAndNoOtherSlots) {
+    std::vector<TrackpadRow> rows = devicetable::trackpadRows(GestureSlots(), nullptr);
+    rows[0].conflict = "left from before";
+    const std::int64_t twoFingerTap = slot::forTap(2);
+    const std::vector<ConflictLine> conflicts = {
+        {.slot = twoFingerTap, .text = "secondary", .buttonTitle = "open", .tag = 1},
+        {.slot = slot::forClick(3), .text = "drag", .buttonTitle = "open", .tag = 2},
+        {.slot = twoFingerTap, .text = "zoom", .buttonTitle = "open", .tag = 4},
+    };
+
+    devicetable::markConflicts(rows, conflicts);
+
+    for (const TrackpadRow& row : rows) {
+        if (row.slot == twoFingerTap) {
+            EXPECT_EQ(row.conflict, "secondary\nzoom");
+        } else if (row.slot == slot::forClick(3)) {
+            EXPECT_EQ(row.conflict, "drag");
+        } else {
+            EXPECT_EQ(row.conflict, "") << "slot " << row.slot;
+        }
+    }
 }
 
 }  // namespace

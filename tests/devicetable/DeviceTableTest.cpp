@@ -176,9 +176,11 @@ TEST_F(DeviceTableTest, TheSurfaceChoiceAppearsOnlyOnceATrackpadIsSeen) {
 
     EXPECT_TRUE(shown().showsSurfaceChoice);
     EXPECT_TRUE(shown().showsTrackpadRows);
+    EXPECT_EQ(shown().openTitle, L("devices.open"));
     EXPECT_EQ(shown().mouseSurface, L("devices.surface.mouse"));
     EXPECT_EQ(shown().trackpadSurface, L("devices.surface.trackpads"));
     EXPECT_EQ(shown().surfaceHelp, L("devices.surface.help"));
+    EXPECT_EQ(shown().doneTitle, L("devices.done"));
 }
 
 TEST_F(DeviceTableTest, TheMouseRowsShowUntilTrackpadsAreChosen) {
@@ -291,18 +293,39 @@ TEST_F(DeviceTableTest, ASlotWithAFurtherActionShowsItAndTheDefaultTakesItAway) 
     EXPECT_EQ(row(slot::forTap(3)).action, action::defaultAction);
 }
 
-TEST_F(DeviceTableTest, ConflictsShowOnlyWithTheTrackpadRows) {
+TEST_F(DeviceTableTest, ConflictsShowOnceATrackpadIsSeenWhicheverRowsAreShown) {
     d.preferences.set(builtInDomain, "Clicking", 1);
     store().setAction(action::middle, slot::forTap(1), SurfaceKind::trackpad);
-    launchWith({mouse, trackpad});
-    EXPECT_TRUE(shown().conflicts.empty());
+    launchWith({mouse});
+    EXPECT_TRUE(shown().conflicts.empty()) << "no sheet without a trackpad";
 
-    table().chooseSurface(SurfaceKind::trackpad);
+    d.touchDevices.listed.push_back(trackpad);
+    d.touchDevices.changed();
 
+    EXPECT_FALSE(shown().showsTrackpadRows);
     EXPECT_EQ(shown().conflicts, devicetable::conflictLines(trackpadSlots(), table().settings()));
     ASSERT_EQ(shown().conflicts.size(), 1U);
     EXPECT_EQ(shown().conflicts[0].tag,
               static_cast<std::int64_t>(SystemTrackpadGesture::tapToClick));
+    EXPECT_EQ(shown().conflicts[0].slot, slot::forTap(1));
+
+    table().chooseSurface(SurfaceKind::trackpad);
+    EXPECT_EQ(shown().conflicts.size(), 1U);
+}
+
+TEST_F(DeviceTableTest, TheCompetingRowShowsItsConflictAndTheOthersNone) {
+    store().setAction(action::middle, slot::forTap(3), SurfaceKind::trackpad);
+    store().setAction(action::copy, slot::forClick(2), SurfaceKind::trackpad);
+    d.preferences.set(builtInDomain, "TrackpadThreeFingerTapGesture", 2);
+    showTrackpadRows();
+
+    // Secondary click is on unless switched off.
+    EXPECT_EQ(row(slot::forClick(2)).conflict,
+              L("devices.conflict", L("gesture.click", 2), L("devices.system.secondary_click")));
+    EXPECT_EQ(row(slot::forTap(3)).conflict,
+              L("devices.conflict", L("gesture.tap", 3), L("devices.system.look_up")));
+    EXPECT_TRUE(row(slot::forTap(1)).conflict.empty());
+    EXPECT_TRUE(row(slot::forClick(3)).conflict.empty());
 }
 
 TEST_F(DeviceTableTest, MappingAGestureAddsItsConflictAndTheDefaultTakesItAway) {

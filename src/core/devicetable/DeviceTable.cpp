@@ -30,26 +30,30 @@ const GestureSlots& DeviceTable::slots() const {
     return services_.switcher.profiles().current().trackpad;
 }
 
+// The conflicts are listed in the sheet, which is there once a trackpad has been seen, whichever
+// surface's rows the window shows.
 DeviceTableContent DeviceTable::content() const {
     const DeviceGestures& devices = services_.devices;
     const bool trackpadSeen = devices.trackpadSeen();
-    const bool trackpadRows = trackpadSeen && surface_ == SurfaceKind::trackpad;
     DeviceTableContent content{
+        .showsSurfaceChoice = trackpadSeen,
+        .openTitle = L("devices.open"),
+        .mouseSurface = L("devices.surface.mouse"),
+        .trackpadSurface = L("devices.surface.trackpads"),
+        .surfaceHelp = L("devices.surface.help"),
+        .showsTrackpadRows = trackpadSeen && surface_ == SurfaceKind::trackpad,
+        .rows = devicetable::trackpadRows(slots(), services_.extras),
         .devicesTitle = L("devices.title"),
         .devices = devicetable::deviceLines(
             devices.devices(),
             [&devices](const TouchDevice& device) { return devices.uses(device); }),
-        .showsSurfaceChoice = trackpadSeen,
-        .mouseSurface = L("devices.surface.mouse"),
-        .trackpadSurface = L("devices.surface.trackpads"),
-        .surfaceHelp = L("devices.surface.help"),
-        .showsTrackpadRows = trackpadRows,
-        .rows = devicetable::trackpadRows(slots(), services_.extras),
         .hint = L("devices.trackpad.hint"),
         .conflicts = {},
+        .doneTitle = L("devices.done"),
     };
-    if (trackpadRows) {
+    if (trackpadSeen) {
         content.conflicts = devicetable::conflictLines(slots(), settings_);
+        devicetable::markConflicts(content.rows, content.conflicts);
     }
     return content;
 }

@@ -37,12 +37,13 @@ struct DeviceTableServices {
     ExtraActionPerformer* extras = nullptr;
 };
 
-// The touch devices in the settings window: every device seen with a box to use it, and, once a
-// trackpad has been seen, a choice between the Magic Mouse's gesture rows and the trackpads'. The
-// trackpads' rows edit the active profile's trackpad slots as the mouse's rows edit the mouse's
-// (the same pop-ups, the further actions and shortcut recording), every choice stored at once;
-// under them a hint and one line for each mapped gesture that competes with a gesture of the
-// system's own that is switched on, with a button that opens where that one is switched off.
+// The touch devices in the settings window. Once a trackpad has been seen: a choice between the
+// Magic Mouse's gesture rows and the trackpads', and a sheet with every device seen and a box to
+// use it, a hint, and one line for each mapped trackpad gesture that competes with a gesture of
+// the system's own that is switched on, with a button that opens where that one is switched off
+// (the competing row shows a warning sign too). The trackpads' rows edit the active profile's
+// trackpad slots as the mouse's rows edit the mouse's (the same pop-ups, the further actions and
+// shortcut recording), every choice stored at once.
 //
 // The system's trackpad settings are read again whenever the window is shown and whenever the
 // application becomes active, since the user changes them in System Settings meanwhile. Nothing

@@ -152,6 +152,7 @@ std::vector<ConflictLine> conflictLines(const GestureSlots& slots,
     std::vector<ConflictLine> lines;
     for (const GestureConflict& conflict : systemGestureConflicts(slots, settings)) {
         lines.push_back({
+            .slot = conflict.slot,
             .text =
                 L("devices.conflict", gestureName(conflict.slot), systemGestureName(conflict.with)),
             .buttonTitle = L("devices.conflict.open"),
@@ -159,6 +160,21 @@ std::vector<ConflictLine> conflictLines(const GestureSlots& slots,
         });
     }
     return lines;
+}
+
+void markConflicts(std::vector<TrackpadRow>& rows, const std::vector<ConflictLine>& conflicts) {
+    for (TrackpadRow& row : rows) {
+        row.conflict.clear();
+        for (const ConflictLine& conflict : conflicts) {
+            if (conflict.slot != row.slot) {
+                continue;
+            }
+            if (!row.conflict.empty()) {
+                row.conflict += '\n';
+            }
+            row.conflict += conflict.text;
+        }
+    }
 }
 
 }  // namespace tactora::devicetable

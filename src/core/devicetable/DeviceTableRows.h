@@ -39,4 +39,7 @@ std::string systemGestureName(SystemTrackpadGesture gesture);
 std::vector<ConflictLine> conflictLines(const GestureSlots& slots,
                                         const TrackpadSettings& settings);
 
+// Gives each row the texts of its slot's conflicts, one per line, and the others none.
+void markConflicts(std::vector<TrackpadRow>& rows, const std::vector<ConflictLine>& conflicts);
+
 }  // namespace tactora::devicetable
