@@ -7,6 +7,7 @@
 #include "core/platform/TouchDevices.h"
 #include "core/profiles/Preferences.h"
 #include "macos/AppKitAdvancedSheetView.h"
+#include "macos/AppKitDeviceTableView.h"
 #include "macos/AppKitDialogs.h"
 #include "macos/AppKitMoreSheetView.h"
 #include "macos/AppKitProfileFiles.h"
@@ -14,6 +15,7 @@
 #include "macos/AppKitShell.h"
 #include "macos/AppKitSurfaceView.h"
 #include "macos/AppKitWorkspace.h"
+#include "macos/CFSystemPreferences.h"
 #include "macos/CGEventPoster.h"
 #include "macos/CGSystemEventPoster.h"
 #include "macos/DispatchMainQueue.h"
@@ -82,6 +84,8 @@ class MacApplication {
     TaskProcessLauncher processes_;
     PanelActionValuePicker picker_;
     AppKitAdvancedSheetView advanced_;
+    AppKitDeviceTableView deviceTable_;
+    CFSystemPreferences systemPreferences_;
     std::unique_ptr<Tactora> program_;
 };
 

@@ -26,6 +26,7 @@ MacApplication::MacApplication(Sensor& sensor, TouchDevices& touchDevices,
       surface_(controls_),
       moreSheet_(controls_, delegate_),
       advanced_(controls_, delegate_),
+      deviceTable_(controls_),
       program_(std::make_unique<Tactora>(
           ControllerServices{
               .clock = clock_,
@@ -55,8 +56,11 @@ MacApplication::MacApplication(Sensor& sensor, TouchDevices& touchDevices,
               .processes = processes_,
               .picker = picker_,
           },
-          PartViews{
-              .advanced = &advanced_, .moreSheet = &moreSheet_, .touchDevices = &touchDevices})) {
+          PartViews{.advanced = &advanced_,
+                    .moreSheet = &moreSheet_,
+                    .touchDevices = &touchDevices,
+                    .deviceTable = &deviceTable_,
+                    .systemPreferences = &systemPreferences_})) {
     [delegate_ attachProgram:program_.get()];
 }
 

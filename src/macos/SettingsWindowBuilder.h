@@ -44,11 +44,23 @@ class SettingsWindowBuilder {
     void addSwitchRow(const SettingsWindowTexts& texts);
     // Gives a control made with the controls its title and its action.
     void wire(NSButton* button, const std::string& title, SEL action);
-    void addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts);
+    // Where a gesture row's pop-up and record button report, and the lists that keep them.
+    struct RowWiring {
+        id target;
+        SEL menuAction;
+        SEL recordAction;
+        NSMutableArray<NSPopUpButton*>* menus;
+        NSMutableArray<NSButton*>* recordButtons;
+    };
+    void addGestureTable(const SettingsWindowTexts& texts);
+    void addHeading(const std::string& text, bool withDevices);
+    NSStackView* makeGestureRow(const GestureRow& row, const SettingsWindowTexts& texts,
+                                const RowWiring& wiring);
     void addLiveArea(const SettingsWindowTexts& texts);
     NSStackView* makeSheetButtons(const SettingsWindowTexts& texts);
-    NSPopUpButton* makeActionMenu(NSInteger slot, const SettingsWindowTexts& texts);
-    NSButton* makeRecordButton(NSInteger slot, const std::string& title);
+    NSPopUpButton* makeActionMenu(NSInteger slot, const SettingsWindowTexts& texts,
+                                  const RowWiring& wiring);
+    NSButton* makeRecordButton(NSInteger slot, const std::string& title, const RowWiring& wiring);
     NSButton* makeButton(std::string_view title, SEL action);
 
     TASettingsControls* __strong controls_;

@@ -77,9 +77,7 @@ NSWindow* SettingsWindowBuilder::build(const SettingsWindowTexts& texts) {
     addPermissionRow(texts);
     addProfileRow(texts);
     addSwitchRow(texts);
-    for (const GestureRow& row : texts.gestureRows) {
-        addGestureRow(row, texts);
-    }
+    addGestureTable(texts);
     addLiveArea(texts);
     addNote(texts.footer, 11);
     return window;
@@ -254,20 +252,76 @@ void SettingsWindowBuilder::wire(NSButton* button, const std::string& title, SEL
     button.action = action;
 }
 
-void SettingsWindowBuilder::addGestureRow(const GestureRow& row, const SettingsWindowTexts& texts) {
-    if (row.heading) {
-        NSTextField* heading =
-            makeWrappingLabel(*row.heading, [NSFont boldSystemFontOfSize:12], columnWidth);
-        heading.textColor = NSColor.secondaryLabelColor;
-        add(heading);
+// Under each of the Magic Mouse's rows, the trackpads' row for the same gesture, hidden until the
+// devices' part shows it in the mouse's row's place, so that the table keeps its height.
+void SettingsWindowBuilder::addGestureTable(const SettingsWindowTexts& texts) {
+    TADeviceTable* devices = controls_.deviceTable;
+    devices.target = target_;
+    const RowWiring mouse {
+        .target = target_, .menuAction = @selector(changed:),
+        .recordAction = @selector(recordShortcut:), .menus = controls_.actionMenus,
+        .recordButtons = controls_.recordButtons
+    };
+    const RowWiring trackpad {
+        .target = devices, .menuAction = @selector(trackpadChanged:),
+        .recordAction = @selector(recordTrackpad:), .menus = devices.trackpadMenus,
+        .recordButtons = devices.trackpadRecordButtons
+    };
+    NSMutableArray<NSView*>* mouseRows = [NSMutableArray array];
+    NSMutableArray<NSView*>* trackpadRows = [NSMutableArray array];
+    bool first = true;
+    for (const GestureRow& row : texts.gestureRows) {
+        if (row.heading) {
+            addHeading(*row.heading, first);
+            first = false;
+        }
+        NSStackView* mouseRow = makeGestureRow(row, texts, mouse);
+        add(mouseRow);
+        [mouseRows addObject:mouseRow];
+        NSStackView* trackpadRow = makeGestureRow(row, texts, trackpad);
+        [trackpadRow addArrangedSubview:[devices makeConflictMarkerForSlot:static_cast<NSInteger>(
+                                                                               row.slot)]];
+        trackpadRow.detachesHiddenViews = YES;
+        add(trackpadRow);
+        [trackpadRows addObject:trackpadRow];
     }
+    [devices placeMouseRows:mouseRows trackpadRows:trackpadRows];
+}
+
+// The first heading shares its line with the devices' controls, at its trailing end; hidden,
+// they take no room, and the line is the heading's.
+void SettingsWindowBuilder::addHeading(const std::string& text, bool withDevices) {
+    NSTextField* heading = makeWrappingLabel(text, [NSFont boldSystemFontOfSize:12],
+                                             withDevices ? columnWidth / 2 : columnWidth);
+    heading.textColor = NSColor.secondaryLabelColor;
+    if (!withDevices) {
+        add(heading);
+        return;
+    }
+    TADeviceTable* devices = controls_.deviceTable;
+    NSStackView* line = makeRow(@[], 8);
+    [line addView:heading inGravity:NSStackViewGravityLeading];
+    [line addView:devices.openButton inGravity:NSStackViewGravityTrailing];
+    [line addView:devices.surfaceControl inGravity:NSStackViewGravityTrailing];
+    line.alignment = NSLayoutAttributeCenterY;
+    line.detachesHiddenViews = YES;
+    fixWidth(line, columnWidth);
+    add(line);
+}
+
+NSStackView* SettingsWindowBuilder::makeGestureRow(const GestureRow& row,
+                                                   const SettingsWindowTexts& texts,
+                                                   const RowWiring& wiring) {
     NSTextField* fingers = makeWrappingLabel(
         row.fingerLabel, [NSFont systemFontOfSize:NSFont.systemFontSize], fingerWidth);
     fixWidth(fingers, fingerWidth);
     const auto slot = static_cast<NSInteger>(row.slot);
-    NSStackView* rowView = makeRow(
-        @[ fingers, makeActionMenu(slot, texts), makeRecordButton(slot, texts.recordButton) ], 18);
-    add(rowView);
+    return makeRow(
+        @[
+            fingers, makeActionMenu(slot, texts, wiring),
+            makeRecordButton(slot, texts.recordButton, wiring)
+        ],
+        18);
 }
 
 // Under the gesture table, the hint, the live line, the test button and the buttons that open
@@ -308,7 +362,8 @@ NSStackView* SettingsWindowBuilder::makeSheetButtons(const SettingsWindowTexts& 
 }
 
 NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,
-                                                     const SettingsWindowTexts& texts) {
+                                                     const SettingsWindowTexts& texts,
+                                                     const RowWiring& wiring) {
     NSPopUpButton* menu = [[NSPopUpButton alloc] initWithFrame:NSZeroRect pullsDown:NO];
     // Items go straight into the menu, each tagged with its action: the fifteen first, in
     // catalogue order, then each group of extra actions after a separator.
@@ -318,18 +373,20 @@ NSPopUpButton* SettingsWindowBuilder::makeActionMenu(NSInteger slot,
     }
     addActionGroups(menu.menu, texts.extraActionGroups);
     menu.tag = slot;
-    menu.target = target_;
-    menu.action = @selector(changed:);
+    menu.target = wiring.target;
+    menu.action = wiring.menuAction;
     fixWidth(menu, 320);
-    [controls_.actionMenus addObject:menu];
+    [wiring.menus addObject:menu];
     return menu;
 }
 
-NSButton* SettingsWindowBuilder::makeRecordButton(NSInteger slot, const std::string& title) {
-    NSButton* button = makeButton(title, @selector(recordShortcut:));
+NSButton* SettingsWindowBuilder::makeRecordButton(NSInteger slot, const std::string& title,
+                                                  const RowWiring& wiring) {
+    NSButton* button = makeButton(title, wiring.recordAction);
+    button.target = wiring.target;
     button.tag = slot;
     fixWidth(button, 215);
-    [controls_.recordButtons addObject:button];
+    [wiring.recordButtons addObject:button];
     return button;
 }
 

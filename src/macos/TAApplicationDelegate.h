@@ -6,6 +6,7 @@
 
 #import "macos/TAAdvancedSheet.h"
 #import "macos/TAApplicationsSheet.h"
+#import "macos/TADeviceTable.h"
 #import "macos/TAMoreSheet.h"
 
 namespace tactora {
@@ -20,6 +21,7 @@ NS_ASSUME_NONNULL_BEGIN
 @interface TAApplicationDelegate : NSObject <NSApplicationDelegate,
                                              TAApplicationsSheetTarget,
                                              TAAdvancedSheetTarget,
+                                             TADeviceTableTarget,
                                              TAMoreSheetTarget>
 
 // `program` is not owned; it must outlive every call the delegate receives.

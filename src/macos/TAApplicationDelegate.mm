@@ -1,6 +1,7 @@
 #import "macos/TAApplicationDelegate.h"
 
 #include "core/composition/Tactora.h"
+#include "core/profiles/SurfaceKind.h"
 #include "macos/LaunchEvent.h"
 #include "macos/StringConversion.h"
 
@@ -171,6 +172,27 @@
 
 - (void)closeMoreGestures {
     _program->moreSheet().closed();
+}
+
+- (void)useDevice:(std::uint64_t)device on:(BOOL)on {
+    _program->deviceTable().setUses(device, on == YES);
+}
+
+- (void)chooseSurface:(NSInteger)surface {
+    _program->deviceTable().chooseSurface(surface == 1 ? tactora::SurfaceKind::trackpad
+                                                       : tactora::SurfaceKind::mouse);
+}
+
+- (void)changeTrackpadGesture:(NSInteger)slot action:(NSInteger)action {
+    _program->deviceTable().changed(slot, action);
+}
+
+- (void)recordTrackpadGesture:(NSInteger)slot {
+    _program->deviceTable().recordShortcut(slot);
+}
+
+- (void)openConflictSettings:(NSInteger)tag {
+    _program->deviceTable().openSettings(tag);
 }
 
 - (void)openAdvanced {

@@ -3,6 +3,7 @@
 #import <AppKit/AppKit.h>
 
 #import "macos/TAApplicationsSheet.h"
+#import "macos/TADeviceTable.h"
 #import "macos/TASurfaceView.h"
 
 NS_ASSUME_NONNULL_BEGIN
@@ -31,6 +32,9 @@ NS_ASSUME_NONNULL_BEGIN
 // One per gesture slot, in slot order.
 @property(nonatomic, readonly) NSMutableArray<NSPopUpButton*>* actionMenus;
 @property(nonatomic, readonly) NSMutableArray<NSButton*>* recordButtons;
+// The touch devices: the controls above the gesture table, the trackpads' rows and their sheet;
+// shows nothing until the window is built.
+@property(nonatomic, readonly) TADeviceTable* deviceTable;
 // The live view of the touch surface, placed under the gesture rows.
 @property(nonatomic, readonly) TASurfaceView* surface;
 @property(nonatomic, nullable) NSWindow* window;

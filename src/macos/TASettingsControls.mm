@@ -21,6 +21,7 @@
         _applicationsSheet = [[TAApplicationsSheet alloc] init];
         _actionMenus = [NSMutableArray array];
         _recordButtons = [NSMutableArray array];
+        _deviceTable = [[TADeviceTable alloc] init];
         _surface = [[TASurfaceView alloc] initWithFrame:NSZeroRect];
     }
     return self;
