@@ -46,12 +46,14 @@ class SettingsWindowBuilder {
     void wire(NSButton* button, const std::string& title, SEL action);
     // Where a gesture row's pop-up and record button report, and the lists that keep them.
     struct RowWiring {
-        id target;
-        SEL menuAction;
-        SEL recordAction;
-        NSMutableArray<NSPopUpButton*>* menus;
-        NSMutableArray<NSButton*>* recordButtons;
+        id target = nil;
+        SEL menuAction = nullptr;
+        SEL recordAction = nullptr;
+        NSMutableArray<NSPopUpButton*>* menus = nil;
+        NSMutableArray<NSButton*>* recordButtons = nil;
     };
+    RowWiring mouseWiring() const;
+    RowWiring trackpadWiring() const;
     void addGestureTable(const SettingsWindowTexts& texts);
     void addHeading(const std::string& text, bool withDevices);
     NSStackView* makeGestureRow(const GestureRow& row, const SettingsWindowTexts& texts,

@@ -257,16 +257,8 @@ void SettingsWindowBuilder::wire(NSButton* button, const std::string& title, SEL
 void SettingsWindowBuilder::addGestureTable(const SettingsWindowTexts& texts) {
     TADeviceTable* devices = controls_.deviceTable;
     devices.target = target_;
-    const RowWiring mouse {
-        .target = target_, .menuAction = @selector(changed:),
-        .recordAction = @selector(recordShortcut:), .menus = controls_.actionMenus,
-        .recordButtons = controls_.recordButtons
-    };
-    const RowWiring trackpad {
-        .target = devices, .menuAction = @selector(trackpadChanged:),
-        .recordAction = @selector(recordTrackpad:), .menus = devices.trackpadMenus,
-        .recordButtons = devices.trackpadRecordButtons
-    };
+    const RowWiring mouse = mouseWiring();
+    const RowWiring trackpad = trackpadWiring();
     NSMutableArray<NSView*>* mouseRows = [NSMutableArray array];
     NSMutableArray<NSView*>* trackpadRows = [NSMutableArray array];
     bool first = true;
@@ -279,13 +271,35 @@ void SettingsWindowBuilder::addGestureTable(const SettingsWindowTexts& texts) {
         add(mouseRow);
         [mouseRows addObject:mouseRow];
         NSStackView* trackpadRow = makeGestureRow(row, texts, trackpad);
-        [trackpadRow addArrangedSubview:[devices makeConflictMarkerForSlot:static_cast<NSInteger>(
-                                                                               row.slot)]];
+        const auto slot = static_cast<NSInteger>(row.slot);
+        [trackpadRow addArrangedSubview:[devices makeConflictMarkerForSlot:slot]];
         trackpadRow.detachesHiddenViews = YES;
         add(trackpadRow);
         [trackpadRows addObject:trackpadRow];
     }
     [devices placeMouseRows:mouseRows trackpadRows:trackpadRows];
+}
+
+// The Magic Mouse's rows report to the delegate, the trackpads' to the devices' part.
+SettingsWindowBuilder::RowWiring SettingsWindowBuilder::mouseWiring() const {
+    RowWiring wiring;
+    wiring.target = target_;
+    wiring.menuAction = @selector(changed:);
+    wiring.recordAction = @selector(recordShortcut:);
+    wiring.menus = controls_.actionMenus;
+    wiring.recordButtons = controls_.recordButtons;
+    return wiring;
+}
+
+SettingsWindowBuilder::RowWiring SettingsWindowBuilder::trackpadWiring() const {
+    TADeviceTable* devices = controls_.deviceTable;
+    RowWiring wiring;
+    wiring.target = devices;
+    wiring.menuAction = @selector(trackpadChanged:);
+    wiring.recordAction = @selector(recordTrackpad:);
+    wiring.menus = devices.trackpadMenus;
+    wiring.recordButtons = devices.trackpadRecordButtons;
+    return wiring;
 }
 
 // The first heading shares its line with the devices' controls, at its trailing end; hidden,
