@@ -367,6 +367,9 @@ inline constexpr auto localizationKeys = std::to_array<LocalizationKey>({
     LocalizationKey("devices.system.smart_zoom"),
     LocalizationKey("devices.conflict", {stringArgument, stringArgument}),
     LocalizationKey("devices.conflict.open"),
+    // The button that opens the Touch Surfaces sheet, and the sheet's Done.
+    LocalizationKey("devices.open"),
+    LocalizationKey("devices.done"),
 });
 
 // The entry for `key`, or nothing when the program never looks it up.
