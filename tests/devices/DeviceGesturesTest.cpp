@@ -346,6 +346,25 @@ TEST_F(DeviceGesturesTest, ADeviceLeavingDuringAHeldPressGetsExactlyOneUp) {
     EXPECT_EQ(runner.posted.size(), 1u);
 }
 
+TEST_F(DeviceGesturesTest, ADeviceThatLeftMidTouchEndsNoTapWhenItSendsAgain) {
+    runner.slots.at(slot::forTap(3)).action = action::middle;
+    launchUsing({trackpadID});
+    frame(trackpadID, 3);
+    queue.advance(0.05);
+    frame(trackpadID, 3);
+
+    devices.leave(trackpadID);
+    // Listed again under the same id, and used again as it was ticked.
+    devices.listed[1].state = TouchDeviceState::off;
+    devices.changed();
+    ASSERT_EQ(devices.listed[1].state, TouchDeviceState::connected);
+    queue.advance(0.05);
+    frame(trackpadID, 0);
+    queue.advance(0.5);
+
+    EXPECT_TRUE(runner.performed.empty());
+}
+
 TEST_F(DeviceGesturesTest, SwitchingGesturesOffLetsGoOfEveryHeldPressOnceAndForgetsTouches) {
     runner.slots.at(slot::forClick(3)).action = action::middle;
     runner.slots.at(slot::forTap(2)).action = action::right;

@@ -106,6 +106,20 @@ TEST(DeviceRecognisers, ResetAllForgetsEveryHalfSeenTouch) {
     EXPECT_EQ(recognisers.update(trackpad, lifted, 1.1), std::nullopt);
 }
 
+TEST(DeviceRecognisers, ForgettingAllButSomeKeepsOnlyTheirTouches) {
+    DeviceRecognisers recognisers;
+    recognisers.update(mouse, fingers(2), 1.0);
+    recognisers.update(trackpad, fingers(3), 1.05);
+
+    recognisers.forgetAllBut([](std::uint64_t device) { return device == mouse; });
+
+    EXPECT_EQ(recognisers.deviceCount(), 1U);
+    EXPECT_NE(recognisers.find(mouse), nullptr);
+    EXPECT_EQ(recognisers.find(trackpad), nullptr);
+    EXPECT_EQ(recognisers.update(mouse, lifted, 1.1), 2);
+    EXPECT_EQ(recognisers.update(trackpad, lifted, 1.1), std::nullopt);
+}
+
 TEST(DeviceRecognisers, ALeavingDeviceTakesItsTouchAlong) {
     DeviceRecognisers recognisers;
     recognisers.update(mouse, fingers(1), 1.0);

@@ -311,8 +311,10 @@ void DeviceGestures::devicesChanged() {
     }
     for (const std::uint64_t device : gone) {
         releasePresses(device);
-        recognisers_.forget(device);
     }
+    // A device no longer in use takes its half-seen touch along, so that nothing of it can end
+    // a tap when a device with the same id sends again.
+    recognisers_.forgetAllBut([&now](std::uint64_t device) { return inUse(now, device); });
     if (listChanged_) {
         listChanged_();
     }

@@ -65,4 +65,9 @@ void DeviceRecognisers::forget(std::uint64_t device) {
     recent_ = 0;
 }
 
+void DeviceRecognisers::forgetAllBut(const std::function<bool(std::uint64_t)>& kept) {
+    std::erase_if(touches_, [&kept](const Touch& touch) { return !kept(touch.device); });
+    recent_ = 0;
+}
+
 }  // namespace tactora

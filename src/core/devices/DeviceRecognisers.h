@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -44,6 +45,8 @@ class DeviceRecognisers {
     void resetAll();
     // The device left: its touch is dropped.
     void forget(std::uint64_t device);
+    // Drops the touch of every device that `kept` does not keep.
+    void forgetAllBut(const std::function<bool(std::uint64_t)>& kept);
 
     std::size_t deviceCount() const { return touches_.size(); }
 
