@@ -29,13 +29,6 @@ NSStackView* makeStack(NSUserInterfaceLayoutOrientation orientation, CGFloat spa
     return stack;
 }
 
-void removeAll(NSStackView* stack) {
-    for (NSView* view in [stack.arrangedSubviews copy]) {
-        [stack removeArrangedSubview:view];
-        [view removeFromSuperview];
-    }
-}
-
 // The heading line's controls are small, so that the line is hardly taller than the heading.
 void makeSmall(NSControl* control) {
     control.controlSize = NSControlSizeSmall;
@@ -231,6 +224,11 @@ void makeSmall(NSControl* control) {
     _hint.stringValue = toNSString(_content->hint);
     [self showConflicts:_content->conflicts];
     _done.title = toNSString(_content->doneTitle);
+    // The window keeps the size it has unless told: the sheet takes the height its content
+    // needs, shrinking as lines go.
+    NSView* content = _sheet.contentView;
+    [content layoutSubtreeIfNeeded];
+    [_sheet setContentSize:content.fittingSize];
 }
 
 // Keeps the boxes there are, so that the one the user just clicked stays while it reports.
@@ -259,29 +257,44 @@ void makeSmall(NSControl* control) {
 }
 
 // Each conflict a line of its own: the sentence, and beside it the button that opens where the
-// system's gesture is switched off.
+// system's gesture is switched off. The lines there are keep their places, so that a button the
+// user just clicked stays while it reports.
 - (void)showConflicts:(const std::vector<tactora::ConflictLine>&)conflicts {
     using tactora::macos::toNSString;
-    removeAll(_conflicts);
-    [_conflictLabels removeAllObjects];
-    [_conflictButtons removeAllObjects];
-    for (const tactora::ConflictLine& conflict : conflicts) {
-        NSButton* open = [NSButton buttonWithTitle:toNSString(conflict.buttonTitle)
-                                            target:self
-                                            action:@selector(openConflict:)];
-        open.bezelStyle = NSBezelStylePush;
-        makeSmall(open);
-        open.tag = static_cast<NSInteger>(conflict.tag);
-        const CGFloat textWidth = columnWidth - besideSpacing - open.fittingSize.width;
-        NSTextField* text = tactora::macos::makeWrappingLabel(
-            conflict.text, [NSFont systemFontOfSize:noteSize], textWidth);
-        [_conflictLabels addObject:text];
-        [_conflictButtons addObject:open];
-        NSStackView* line = makeStack(NSUserInterfaceLayoutOrientationHorizontal, besideSpacing);
-        [line addArrangedSubview:text];
-        [line addArrangedSubview:open];
-        [_conflicts addArrangedSubview:line];
+    while (_conflictLabels.count > conflicts.size()) {
+        NSView* line = _conflicts.arrangedSubviews.lastObject;
+        [_conflicts removeArrangedSubview:line];
+        [line removeFromSuperview];
+        [_conflictLabels removeLastObject];
+        [_conflictButtons removeLastObject];
     }
+    while (_conflictLabels.count < conflicts.size()) {
+        [self addConflictLine:toNSString(conflicts[_conflictLabels.count].buttonTitle)];
+    }
+    for (std::size_t i = 0; i < conflicts.size(); ++i) {
+        _conflictLabels[i].stringValue = toNSString(conflicts[i].text);
+        _conflictButtons[i].title = toNSString(conflicts[i].buttonTitle);
+        _conflictButtons[i].tag = static_cast<NSInteger>(conflicts[i].tag);
+    }
+    // Hidden, the empty list takes no room and no spacing.
+    _conflicts.hidden = conflicts.empty();
+}
+
+- (void)addConflictLine:(NSString*)buttonTitle {
+    NSButton* open = [NSButton buttonWithTitle:buttonTitle
+                                        target:self
+                                        action:@selector(openConflict:)];
+    open.bezelStyle = NSBezelStylePush;
+    makeSmall(open);
+    const CGFloat textWidth = columnWidth - besideSpacing - open.fittingSize.width;
+    NSTextField* text =
+        tactora::macos::makeWrappingLabel("", [NSFont systemFontOfSize:noteSize], textWidth);
+    [_conflictLabels addObject:text];
+    [_conflictButtons addObject:open];
+    NSStackView* line = makeStack(NSUserInterfaceLayoutOrientationHorizontal, besideSpacing);
+    [line addArrangedSubview:text];
+    [line addArrangedSubview:open];
+    [_conflicts addArrangedSubview:line];
 }
 
 // --- What the user does -----------------------------------------------------------------------

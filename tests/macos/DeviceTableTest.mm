@@ -197,9 +197,17 @@ class DeviceTableTest : public ::testing::TestWithParam<std::string> {
     NSWindow* window_ = nil;
 };
 
+NSRect aligned(NSView* view, NSView* container) {
+    return [view.superview convertRect:[view alignmentRectForFrame:view.frame] toView:container];
+}
+
+// Hidden views (the rows not shown, detached by their stacks) have no place to check.
 void expectWithin(NSView* container, NSRect bounds) {
     for (NSView* view : subviewsOf<NSView>(container)) {
-        const NSRect frame = [view.superview convertRect:view.frame toView:container];
+        if (view.hiddenOrHasHiddenAncestor) {
+            continue;
+        }
+        const NSRect frame = aligned(view, container);
         EXPECT_GE(NSMinX(frame), NSMinX(bounds) - slack) << view.description.UTF8String;
         EXPECT_LE(NSMaxX(frame), NSMaxX(bounds) + slack) << view.description.UTF8String;
         EXPECT_GE(NSMinY(frame), NSMinY(bounds) - slack) << view.description.UTF8String;
@@ -209,6 +217,9 @@ void expectWithin(NSView* container, NSRect bounds) {
 
 void expectLabelsWhole(NSView* container) {
     for (NSTextField* label : subviewsOf<NSTextField>(container)) {
+        if (label.hiddenOrHasHiddenAncestor) {
+            continue;
+        }
         const NSSize needed =
             [label.cell cellSizeForBounds:NSMakeRect(0, 0, label.frame.size.width, CGFLOAT_MAX)];
         EXPECT_LE(needed.height, label.frame.size.height + slack) << label.stringValue.UTF8String;
@@ -269,9 +280,10 @@ TEST_P(DeviceTableTest, TheDeviceControlsEndTheFirstHeadingsLine) {
     EXPECT_EQ(rowOf(open), rowOf(controls_.enabled) + 1);
     EXPECT_EQ(rowOf(surface), rowOf(open));
     EXPECT_EQ(rowOf(controls_.actionMenus[0]), rowOf(open) + 1);
-    EXPECT_NEAR(NSMaxX(inContent(surface)), width - margin, slack);
-    EXPECT_LT(NSMaxX(inContent(open)), NSMinX(inContent(surface)));
-    EXPECT_GE(NSMinY(inContent(open)), NSMaxY(inContent(controls_.actionMenus[0])));
+    EXPECT_NEAR(NSMaxX(aligned(surface, content())), width - margin, slack);
+    EXPECT_LT(NSMaxX(aligned(open, content())), NSMinX(aligned(surface, content())));
+    EXPECT_GE(NSMinY(aligned(open, content())),
+              NSMaxY(aligned(controls_.actionMenus[0], content())));
 }
 
 TEST_P(DeviceTableTest, WithTheMagicMouseAloneTheWindowIsLaidOutAsBuilt) {
@@ -356,7 +368,8 @@ TEST_P(DeviceTableTest, TheTrackpadRowsAreBuiltAsTheMouses) {
         EXPECT_EQ(menu.numberOfItems,
                   static_cast<NSInteger>(choices().size() + groups.size() + extras));
         if (slot > 0) {
-            EXPECT_LT(NSMaxY(inContent(menu)), NSMinY(inContent(table().trackpadMenus[slot - 1])));
+            EXPECT_LT(NSMaxY(aligned(menu, content())),
+                      NSMinY(aligned(table().trackpadMenus[slot - 1], content())));
         }
     }
     EXPECT_EQ(table().trackpadMenus[1].selectedItem.tag, action::custom);
@@ -392,14 +405,15 @@ TEST_P(DeviceTableTest, ACompetingRowShowsASignThatSaysWithWhatAndOpensTheSheet)
     EXPECT_EQ(macos::toStdString(sign.toolTip), one.conflicts[0].text);
     EXPECT_EQ(macos::toStdString(sign.accessibilityLabel), one.conflicts[0].text);
     EXPECT_EQ(rowOf(sign), rowOf(table().trackpadMenus[competing]));
-    EXPECT_LT(NSMaxX(inContent(table().trackpadRecordButtons[competing])), NSMinX(inContent(sign)));
+    EXPECT_LT(NSMaxX(aligned(table().trackpadRecordButtons[competing], content())),
+              NSMinX(aligned(sign, content())));
 
     [sign performClick:nil];
 
     EXPECT_EQ(table().sheetWindow.sheetParent, window_);
 }
 
-TEST_P(DeviceTableTest, TheButtonOpensTheSheetAndDoneOrEscapeClosesIt) {
+TEST_P(DeviceTableTest, TheButtonOpensTheSheetAndDoneClosesIt) {
     EXPECT_EQ(table().sheetWindow, nil);
     EXPECT_EQ(macos::toStdString(table().openButton.title), L("devices.open"));
 
@@ -413,14 +427,37 @@ TEST_P(DeviceTableTest, TheButtonOpensTheSheetAndDoneOrEscapeClosesIt) {
         }
     }
     ASSERT_NE(done, nil);
+    EXPECT_TRUE([done.keyEquivalent isEqualToString:@"\r"]);
     [done performClick:nil];
-    EXPECT_EQ(sheet.sheetParent, nil);
 
-    openSheet();
-    ASSERT_EQ(sheet.sheetParent, window_);
-    [sheet cancelOperation:nil];
     EXPECT_EQ(sheet.sheetParent, nil);
     EXPECT_EQ(window_.attachedSheet, nil);
+}
+
+TEST_P(DeviceTableTest, EscapeClosesTheSheetAsDoneDoes) {
+    openSheet();
+    NSWindow* sheet = table().sheetWindow;
+    ASSERT_EQ(sheet.sheetParent, window_);
+
+    [sheet cancelOperation:nil];
+
+    EXPECT_EQ(sheet.sheetParent, nil);
+    EXPECT_EQ(window_.attachedSheet, nil);
+}
+
+TEST_P(DeviceTableTest, TheSheetTakesTheHeightItsContentNeeds) {
+    NSView* sheet = openSheet();
+    const CGFloat full = sheet.frame.size.height;
+    EXPECT_NEAR(full, sheet.fittingSize.height, slack);
+
+    DeviceTableContent fewer = fullContent(true);
+    fewer.devices.resize(2);
+    fewer.conflicts.clear();
+    show(fewer);
+    [sheet layoutSubtreeIfNeeded];
+
+    EXPECT_NEAR(sheet.frame.size.height, sheet.fittingSize.height, slack);
+    EXPECT_LT(sheet.frame.size.height, full);
 }
 
 TEST_P(DeviceTableTest, TheSheetStaysWithinTheWindowAndShowsAllOfItself) {
@@ -487,7 +524,7 @@ TEST_P(DeviceTableTest, EveryConflictHasItsLineAndItsButtonInTheSheet) {
         EXPECT_EQ(macos::toStdString(label.stringValue), lines[i].text);
         EXPECT_EQ(macos::toStdString(open.title), L("devices.conflict.open"));
         EXPECT_TRUE(shownIn(open, table().sheetWindow));
-        EXPECT_LT(NSMaxX(in(label, sheet)), NSMinX(in(open, sheet)));
+        EXPECT_LT(NSMaxX(aligned(label, sheet)), NSMinX(aligned(open, sheet)));
         [open performClick:nil];
         EXPECT_EQ(target_.openedTag, lines[i].tag);
         if (i > 0) {
