@@ -242,6 +242,9 @@ void makeSmall(NSControl* control) {
     }
     while (_deviceBoxes.count < devices.size()) {
         NSButton* box = [NSButton checkboxWithTitle:@"" target:self action:@selector(boxChanged:)];
+        // A device's name comes from the device: one too long for the sheet loses its end.
+        box.cell.lineBreakMode = NSLineBreakByTruncatingTail;
+        [box.widthAnchor constraintLessThanOrEqualToConstant:columnWidth].active = YES;
         [_boxes addArrangedSubview:box];
         [_deviceBoxes addObject:box];
     }

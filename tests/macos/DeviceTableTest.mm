@@ -486,6 +486,18 @@ TEST_P(DeviceTableTest, TheSheetsBoxesShowTheDevicesAndTheMagicMouseCannotBeUnti
     EXPECT_EQ(table().deviceBoxes[0].state, NSControlStateValueOn);
 }
 
+TEST_P(DeviceTableTest, AVeryLongDeviceNameLosesItsEndWithinTheSheet) {
+    NSView* sheet = openSheet();
+    DeviceTableContent longName = fullContent(true);
+    longName.devices[1].title = std::string(300, 'W');
+    show(longName);
+    [sheet layoutSubtreeIfNeeded];
+
+    EXPECT_LE(sheet.frame.size.width, width);
+    expectWithin(sheet, sheet.bounds);
+    EXPECT_EQ(macos::toStdString(table().deviceBoxes[1].title), longName.devices[1].title);
+}
+
 TEST_P(DeviceTableTest, ABoxTellsItsDeviceAndWhetherItIsTicked) {
     openSheet();
     NSButton* trackpad = table().deviceBoxes[1];
