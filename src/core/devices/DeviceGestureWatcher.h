@@ -19,9 +19,11 @@ class DeviceGestureWatcher {
     virtual ~DeviceGestureWatcher() = default;
 
     // A tap, or a physical click with one to four fingers resting, on `device`.
-    virtual void recognised(std::uint64_t device, GestureKind kind, std::int64_t fingers) = 0;
+    virtual void recognised(std::uint64_t /*device*/, GestureKind /*kind*/,
+                            std::int64_t /*fingers*/) {}
     // A physical press of `device` became `button`'s press, for `action`.
-    virtual void rewritten(std::uint64_t device, ActionIndex action, MouseButton button) = 0;
+    virtual void rewritten(std::uint64_t /*device*/, ActionIndex /*action*/,
+                           MouseButton /*button*/) {}
 
     // A frame of a device in use, as it reached the main thread at `time`, before its
     // recogniser saw it.

@@ -1,6 +1,5 @@
 #include "core/devices/SystemGestureConflicts.h"
 
-#include <array>
 #include <cstddef>
 
 #include "core/profiles/GestureSlot.h"
@@ -36,12 +35,6 @@ bool isMapped(const GestureSlots& trackpad, std::size_t index) {
     return extraInSlot(trackpad.extras, index).has_value();
 }
 
-constexpr std::array allGestures = {
-    SystemTrackpadGesture::tapToClick,      SystemTrackpadGesture::secondaryClick,
-    SystemTrackpadGesture::threeFingerDrag, SystemTrackpadGesture::lookUp,
-    SystemTrackpadGesture::smartZoom,
-};
-
 }  // namespace
 
 std::vector<GestureConflict> systemGestureConflicts(const GestureSlots& trackpad,
@@ -52,7 +45,7 @@ std::vector<GestureConflict> systemGestureConflicts(const GestureSlots& trackpad
             continue;
         }
         const auto slot = static_cast<std::int64_t>(index);
-        for (const SystemTrackpadGesture gesture : allGestures) {
+        for (const SystemTrackpadGesture gesture : systemTrackpadGestures) {
             if (competes(slot, gesture, settings)) {
                 conflicts.push_back({slot, gesture});
             }

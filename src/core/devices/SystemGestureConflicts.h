@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -16,6 +17,13 @@ enum class SystemTrackpadGesture {
     threeFingerDrag,
     lookUp,
     smartZoom,
+};
+
+// Every one of them, in the order above.
+inline constexpr std::array systemTrackpadGestures = {
+    SystemTrackpadGesture::tapToClick,      SystemTrackpadGesture::secondaryClick,
+    SystemTrackpadGesture::threeFingerDrag, SystemTrackpadGesture::lookUp,
+    SystemTrackpadGesture::smartZoom,
 };
 
 // A mapped trackpad gesture (its slot) and the system gesture, switched on, that the same

@@ -1,28 +1,17 @@
 #include "core/devicetable/DeviceTable.h"
 
-#include <array>
 #include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "core/app/ShortcutForProfile.h"
 #include "core/devices/SystemGestureConflicts.h"
 #include "core/devicetable/DeviceTableRows.h"
 #include "core/localization/Localizer.h"
 #include "core/profiles/GestureSlot.h"
-#include "core/shortcuts/ShortcutRecorder.h"
 
 namespace tactora {
-
-namespace {
-
-constexpr std::array systemGestures = {
-    SystemTrackpadGesture::tapToClick,      SystemTrackpadGesture::secondaryClick,
-    SystemTrackpadGesture::threeFingerDrag, SystemTrackpadGesture::lookUp,
-    SystemTrackpadGesture::smartZoom,
-};
-
-}  // namespace
 
 DeviceTable::DeviceTable(DeviceTableServices services) : services_(services) {}
 
@@ -137,21 +126,9 @@ void DeviceTable::recordShortcut(std::int64_t slot) {
 }
 
 void DeviceTable::record(std::int64_t slot) {
-    ProfileSwitcher& switcher = services_.switcher;
-    // Nothing half seen may complete after the dialog, as with the mouse's rows.
-    switcher.dropPendingWork();
-    const Uuid profile = switcher.profiles().activeID();
-    const RecordingDialogTexts texts = ShortcutRecorder::dialogTexts();
-    ShortcutRecorder recorder;
-    const bool saved = services_.dialogs.runRecordingDialog(
-        texts, [&recorder](const KeyPress& press, RecordingDialog& dialog) {
-            return recorder.handle(press, dialog);
-        });
-    switcher.dropPendingWork();
-    // A shortcut belongs to the profile it was recorded for; if another became active meanwhile,
-    // it is dropped rather than given to that one.
-    if (saved && recorder.captured() && switcher.profiles().activeID() == profile) {
-        switcher.profiles().setShortcut(*recorder.captured(), slot, SurfaceKind::trackpad);
+    if (const std::optional<SavedShortcut> shortcut =
+            recordShortcutForProfile(services_.switcher, services_.dialogs)) {
+        services_.switcher.profiles().setShortcut(*shortcut, slot, SurfaceKind::trackpad);
     }
     show();
 }
@@ -185,7 +162,7 @@ void DeviceTable::choose(std::int64_t slot, ExtraAction extra) {
 }
 
 void DeviceTable::openSettings(std::int64_t tag) {
-    for (const SystemTrackpadGesture gesture : systemGestures) {
+    for (const SystemTrackpadGesture gesture : systemTrackpadGestures) {
         if (static_cast<std::int64_t>(gesture) == tag) {
             services_.workspace.openURL(std::string(settingsAddress(gesture)));
             return;

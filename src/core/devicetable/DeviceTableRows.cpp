@@ -11,6 +11,7 @@
 #include "core/actions/ExtraActionMenu.h"
 #include "core/app/GestureRow.h"
 #include "core/app/Globals.h"
+#include "core/app/RowRecordButton.h"
 #include "core/localization/Localizer.h"
 #include "core/profiles/GestureSlot.h"
 
@@ -46,34 +47,22 @@ std::string stateName(const TouchDevice& device) {
     return L("devices.state.off");
 }
 
+// A slot's action and shortcut; short lists are read as far as they go.
+ActionIndex actionAt(const GestureSlots& slots, std::size_t index) {
+    return index < slots.actions.size() ? slots.actions[index] : action::defaultAction;
+}
+
+std::optional<SavedShortcut> shortcutAt(const GestureSlots& slots, std::size_t index) {
+    return index < slots.shortcuts.size() ? slots.shortcuts[index] : std::nullopt;
+}
+
 // What a slot's pop-up selects: its further action when it holds one, else its action brought
 // into the fifteen, as the mouse's rows show theirs.
 ActionIndex shownAction(const GestureSlots& slots, std::size_t index) {
     if (const std::optional<SlotExtra> extra = slots.extraAt(index)) {
         return action::index(extra->action);
     }
-    const ActionIndex action =
-        index < slots.actions.size() ? slots.actions[index] : action::defaultAction;
-    return std::clamp(action, ActionIndex{0}, action::count - 1);
-}
-
-RecordButtonState recordButton(const GestureSlots& slots, std::size_t index,
-                               ExtraActionPerformer* extras) {
-    if (const std::optional<SlotExtra> extra = slots.extraAt(index)) {
-        if (extras != nullptr) {
-            return extras->rowButton(extra->action, extra->value);
-        }
-        return {.enabled = false, .title = L("record.button"), .toolTip = L("record.button")};
-    }
-    const std::optional<SavedShortcut> shortcut =
-        index < slots.shortcuts.size() ? slots.shortcuts[index] : std::nullopt;
-    const ActionIndex action =
-        index < slots.actions.size() ? slots.actions[index] : action::defaultAction;
-    return {
-        .enabled = action == action::custom,
-        .title = shortcut ? shortcut->label : L("record.button"),
-        .toolTip = L("record.button"),
-    };
+    return std::clamp(actionAt(slots, index), ActionIndex{0}, action::count - 1);
 }
 
 // Slots 0 to 3 are the clicks with one to four fingers, 4 to 7 the taps.
@@ -125,7 +114,9 @@ std::vector<TrackpadRow> trackpadRows(const GestureSlots& slots, ExtraActionPerf
             .actions = items,
             .extraActionGroups = groups,
             .action = shownAction(slots, index),
-            .record = recordButton(slots, index, extras),
+            .record = rowRecordButton(actionAt(slots, index), shortcutAt(slots, index),
+                                      slots.extraAt(index), extras),
+            .conflict = {},
         });
     }
     return rows;

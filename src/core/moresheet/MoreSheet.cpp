@@ -3,8 +3,8 @@
 #include <cmath>
 #include <string>
 
+#include "core/app/ShortcutForProfile.h"
 #include "core/moresheet/MoreSheetRows.h"
-#include "core/shortcuts/ShortcutRecorder.h"
 
 namespace tactora {
 
@@ -107,20 +107,9 @@ void MoreSheet::valuesChanged() {
 }
 
 void MoreSheet::record(MoreGestureSlot slot) {
-    // Nothing half seen may complete after the dialog, as with the gesture rows' recording.
-    switcher_.dropPendingWork();
-    const Uuid profile = switcher_.profiles().activeID();
-    const RecordingDialogTexts texts = ShortcutRecorder::dialogTexts();
-    ShortcutRecorder recorder;
-    const bool saved = dialogs_.runRecordingDialog(
-        texts, [&recorder](const KeyPress& press, RecordingDialog& dialog) {
-            return recorder.handle(press, dialog);
-        });
-    switcher_.dropPendingWork();
-    // A shortcut belongs to the profile it was recorded for; if another became active meanwhile,
-    // it is dropped rather than given to that one.
-    if (saved && recorder.captured() && switcher_.profiles().activeID() == profile) {
-        switcher_.profiles().setMoreShortcut(*recorder.captured(), slot);
+    if (const std::optional<SavedShortcut> shortcut =
+            recordShortcutForProfile(switcher_, dialogs_)) {
+        switcher_.profiles().setMoreShortcut(*shortcut, slot);
         stored();
     }
     showIfOpen();

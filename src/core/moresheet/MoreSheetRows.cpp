@@ -10,6 +10,7 @@
 #include "core/actions/ExtraActionMenu.h"
 #include "core/app/GestureRow.h"
 #include "core/app/Globals.h"
+#include "core/app/RowRecordButton.h"
 #include "core/localization/Localizer.h"
 
 namespace tactora::moresheet {
@@ -27,20 +28,6 @@ struct RowSource {
     std::vector<std::vector<ActionMenuEntry>> extraGroups;
 };
 
-// The record button of `slot`, as the gesture rows show theirs.
-RecordButtonState recordButton(const RowSource& source, MoreGestureSlot slot) {
-    const std::optional<SlotExtra>& extra = source.map.extra(slot);
-    if (extra && source.extras != nullptr) {
-        return source.extras->rowButton(extra->action, extra->value);
-    }
-    const std::optional<SavedShortcut>& shortcut = source.map.shortcut(slot);
-    return {
-        .enabled = source.map.action(slot) == action::custom,
-        .title = shortcut ? shortcut->label : L("record.button"),
-        .toolTip = L("record.button"),
-    };
-}
-
 MoreSheetRow row(const RowSource& source, MoreGestureSlot slot, std::string label) {
     const std::vector<std::string>& names = choices();
     std::vector<ActionMenuEntry> items;
@@ -55,7 +42,8 @@ MoreSheetRow row(const RowSource& source, MoreGestureSlot slot, std::string labe
         .actions = std::move(items),
         .extraActionGroups = source.extraGroups,
         .action = source.map.action(slot),
-        .record = recordButton(source, slot),
+        .record = rowRecordButton(source.map.action(slot), source.map.shortcut(slot),
+                                  source.map.extra(slot), source.extras),
     };
 }
 

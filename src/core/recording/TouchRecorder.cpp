@@ -5,28 +5,11 @@
 #include <vector>
 
 #include "core/localization/Localizer.h"
+#include "core/trace/TraceDevices.h"
 #include "core/trace/TraceFiles.h"
 #include "core/trace/TraceFormat.h"
 
 namespace tactora {
-
-namespace {
-
-TraceDeviceKind traceKind(TouchDeviceKind kind) {
-    switch (kind) {
-        case TouchDeviceKind::magicMouse:
-            return TraceDeviceKind::magicMouse;
-        case TouchDeviceKind::magicTrackpad:
-            return TraceDeviceKind::magicTrackpad;
-        case TouchDeviceKind::builtInTrackpad:
-            return TraceDeviceKind::builtInTrackpad;
-        case TouchDeviceKind::other:
-            break;
-    }
-    return TraceDeviceKind::other;
-}
-
-}  // namespace
 
 TouchRecorder::TouchRecorder(TraceSink& sink, Clock& clock, Workspace& workspace,
                              SettingsView& view, StatusDisplay& display, ProfileSwitcher& profiles)
@@ -124,12 +107,6 @@ void TouchRecorder::mouseEventDecided(const MouseEventNote& note) {
     declare(device, note.time);
     this->note(note.time, TraceMouseEvent{note.type, note.button, true, device});
 }
-
-void TouchRecorder::recognised(std::uint64_t /*device*/, GestureKind /*kind*/,
-                               std::int64_t /*fingers*/) {}
-
-void TouchRecorder::rewritten(std::uint64_t /*device*/, ActionIndex /*action*/,
-                              MouseButton /*button*/) {}
 
 void TouchRecorder::frameReceived(const ContactFrame& frame, double time) {
     if (!trace_.isRecording()) {
@@ -230,7 +207,7 @@ void TouchRecorder::declare(const TouchDevice& device, double time) {
     if (!declared_.insert(device.id).second) {
         return;
     }
-    note(time, TraceDevice{device.id, traceKind(device.kind), device.name});
+    note(time, TraceDevice{device.id, trace::traceKind(device.kind), device.name});
 }
 
 void TouchRecorder::noteGestures(bool on, double time) {

@@ -53,8 +53,6 @@ class TouchRecorder final : public ControllerObserver, private DeviceGestureWatc
     void terminating(double time) override;
 
   private:
-    void recognised(std::uint64_t device, GestureKind kind, std::int64_t fingers) override;
-    void rewritten(std::uint64_t device, ActionIndex action, MouseButton button) override;
     void frameReceived(const ContactFrame& frame, double time) override;
     void useChosen(const TouchDevice& device, bool use, double time) override;
 

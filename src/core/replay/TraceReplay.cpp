@@ -18,6 +18,7 @@
 #include "core/profiles/ProfileStore.h"
 #include "core/replay/ReplayPlatform.h"
 #include "core/replay/VirtualMainQueue.h"
+#include "core/trace/TraceDevices.h"
 #include "core/trace/TraceNumbers.h"
 
 namespace tactora {
@@ -38,20 +39,6 @@ std::shared_ptr<MemoryPreferences> defaultsWith(
         }
     }
     return defaults;
-}
-
-TouchDeviceKind touchKind(TraceDeviceKind kind) {
-    switch (kind) {
-        case TraceDeviceKind::magicMouse:
-            return TouchDeviceKind::magicMouse;
-        case TraceDeviceKind::magicTrackpad:
-            return TouchDeviceKind::magicTrackpad;
-        case TraceDeviceKind::builtInTrackpad:
-            return TouchDeviceKind::builtInTrackpad;
-        case TraceDeviceKind::other:
-            break;
-    }
-    return TouchDeviceKind::other;
 }
 
 // The stand-in platform and the controller running on it, with the gestures of the touch
@@ -146,7 +133,7 @@ struct Stage {
             traceIDs[entry->second] = device.id;
         }
         const TouchDevice declared{.id = entry->second,
-                                   .kind = touchKind(device.kind),
+                                   .kind = trace::touchKind(device.kind),
                                    .state = TouchDeviceState::off,
                                    .error = 0,
                                    .name = device.name};
