@@ -264,6 +264,16 @@ TEST_F(TraceReplayTest, ATrackpadSwitchedOffChangesNothingUntilSwitchedOnAgain) 
               "summary taps=1 clicks=0 actions=1 frames=4 mouse-events=2 seconds=1.100\n");
 }
 
+TEST_F(TraceReplayTest, DeclaringASwitchedOffTrackpadAgainLeavesItSwitchedOff) {
+    const std::string output = TraceReplay::run({declared(1.0),
+                                                 {1.0, TraceDeviceUse{trackpad, false}},
+                                                 declared(1.5),
+                                                 trackpadFrame(2.0, 3),
+                                                 trackpadFrame(2.1, 0)},
+                                                trackpadProfile());
+    EXPECT_EQ(output, "summary taps=0 clicks=0 actions=0 frames=2 mouse-events=0 seconds=1.100\n");
+}
+
 TEST_F(TraceReplayTest, AMagicMouseNamedByADeviceLineIsTheControllersAsAlways) {
     const std::string output = TraceReplay::run({declared(1.0, 7, TraceDeviceKind::magicMouse),
                                                  {1.0, TraceDeviceUse{7, false}},

@@ -122,7 +122,8 @@ struct Stage {
     }
 
     // A Magic Mouse's frames and events go to the controller, whatever its id; any other
-    // device is one the user uses, until the trace says otherwise.
+    // device is one the user uses, until the trace says otherwise. Declared again, a device
+    // keeps its use.
     void apply(const TraceDevice& device) {
         kinds[device.id] = device.kind;
         if (device.kind == TraceDeviceKind::magicMouse) {
@@ -137,8 +138,9 @@ struct Stage {
                                    .state = TouchDeviceState::off,
                                    .error = 0,
                                    .name = device.name};
+        const bool use = added || touchDevices.inUse(declared.id);
         touchDevices.declare(declared);
-        deviceGestures->setUses(declared, true);
+        deviceGestures->setUses(declared, use);
     }
 
     void apply(const TraceDeviceUse& use) {
