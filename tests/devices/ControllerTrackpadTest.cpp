@@ -111,7 +111,9 @@ TEST_F(ControllerTrackpadTest, TheMouseMappingNeverActsOnATrackpadAndTheOtherWay
 TEST_F(ControllerTrackpadTest, AClickOfTheMouseCountsOnlyTheFingersOnTheMouse) {
     tick();
     h.launchAndSwitchOn();
+    // Three fingers (the trackpad's alone) or four (both devices') would make a middle click.
     h.assign(slot::forClick(3), action::middle);
+    h.assign(slot::forClick(4), action::middle);
     mapTrackpad(slot::forClick(1), action::right);
     trackpadFrame(3);
     h.rest(1);

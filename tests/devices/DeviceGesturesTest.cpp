@@ -533,7 +533,6 @@ TEST_F(DeviceGesturesTest, TheWatcherKnowsWhichDevicesGestureAnActionIsCarriedOu
     launchUsing({trackpadID, builtInID});
     FullWatcher watcher(runner);
     gestures->watch(&watcher);
-    watcher.lines.clear();
 
     devices.send(builtInID, fingers(3));
     queue.runReady();

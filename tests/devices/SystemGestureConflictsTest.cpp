@@ -14,12 +14,10 @@ namespace {
 using Conflicts = std::vector<GestureConflict>;
 using enum SystemTrackpadGesture;
 
-constexpr ActionIndex middleClick = 3;
-
 // Trackpad slots with only `slot` mapped.
 GestureSlots mapped(std::int64_t slot) {
     GestureSlots slots;
-    slots.actions[static_cast<std::size_t>(slot)] = middleClick;
+    slots.actions[static_cast<std::size_t>(slot)] = action::middle;
     return slots;
 }
 
@@ -54,7 +52,7 @@ TEST(SystemGestureConflicts, NothingMappedConflictsWithNothing) {
 
 TEST(SystemGestureConflicts, NothingSwitchedOnConflictsWithNothing) {
     GestureSlots everything;
-    everything.actions = std::vector<ActionIndex>(8, middleClick);
+    everything.actions = std::vector<ActionIndex>(slot::count, action::middle);
 
     EXPECT_TRUE(systemGestureConflicts(everything, none).empty());
 }
@@ -103,15 +101,15 @@ TEST(SystemGestureConflicts, SmartZoomTakesTheTwoFingerTap) {
 
 TEST(SystemGestureConflicts, FourFingerGesturesCompeteWithNothing) {
     GestureSlots four;
-    four.actions[static_cast<std::size_t>(slot::forTap(4))] = middleClick;
-    four.actions[static_cast<std::size_t>(slot::forClick(4))] = middleClick;
+    four.actions[static_cast<std::size_t>(slot::forTap(4))] = action::middle;
+    four.actions[static_cast<std::size_t>(slot::forClick(4))] = action::middle;
 
     EXPECT_TRUE(systemGestureConflicts(four, all()).empty());
 }
 
 TEST(SystemGestureConflicts, ListsEveryConflictBySlotThenByGesture) {
     GestureSlots slots;
-    slots.actions = std::vector<ActionIndex>(8, middleClick);
+    slots.actions = std::vector<ActionIndex>(slot::count, action::middle);
 
     EXPECT_EQ(systemGestureConflicts(slots, all()), (Conflicts{{slot::forClick(2), secondaryClick},
                                                                {slot::forClick(3), threeFingerDrag},
@@ -125,26 +123,21 @@ TEST(SystemGestureConflicts, ListsEveryConflictBySlotThenByGesture) {
 // Every pair of a mapped slot and a system gesture switched on by itself, and whether they
 // compete.
 TEST(SystemGestureConflicts, EveryPairOfSlotAndSystemGesture) {
-    const std::vector<SystemTrackpadGesture> gestures = {tapToClick, secondaryClick,
-                                                         threeFingerDrag, lookUp, smartZoom};
     // The pairs that compete; every other one does not.
     const std::vector<std::pair<std::int64_t, SystemTrackpadGesture>> competing = {
         {slot::forTap(1), tapToClick},      {slot::forClick(2), secondaryClick},
         {slot::forTap(3), threeFingerDrag}, {slot::forClick(3), threeFingerDrag},
         {slot::forTap(3), lookUp},          {slot::forTap(2), smartZoom},
     };
-    int pairs = 0;
     for (std::int64_t slot = 0; slot < std::int64_t{slot::count}; ++slot) {
-        for (const SystemTrackpadGesture gesture : gestures) {
+        for (const SystemTrackpadGesture gesture : systemTrackpadGestures) {
             const bool expected =
                 std::ranges::find(competing, std::pair{slot, gesture}) != competing.end();
             const Conflicts found = systemGestureConflicts(mapped(slot), only(gesture));
             const Conflicts wanted = expected ? Conflicts{{slot, gesture}} : Conflicts{};
             EXPECT_EQ(found, wanted) << "slot " << slot << " gesture " << static_cast<int>(gesture);
-            ++pairs;
         }
     }
-    EXPECT_EQ(pairs, 40);
 }
 
 TEST(SystemGestureConflicts, AShortcutWithoutAnActionIsNotAMapping) {
@@ -175,7 +168,7 @@ TEST(SystemGestureConflicts, AnExtraInAnotherSlotMapsOnlyItsOwn) {
 
 TEST(SystemGestureConflicts, ShortListsAreReadAsFarAsTheyGo) {
     GestureSlots shortSlots;
-    shortSlots.actions = {0, middleClick};
+    shortSlots.actions = {0, action::middle};
     shortSlots.shortcuts.clear();
 
     EXPECT_EQ(systemGestureConflicts(shortSlots, all()),
